@@ -1,0 +1,64 @@
+// What a line of the work area means: which part of it is evaluated, what answer it gets, and how Enter rewrites
+// it. Pure text in and out; the window and the console program share it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "format/numeric_format.h"
+#include "values/errors.h"
+
+namespace calquo {
+
+/// The part of `line` that is evaluated: its text up to the first "=", without trailing characters of code 32 or
+/// below. Empty when the "=" stands at index 0 or 1. A line of nothing but such characters comes back whole, so that
+/// its evaluation reports the missing expression at its end.
+std::string_view expressionOf(std::string_view line);
+
+/// What evaluating an expression gave. Reuse one object for many lines: `text` keeps its storage.
+struct Answer {
+    bool failed = false;
+    ErrorCode error = ErrorCode::InvalidExpression;  ///< Meaningful when `failed`.
+    std::size_t position = 0;                        ///< Where the error lies, 0 to the expression's length.
+    std::string text;                                ///< The result; empty when `failed`.
+};
+
+/// Evaluates `expression` and writes its value under `format` into `answer`, in the output base that the expression
+/// asks for. Every engine error ends up in `answer`; none is thrown.
+void evaluateInto(Answer& answer, std::string_view expression, NumericFormat format);
+
+/// Whether a record names the error position after an error message (" at 3").
+enum class ErrorPlace : bool { Hidden, Shown };
+
+/// Appends the one-line record of an answered expression to `output`: "EXPRESSION = RESULT", or
+/// "EXPRESSION = Error (MESSAGE)", or the bare expression when the result reads the same.
+void appendRecord(std::string& output, std::string_view expression, const Answer& answer, ErrorPlace place);
+
+/// The two character styles of the work area.
+enum class TextStyle : std::uint8_t { Normal, Result };
+
+/// A run of text in one style. Lines end with "\n".
+struct StyledText {
+    std::string text;
+    TextStyle style = TextStyle::Normal;
+};
+
+/// How Enter changes a line. The first `kept` characters stay untouched, so that nothing typed there is lost; the
+/// pieces replace the rest of the line. Offsets count from the line's start.
+struct LineEdit {
+    bool changes = false;
+    std::size_t kept = 0;
+    std::vector<StyledText> pieces;
+    std::size_t caret = 0;
+};
+
+/// The edit that Enter makes on `line`: an empty line gets a new line; a line without an expression stays as it is; a
+/// number that prints as it was typed gets a new line; any other expression gets its result, an empty line, and the
+/// result once more with the caret behind it. A failed expression gets its error message, nothing is carried on, and
+/// the caret goes to the mistake.
+LineEdit editAfterEnter(std::string_view line, NumericFormat format);
+
+}  // namespace calquo

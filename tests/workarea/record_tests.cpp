@@ -1,0 +1,127 @@
+// Lines of the work area as a person leaves them, and what evaluating or pressing Enter makes of them.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "workarea/record.h"
+
+namespace calquo {
+namespace {
+
+constexpr NumericFormat automatic = defaultFormats[static_cast<std::size_t>(FormatKind::Automatic)];
+constexpr NumericFormat rational = defaultFormats[static_cast<std::size_t>(FormatKind::Rational)];
+
+struct ExpressionRow {
+    std::string_view line, expression;
+};
+
+TEST(Record, ExpressionEndsAtTheFirstEqualsSign) {
+    const ExpressionRow rows[] = {
+        {"2+3", "2+3"},
+        {"2+3 = 9", "2+3"},
+        {"2+3 \t= 9 = 10", "2+3"},
+        {"  2+3 \r", "  2+3"},
+        {"=5", ""},
+        {"5=9", ""},
+        {" =9", ""},
+        {"55=9", "55"},
+        {"  =9", ""},
+        {"", ""},
+        {" \t ", " \t "},
+        {"2+\xE9 ", "2+\xE9"},
+        {std::string_view("2+3\0", 4), "2+3"},
+    };
+    for (const ExpressionRow& row : rows) EXPECT_EQ(expressionOf(row.line), row.expression) << row.line;
+}
+
+/// `edit` applied to `line`, with "<...>" around result style and "|" for the caret: a picture of the control.
+std::string picture(std::string_view line, const LineEdit& edit) {
+    if (!edit.changes) return "unchanged";
+    std::string text(line.substr(0, edit.kept));
+    std::string styles(edit.kept, 'n');
+    for (const StyledText& piece : edit.pieces) {
+        text += piece.text;
+        styles.append(piece.text.size(), piece.style == TextStyle::Result ? 'r' : 'n');
+    }
+    std::string drawn;
+    for (std::size_t index = 0; index <= text.size(); ++index) {
+        const bool result = index < text.size() && styles[index] == 'r';
+        const bool resultBefore = index > 0 && styles[index - 1] == 'r';
+        if (resultBefore && !result) drawn += '>';
+        if (index == edit.caret) drawn += '|';
+        if (result && !resultBefore) drawn += '<';
+        if (index < text.size()) drawn += text[index];
+    }
+    return drawn;
+}
+
+struct EnterRow {
+    std::string_view line, after;
+    NumericFormat format = automatic;
+};
+
+TEST(Record, EnterWritesTheResultBehindTheExpression) {
+    const EnterRow rows[] = {
+        {"", "\n|"},
+        {"2+3", "2+3< = 5>\n\n5|"},
+        {"2+3 = 9", "2+3< = 5>\n\n5|"},
+        {"2+3   ", "2+3< = 5>\n\n5|"},
+        {"  2+3= Error (incomplete)", "  2+3< = 5>\n\n5|"},
+        {"14", "14\n|"},
+        {"14 = 15", "14\n|"},
+        {" 14", " 14< = 14>\n\n14|"},
+        {"= 14", "unchanged"},
+        {"5=9", "unchanged"},
+        {"   = 14", "unchanged"},
+        {"'16 255", "'16 255< = 16'FF>\n\n16'FF|"},
+        {"1/4", "1/4< = 0.25>\n\n0.25|"},
+        {"0.75", "0.75< = 3/4>\n\n3/4|", rational},
+        {"3/4", "3/4\n|", rational},
+        {"2+", "2+|< = Error (invalid format)>"},
+        {"2) = 4", "2|)< = Error (parentheses)>"},
+        {"1/0+7", "1|/0+7< = Error (division by zero)>"},
+        {"  ", "  |< = Error (invalid format)>"},
+        {"2+\xE9", "2+|\xE9< = Error (invalid format)>"},
+    };
+    for (const EnterRow& row : rows) {
+        EXPECT_EQ(picture(row.line, editAfterEnter(row.line, row.format)), row.after) << row.line;
+    }
+}
+
+struct RecordRow {
+    std::string_view expression, hidden, shown;
+};
+
+TEST(Record, OneLineRecordNamesResultOrError) {
+    const RecordRow rows[] = {
+        {"2+3*4", "2+3*4 = 14", "2+3*4 = 14"},
+        {"14", "14", "14"},
+        {"2+", "2+ = Error (invalid format)", "2+ = Error (invalid format) at 2"},
+    };
+    Answer answer;
+    for (const RecordRow& row : rows) {
+        evaluateInto(answer, row.expression, automatic);
+        std::string hidden = "kept ", shown;
+        appendRecord(hidden, row.expression, answer, ErrorPlace::Hidden);
+        appendRecord(shown, row.expression, answer, ErrorPlace::Shown);
+        EXPECT_EQ(hidden, "kept " + std::string(row.hidden));
+        EXPECT_EQ(shown, row.shown);
+    }
+}
+
+TEST(Record, AnAnswerObjectForgetsThePreviousLine) {
+    Answer answer;
+    evaluateInto(answer, "2+", automatic);
+    EXPECT_TRUE(answer.failed);
+    evaluateInto(answer, "2+3", automatic);
+    EXPECT_FALSE(answer.failed);
+    EXPECT_EQ(answer.text, "5");
+    evaluateInto(answer, "2)", automatic);
+    EXPECT_TRUE(answer.failed);
+    EXPECT_EQ(answer.text, "");
+    EXPECT_EQ(answer.error, ErrorCode::Parentheses);
+}
+
+}  // namespace
+}  // namespace calquo
