@@ -14,6 +14,7 @@ endif()
 set(CMAKE_SYSTEM_NAME Windows)
 set(tools ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
 # The "-win32" compilers beside the "-posix" ones lack std::mutex and std::thread.
+set(CMAKE_C_COMPILER ${tools}-gcc-posix)  # GoogleTest asks for one
 set(CMAKE_CXX_COMPILER ${tools}-g++-posix)
 set(CMAKE_RC_COMPILER ${tools}-windres)
 set(CMAKE_FIND_ROOT_PATH /usr/${tools})
