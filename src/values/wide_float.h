@@ -1,0 +1,44 @@
+// Positive floats with a 128-bit mantissa: what stands between two roundings to 80 bits in reading, writing, powers and
+// logarithms.
+#pragma once
+
+#include <cstdint>
+
+#include "values/uint128.h"
+#include "values/value.h"
+
+namespace calquo {
+
+/// mantissa * 2^exponent, with the mantissa's top bit set.
+struct WideFloat {
+    UInt128 mantissa;
+    int exponent = 0;
+};
+
+/// The number with mantissa other than 0, shifted until its top bit is set.
+constexpr WideFloat normalized(UInt128 mantissa, int exponent) {
+    const int shift = leadingZeros(mantissa);
+    return {shiftLeft(mantissa, shift), exponent - shift};
+}
+
+/// Exact conversion of a word other than 0.
+constexpr WideFloat wideFloat(std::uint64_t word) { return normalized({0, word}, 0); }
+
+/// Exact conversion of a finite positive number.
+WideFloat wideFloat(Real x);
+
+/// a b, too small by less than 2^-126 of itself; exact when the mantissas' significant bits add up to 128 or fewer.
+constexpr WideFloat multiply(const WideFloat& a, const WideFloat& b) {
+    return normalized(multiplyHigh(a.mantissa, b.mantissa), a.exponent + b.exponent + 128);
+}
+
+/// 1 / a within 2^-123 of itself.
+WideFloat reciprocal(const WideFloat& a);
+
+/// base^exponent for a base of 2 to 36, within (|exponent| + 1) 2^-122 of itself.
+WideFloat power(std::uint32_t base, int exponent);
+
+/// The nearest extended number, ties to even; denormals and 0 below the normal range, infinity above the finite one.
+Real toReal(const WideFloat& a);
+
+}  // namespace calquo
