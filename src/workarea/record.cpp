@@ -34,7 +34,6 @@ std::size_t placeInside(std::string_view expression, std::int32_t position) {
 }
 
 void appendErrorText(std::string& output, ErrorCode error) {
-    output += equalsJoint;
     output += "Error (";
     output += errorMessage(error);
     output += ')';
@@ -43,7 +42,7 @@ void appendErrorText(std::string& output, ErrorCode error) {
 /// The edit that writes `answer` behind the expression in the first `kept` characters.
 LineEdit editForAnswer(std::size_t kept, const Answer& answer) {
     if (answer.failed) {
-        StyledText message{{}, TextStyle::Result};
+        StyledText message{std::string(equalsJoint), TextStyle::Result};
         appendErrorText(message.text, answer.error);
         return {true, kept, {std::move(message)}, answer.position};
     }
@@ -81,15 +80,20 @@ void evaluateInto(Answer& answer, std::string_view expression, NumericFormat for
     }
 }
 
+void appendAnswer(std::string& output, const Answer& answer, ErrorPlace place) {
+    if (!answer.failed) {
+        output += answer.text;
+        return;
+    }
+    appendErrorText(output, answer.error);
+    if (place == ErrorPlace::Shown) output += " at " + std::to_string(answer.position);
+}
+
 void appendRecord(std::string& output, std::string_view expression, const Answer& answer, ErrorPlace place) {
     output += expression;
-    if (answer.failed) {
-        appendErrorText(output, answer.error);
-        if (place == ErrorPlace::Shown) output += " at " + std::to_string(answer.position);
-    } else if (answer.text != expression) {
-        output += equalsJoint;
-        output += answer.text;
-    }
+    if (!answer.failed && answer.text == expression) return;
+    output += equalsJoint;
+    appendAnswer(output, answer, place);
 }
 
 LineEdit editAfterEnter(std::string_view line, NumericFormat format) {

@@ -30,11 +30,14 @@ struct Answer {
 /// asks for. Every engine error ends up in `answer`; none is thrown.
 void evaluateInto(Answer& answer, std::string_view expression, NumericFormat format);
 
-/// Whether a record names the error position after an error message (" at 3").
+/// Whether an answer names the error position after an error message (" at 3").
 enum class ErrorPlace : bool { Hidden, Shown };
 
-/// Appends the one-line record of an answered expression to `output`: "EXPRESSION = RESULT", or
-/// "EXPRESSION = Error (MESSAGE)", or the bare expression when the result reads the same.
+/// Appends an answer to `output`: the result, or "Error (MESSAGE)".
+void appendAnswer(std::string& output, const Answer& answer, ErrorPlace place);
+
+/// Appends the one-line record of an answered expression to `output`: "EXPRESSION = ANSWER", or the bare expression
+/// when the result reads the same.
 void appendRecord(std::string& output, std::string_view expression, const Answer& answer, ErrorPlace place);
 
 /// The two character styles of the work area.
