@@ -33,27 +33,25 @@ std::size_t placeInside(std::string_view expression, std::int32_t position) {
     return position < 0 ? expression.size() : std::min(static_cast<std::size_t>(position), expression.size());
 }
 
-void appendErrorText(std::string& output, ErrorCode error) {
-    output += "Error (";
-    output += errorMessage(error);
-    output += ')';
+/// The edit that writes the error message behind the expression, which takes the first `length` characters of `line`.
+LineEdit editForError(std::string_view line, std::size_t length, const Answer& answer) {
+    StyledText message{std::string(equalsJoint), TextStyle::Result};
+    appendAnswer(message.text, answer, ErrorPlace::Hidden);
+    return {true, length, line.size(), {std::move(message)}, answer.position};
 }
 
-/// The edit that writes `answer` behind the expression in the first `kept` characters.
-LineEdit editForAnswer(std::size_t kept, const Answer& answer) {
-    if (answer.failed) {
-        StyledText message{std::string(equalsJoint), TextStyle::Result};
-        appendErrorText(message.text, answer.error);
-        return {true, kept, {std::move(message)}, answer.position};
-    }
+/// The edit that writes the result behind the expression and carries it on to a new line.
+LineEdit editForResult(std::string_view line, std::size_t length, const Answer& answer) {
     StyledText result{std::string(equalsJoint) + answer.text, TextStyle::Result};
     StyledText carried{"\n\n" + answer.text, TextStyle::Normal};
-    const std::size_t caret = kept + result.text.size() + carried.text.size();
-    return {true, kept, {std::move(result), std::move(carried)}, caret};
+    const std::size_t caret = length + result.text.size() + carried.text.size();
+    return {true, length, line.size(), {std::move(result), std::move(carried)}, caret};
 }
 
-/// The edit that ends the line after its first `kept` characters and goes on below.
-LineEdit editForNewLine(std::size_t kept) { return {true, kept, {{"\n", TextStyle::Normal}}, kept + 1}; }
+/// The edit that ends the line after its first `length` characters and goes on below.
+LineEdit editForNewLine(std::string_view line, std::size_t length) {
+    return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1};
+}
 
 }  // namespace
 
@@ -85,7 +83,9 @@ void appendAnswer(std::string& output, const Answer& answer, ErrorPlace place) {
         output += answer.text;
         return;
     }
-    appendErrorText(output, answer.error);
+    output += "Error (";
+    output += errorMessage(answer.error);
+    output += ')';
     if (place == ErrorPlace::Shown) output += " at " + std::to_string(answer.position);
 }
 
@@ -97,13 +97,24 @@ void appendRecord(std::string& output, std::string_view expression, const Answer
 }
 
 LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
-    if (line.empty()) return editForNewLine(0);
+    if (line.empty()) return editForNewLine(line, 0);
     const std::string_view expression = expressionOf(line);
     if (expression.empty()) return {};
     Answer answer;
     evaluateInto(answer, expression, format);
-    if (!answer.failed && answer.text == expression) return editForNewLine(expression.size());
-    return editForAnswer(expression.size(), answer);
+    if (answer.failed) return editForError(line, expression.size(), answer);
+    if (answer.text == expression) return editForNewLine(line, expression.size());
+    return editForResult(line, expression.size(), answer);
+}
+
+LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format) {
+    const std::string_view expression = expressionOf(line);
+    if (expression.empty()) return {};
+    Answer answer;
+    evaluateInto(answer, expression, format);
+    if (answer.failed) return editForError(line, expression.size(), answer);
+    const std::size_t caret = begin + answer.text.size();
+    return {true, begin, end, {{std::move(answer.text), TextStyle::Normal}}, caret};
 }
 
 }  // namespace calquo

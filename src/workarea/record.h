@@ -49,11 +49,12 @@ struct StyledText {
     TextStyle style = TextStyle::Normal;
 };
 
-/// How Enter changes a line. The first `kept` characters stay untouched, so that nothing typed there is lost; the
-/// pieces replace the rest of the line. Offsets count from the line's start.
+/// A change of a line's text, with offsets from the line's start. Only the characters from `begin` to `end` are
+/// replaced, so that nothing outside them is lost; a selection may make `end` lie behind the line.
 struct LineEdit {
     bool changes = false;
-    std::size_t kept = 0;
+    std::size_t begin = 0;
+    std::size_t end = 0;
     std::vector<StyledText> pieces;
     std::size_t caret = 0;
 };
@@ -63,5 +64,9 @@ struct LineEdit {
 /// result once more with the caret behind it. A failed expression gets its error message, nothing is carried on, and
 /// the caret goes to the mistake.
 LineEdit editAfterEnter(std::string_view line, NumericFormat format);
+
+/// The edit that puts the result of `line` in place of its selected characters, `begin` to `end`. A line without an
+/// expression stays as it is, and one that fails gets its error message as after Enter.
+LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format);
 
 }  // namespace calquo

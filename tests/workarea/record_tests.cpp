@@ -1,6 +1,7 @@
 // Lines of the work area as a person leaves them, and what evaluating or pressing Enter makes of them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -38,16 +39,17 @@ TEST(Record, ExpressionEndsAtTheFirstEqualsSign) {
 /// `edit` applied to `line`, with "<...>" around result style and "|" for the caret: a picture of the control.
 std::string picture(std::string_view line, const LineEdit& edit) {
     if (!edit.changes) return "unchanged";
-    std::string text(line.substr(0, edit.kept));
-    std::string styles(edit.kept, 'n');
+    std::string text(line.substr(0, edit.begin));
+    std::string styles(edit.begin, 'n');
     for (const StyledText& piece : edit.pieces) {
         text += piece.text;
         styles.append(piece.text.size(), piece.style == TextStyle::Result ? 'r' : 'n');
     }
+    text += line.substr(std::min(edit.end, line.size()));
     std::string drawn;
     for (std::size_t index = 0; index <= text.size(); ++index) {
-        const bool result = index < text.size() && styles[index] == 'r';
-        const bool resultBefore = index > 0 && styles[index - 1] == 'r';
+        const bool result = index < styles.size() && styles[index] == 'r';
+        const bool resultBefore = index > 0 && index <= styles.size() && styles[index - 1] == 'r';
         if (resultBefore && !result) drawn += '>';
         if (index == edit.caret) drawn += '|';
         if (result && !resultBefore) drawn += '<';
@@ -86,6 +88,27 @@ TEST(Record, EnterWritesTheResultBehindTheExpression) {
     };
     for (const EnterRow& row : rows) {
         EXPECT_EQ(picture(row.line, editAfterEnter(row.line, row.format)), row.after) << row.line;
+    }
+}
+
+struct InPlaceRow {
+    std::string_view line;
+    std::size_t begin, end;
+    std::string_view after;
+};
+
+TEST(Record, ResultTakesThePlaceOfTheSelection) {
+    const InPlaceRow rows[] = {
+        {"2+3", 3, 3, "2+35|"},
+        {"2+3", 0, 3, "5|"},
+        {"2+3 = 9", 6, 7, "2+3 = 5|"},
+        {"2+3*4", 2, 5, "2+14|"},
+        {"2+", 0, 1, "2+|< = Error (invalid format)>"},
+        {"= 4", 1, 2, "unchanged"},
+        {"", 0, 0, "unchanged"},
+    };
+    for (const InPlaceRow& row : rows) {
+        EXPECT_EQ(picture(row.line, editWithResult(row.line, row.begin, row.end, automatic)), row.after) << row.line;
     }
 }
 
