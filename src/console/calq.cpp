@@ -1,0 +1,171 @@
+// Streaming lines through the engine; see calq.h.
+#include "console/calq.h"
+
+#include <cstdio>
+
+#include "console/byte_streams.h"
+#include "values/program.h"
+
+namespace calquo {
+namespace {
+
+constexpr int allWell = 0;
+constexpr int someFailed = 1;
+constexpr int notDone = 2;
+
+std::string_view withoutBlanksAround(std::string_view text) {
+    while (!text.empty() && static_cast<unsigned char>(text.front()) <= ' ') text.remove_prefix(1);
+    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
+    return text;
+}
+
+/// Calls `take` with each line of `text`; a line end at its very end begins no further line.
+template <typename TakeLine>
+void forEachLine(std::string_view text, TakeLine take) {
+    for (;;) {
+        const std::size_t lineEnd = text.find('\n');
+        std::string_view line = text.substr(0, lineEnd);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        take(line);
+        if (lineEnd == std::string_view::npos || lineEnd + 1 == text.size()) return;
+        text.remove_prefix(lineEnd + 1);
+    }
+}
+
+int answerArguments(const Options& options, OutputStream& output) {
+    LineAnswerer answerer(options);
+    const bool showsCaret = isTerminal(standardError);
+    int status = allWell;
+    for (const std::string_view argument : options.operands) {
+        forEachLine(argument, [&](std::string_view line) {
+            const bool answered = answerer.answer(line, output.text());
+            output.lineEnded();
+            if (answered) return;
+            status = someFailed;
+            if (showsCaret) {
+                output.flush();
+                std::fputs(lineWithCaret(line, answerer.errorPlace()).c_str(), stderr);
+            }
+        });
+    }
+    return status;
+}
+
+int answerStandardInput(const Options& options, OutputStream& output) {
+    LineAnswerer answerer(options);
+    LineReader reader(standardInput, "standard input", output);
+    std::string_view line;
+    while (reader.next(line)) {
+        answerer.answer(line, output.text());
+        output.lineEnded();
+    }
+    return allWell;
+}
+
+/// Whether all records of an open file give today what was saved.
+bool checkFile(LineAnswerer& answerer, int file, const std::string& name, OutputStream& output) {
+    LineReader reader(file, name, output);
+    bool allSame = true;
+    std::string_view line;
+    for (std::size_t number = 1; reader.next(line); ++number) {
+        if (!answerer.check(line, name + ":" + std::to_string(number), output.text())) allSame = false;
+        output.lineEnded();
+    }
+    output.flush();
+    return allSame;
+}
+
+int checkRecords(const Options& options, OutputStream& output) {
+    LineAnswerer answerer(options);
+    bool allSame = true;
+    if (options.operands.empty()) allSame = checkFile(answerer, standardInput, "standard input", output);
+    for (const std::string_view operand : options.operands) {
+        const std::string path(operand);
+        const InputFile file(path);
+        if (!checkFile(answerer, file.descriptor(), path, output)) allSame = false;
+    }
+    return allSame ? allWell : someFailed;
+}
+
+int runWith(const Options& options, OutputStream& output) {
+    if (options.help) {
+        output.text() += helpText();
+        return allWell;
+    }
+    if (options.version) {
+        output.text().append(programName).append(" ").append(programVersion).append("\n");
+        return allWell;
+    }
+    applyToEngine(options);
+    if (options.check) return checkRecords(options, output);
+    return options.operands.empty() ? answerStandardInput(options, output) : answerArguments(options, output);
+}
+
+}  // namespace
+
+LineAnswerer::LineAnswerer(const Options& options)
+    : format(options.format()),
+      writesRecords(options.record),
+      place(options.position ? ErrorPlace::Shown : ErrorPlace::Hidden) {}
+
+bool LineAnswerer::answer(std::string_view line, std::string& output) {
+    const std::string_view expression = expressionOf(line);
+    latest.failed = false;
+    if (!expression.empty()) {
+        evaluateInto(latest, expression, format);
+        if (writesRecords) {
+            appendRecord(output, expression, latest, place);
+        } else {
+            appendAnswer(output, latest, place);
+        }
+    }
+    output += '\n';
+    return !latest.failed;
+}
+
+const std::string& LineAnswerer::answerText(ErrorPlace shownOrHidden) {
+    text.clear();
+    appendAnswer(text, latest, shownOrHidden);
+    return text;
+}
+
+bool LineAnswerer::check(std::string_view line, std::string_view recordPlace, std::string& output) {
+    const std::size_t equals = line.find('=');
+    const std::string_view expression = expressionOf(line);
+    if (equals == std::string_view::npos || expression.empty()) return true;
+    const std::string_view saved = withoutBlanksAround(line.substr(equals + 1));
+
+    evaluateInto(latest, expression, format);
+    if (saved == answerText(ErrorPlace::Hidden) || saved == answerText(ErrorPlace::Shown)) return true;
+    output.append(recordPlace).append(": ").append(expression).append(" = ").append(saved);
+    output.append(" (now ").append(answerText(place)).append(")\n");
+    return false;
+}
+
+std::string lineWithCaret(std::string_view line, std::size_t position) {
+    std::string text(line);
+    text += '\n';
+    for (const char character : line.substr(0, position)) {
+        const bool continuesCharacter = (static_cast<unsigned char>(character) & 0xC0) == 0x80;
+        if (!continuesCharacter) text += character == '\t' ? '\t' : ' ';
+    }
+    text += "^\n";
+    return text;
+}
+
+int runCalq(std::span<const char* const> arguments) {
+    try {
+        const Options options = parseOptions(arguments);
+        OutputStream output(standardOutput);
+        const int status = runWith(options, output);
+        output.flush();
+        return status;
+    } catch (const OptionFault& fault) {
+        std::fprintf(stderr, "calq: %s\nTry calq --help.\n", fault.message.c_str());
+    } catch (const StreamFault& fault) {
+        std::fprintf(stderr, "calq: %s\n", fault.message.c_str());
+    }
+    return notDone;
+}
+
+}  // namespace calquo

@@ -1,0 +1,195 @@
+// The table of options and everything that is derived from it; see options.h.
+#include "console/options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+
+#include "engine/characters.h"
+#include "numeric/random.h"
+#include "values/program.h"
+
+namespace calquo {
+namespace {
+
+FormatKind readKind(std::string_view text) {
+    const auto found = std::find_if(formatKinds.begin(), formatKinds.end(),
+                                    [text](const FormatKindRow& row) { return row.optionName == text; });
+    if (found == formatKinds.end()) throw OptionFault{"there is no format \"" + std::string(text) + "\""};
+    return static_cast<FormatKind>(found - formatKinds.begin());
+}
+
+/// Reads all of `text` as a natural number; nothing when it is none or too large for the type.
+template <typename Natural>
+std::optional<Natural> readNatural(std::string_view text, int base) {
+    Natural value{};
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value, base);
+    if (error != std::errc{} || stop != end) return std::nullopt;
+    return value;
+}
+
+NumericFormat readWord(std::string_view text) {
+    const std::optional<NumericFormat> word = readNatural<NumericFormat>(text, 16);
+    if (!word || text.size() > 8) {
+        throw OptionFault{"a format word is 1 to 8 hexadecimal digits, not \"" + std::string(text) + "\""};
+    }
+    if (getField(*word, field::kind) >= formatKinds.size()) {
+        throw OptionFault{"the format word " + std::string(text) + " is of no kind that there is"};
+    }
+    return *word;
+}
+
+char readMark(std::string_view text) {
+    if (text.size() != 1 || text[0] <= ' ' || text[0] > '~') {
+        throw OptionFault{"a mark is one printable ASCII character, not \"" + std::string(text) + "\""};
+    }
+    return text[0];
+}
+
+std::uint64_t readSeed(std::string_view text) {
+    const std::optional<std::uint64_t> seed = readNatural<std::uint64_t>(text, 10);
+    if (!seed) throw OptionFault{"a seed is a whole number below 2^64, not \"" + std::string(text) + "\""};
+    return *seed;
+}
+
+struct OptionRow {
+    std::string_view name;
+    std::string_view argument;  ///< What the help calls the option's argument; empty when it takes none.
+    std::string_view help;
+    void (*apply)(Options&, std::string_view argument);  ///< Throws OptionFault.
+};
+
+constexpr OptionRow optionTable[] = {
+    {"record", "", "write records, as the work area does: EXPRESSION = RESULT",
+     [](Options& options, std::string_view) { options.record = true; }},
+    {"position", "", "append \" at N\" to errors: N characters stand before the mistake",
+     [](Options& options, std::string_view) { options.position = true; }},
+    {"check", "", "evaluate saved records again (from files, or standard input)\nand list those whose result differs",
+     [](Options& options, std::string_view) { options.check = true; }},
+    {"format", "KIND", "write results in the format of this kind",
+     [](Options& options, std::string_view argument) { options.kind = readKind(argument); }},
+    {"word", "HEX", "write results under a packed format word; overrides --format",
+     [](Options& options, std::string_view argument) { options.word = readWord(argument); }},
+    {"decimal-mark", "C", "use the character C in place of \".\"",
+     [](Options& options, std::string_view argument) { options.decimalMark = readMark(argument); }},
+    {"group-mark", "C",
+     "use the character C in place of \",\"; a character that the\nlanguage needs is not taken for a mark",
+     [](Options& options, std::string_view argument) { options.groupMark = readMark(argument); }},
+    {"seed", "N", "start the random numbers at N instead of at the clock",
+     [](Options& options, std::string_view argument) { options.seed = readSeed(argument); }},
+    {"help", "", "explain the program and end", [](Options& options, std::string_view) { options.help = true; }},
+    {"version", "", "show the version and end", [](Options& options, std::string_view) { options.version = true; }},
+};
+
+const OptionRow& findOption(std::string_view name) {
+    const auto* found = std::find_if(std::begin(optionTable), std::end(optionTable),
+                                     [name](const OptionRow& row) { return row.name == name; });
+    if (found == std::end(optionTable)) {
+        throw OptionFault{"there is no option --" + std::string(name) + "; put -- before a line that begins with it"};
+    }
+    return *found;
+}
+
+}  // namespace
+
+NumericFormat Options::format() const { return word ? *word : defaultFormats[static_cast<std::size_t>(kind)]; }
+
+Options parseOptions(std::span<const char* const> arguments) {
+    Options options;
+    bool optionsEnded = false;
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        const std::string_view word = arguments[index];
+        if (optionsEnded || !word.starts_with("--")) {
+            options.operands.push_back(word);
+            continue;
+        }
+        if (word == "--") {
+            optionsEnded = true;
+            continue;
+        }
+        const std::size_t equals = word.find('=');
+        const bool joined = equals != std::string_view::npos;
+        const std::string_view spelling = word.substr(0, equals);
+        const OptionRow& row = findOption(spelling.substr(2));
+        if (row.argument.empty() && joined) throw OptionFault{std::string(spelling) + " takes no argument"};
+        std::string_view argument = joined ? word.substr(equals + 1) : std::string_view();
+        if (!row.argument.empty() && !joined) {
+            if (++index == arguments.size()) {
+                throw OptionFault{std::string(spelling) + " needs its " + std::string(row.argument)};
+            }
+            argument = arguments[index];
+        }
+        row.apply(options, argument);
+    }
+    if (options.check && options.record) throw OptionFault{"--check and --record exclude each other"};
+    return options;
+}
+
+std::string helpText() {
+    constexpr std::size_t textColumn = 22;
+    std::string text = "Usage: calq [OPTION...] [LINE...]\n       calq --check [OPTION...] [FILE...]\n\n";
+    text += programName;
+    text +=
+        " evaluates each LINE, or without one each line of standard input, and writes one\n"
+        "line for it: the result, or \"Error (MESSAGE)\". An empty line gives an empty line.\n"
+        "The text from the first \"=\" on is ignored, so that records can be evaluated again.\n\n";
+    for (const OptionRow& row : optionTable) {
+        std::string lead = "  --" + std::string(row.name);
+        if (!row.argument.empty()) lead += " " + std::string(row.argument);
+        lead.resize(textColumn, ' ');
+        text += lead;
+        for (const char character : row.help) {
+            text += character;
+            if (character == '\n') text.append(textColumn, ' ');
+        }
+        text += '\n';
+    }
+    text += "  --                  take everything that follows for LINEs\n\nKINDs:";
+    for (const FormatKindRow& kind : formatKinds) text.append(" ").append(kind.optionName);
+    text +=
+        "\n\n"
+        "Exit status: 0 when all went well; 1 when a LINE of the command line has an error, or\n"
+        "a checked record differs; 2 for a wrong option, or when reading or writing failed.\n"
+        "An error in a line of standard input shows in its answer alone.\n";
+    return text;
+}
+
+namespace {
+
+/// A seed that differs from start to start.
+std::uint64_t clockSeed() {
+    const auto time = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+    return time ^ (time >> 32);
+}
+
+/// Exchanging the marks needs a third place: the group mark waits on a character that nothing else uses.
+void setBothMarks(char decimalMark, char groupMark) {
+    constexpr char waiting = '\x01';
+    const char oldDecimal = markCharacter(TokenClass::DecimalMark);
+    const char oldGroup = markCharacter(TokenClass::GroupMark);
+    setMarkCharacter(TokenClass::GroupMark, waiting);
+    setMarkCharacter(TokenClass::DecimalMark, decimalMark);
+    setMarkCharacter(TokenClass::GroupMark, groupMark);
+    // A refused group mark goes back to what it was, and when the decimal mark has taken that, both do.
+    if (markCharacter(TokenClass::GroupMark) == waiting) setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    if (markCharacter(TokenClass::GroupMark) == waiting) {
+        setMarkCharacter(TokenClass::DecimalMark, oldDecimal);
+        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    }
+}
+
+}  // namespace
+
+void applyToEngine(const Options& options) {
+    if (options.decimalMark && options.groupMark) {
+        setBothMarks(*options.decimalMark, *options.groupMark);
+    } else if (options.decimalMark) {
+        setMarkCharacter(TokenClass::DecimalMark, *options.decimalMark);
+    } else if (options.groupMark) {
+        setMarkCharacter(TokenClass::GroupMark, *options.groupMark);
+    }
+    seedRandom(options.seed ? *options.seed : clockSeed());
+}
+
+}  // namespace calquo

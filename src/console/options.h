@@ -1,0 +1,51 @@
+// The options of calq, the console program: one table that reads them, explains them and says what they change.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "format/numeric_format.h"
+
+namespace calquo {
+
+/// What the command line asks for.
+struct Options {
+    bool record = false;
+    bool position = false;
+    bool check = false;
+    bool help = false;
+    bool version = false;
+    FormatKind kind = FormatKind::Automatic;
+    std::optional<NumericFormat> word;  ///< Overrides `kind`.
+    std::optional<char> decimalMark;
+    std::optional<char> groupMark;
+    std::optional<std::uint64_t> seed;
+    std::vector<std::string_view> operands;  ///< The LINEs, or with --check the files.
+
+    /// The format that results are written in.
+    NumericFormat format() const;
+};
+
+/// What is wrong with a command line, in words for its user.
+struct OptionFault {
+    std::string message;
+};
+
+/// Reads the arguments that follow the program's name. What begins with "--" is an option, up to a lone "--";
+/// everything else is an operand, so that "-2^2" is a line to evaluate. An option's argument follows it as the next
+/// argument or behind "=". Of an option given twice the last counts. Throws OptionFault.
+Options parseOptions(std::span<const char* const> arguments);
+
+/// What --help prints.
+std::string helpText();
+
+/// Puts the marks of the options into the character table and seeds the random generator, from the clock unless the
+/// options give a seed. A mark whose character is taken leaves the table as it was; given together, the marks may
+/// exchange their characters.
+void applyToEngine(const Options& options);
+
+}  // namespace calquo

@@ -1,0 +1,125 @@
+// The command line of calq, what it makes of the marks, and how it shows a mistake.
+#include "console/options.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "console/calq.h"
+#include "engine/characters.h"
+
+namespace calquo {
+namespace {
+
+std::vector<std::string> split(const std::string& text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+/// The options of a command line that is written with blanks between its arguments; `arguments` keeps them alive.
+Options parse(const std::vector<std::string>& arguments) {
+    std::vector<const char*> pointers;
+    for (const std::string& argument : arguments) pointers.push_back(argument.c_str());
+    return parseOptions(pointers);
+}
+
+std::string faultOf(const std::string& line) {
+    try {
+        parse(split(line));
+    } catch (const OptionFault& fault) {
+        return fault.message;
+    }
+    return "none";
+}
+
+TEST(Options, LinesMayBeginWithOneMinusAndAfterTheEndMarkWithTwo) {
+    const std::vector<std::string> arguments = split("-2^2 --record -- --5 --help");
+    const Options options = parse(arguments);
+    EXPECT_TRUE(options.record);
+    EXPECT_FALSE(options.help);
+    EXPECT_EQ(options.operands, (std::vector<std::string_view>{"-2^2", "--5", "--help"}));
+}
+
+TEST(Options, FormatWordsOverrideFormatsWhereverTheyStand) {
+    struct Row {
+        const char* line;
+        NumericFormat format;
+    };
+    const Row rows[] = {
+        {"", 0x032A1044},
+        {"--format rational", 0x53180000},
+        {"--format=fixed --format=integer", 0x4400200C},
+        {"--word 3CCDE00 --format rational", 0x03CCDE00},
+        {"--format=rational --word=4480200C", 0x4480200C},
+        {"--word 0", 0},
+    };
+    for (const Row& row : rows) EXPECT_EQ(parse(split(row.line)).format(), row.format) << row.line;
+}
+
+TEST(Options, WrongOnesAreNamed) {
+    struct Row {
+        const char *line, *part;
+    };
+    const Row rows[] = {
+        {"--recrod", "--recrod"},
+        {"--=", "no option --;"},
+        {"--record=yes", "takes no argument"},
+        {"--format", "needs its KIND"},
+        {"--format Rational2", "\"Rational2\""},
+        {"--format=", "\"\""},
+        {"--word 123456789", "\"123456789\""},
+        {"--word 032A10G4", "\"032A10G4\""},
+        {"--word 0x12", "\"0x12\""},
+        {"--word -1", "\"-1\""},
+        {"--word 70000000", "no kind"},
+        {"--decimal-mark ::", "\"::\""},
+        {"--group-mark=", "\"\""},
+        {"--group-mark \xC2\xA0", "printable"},
+        {"--seed -1", "\"-1\""},
+        {"--seed 18446744073709551616", "below 2^64"},
+        {"--check --record", "exclude"},
+    };
+    for (const Row& row : rows) EXPECT_NE(faultOf(row.line).find(row.part), std::string::npos) << row.line;
+    EXPECT_EQ(faultOf("--seed 18446744073709551615"), "none");
+}
+
+/// The decimal and the group mark after the options of `line` have been applied to the default marks.
+std::string marksAfter(const std::string& line) {
+    applyToEngine(parse(split("--decimal-mark . --group-mark ,")));
+    applyToEngine(parse(split(line)));
+    const std::string marks = {markCharacter(TokenClass::DecimalMark), markCharacter(TokenClass::GroupMark)};
+    applyToEngine(parse(split("--decimal-mark . --group-mark ,")));
+    return marks;
+}
+
+TEST(Options, MarksTakeFreeCharactersAndMayChangePlaces) {
+    struct Row {
+        const char *line, *marks;
+    };
+    const Row rows[] = {
+        {"--decimal-mark ~", "~,"},
+        {"--group-mark #", ".#"},
+        {"--group-mark .", ".,"},
+        {"--decimal-mark ,", ".,"},
+        {"--decimal-mark 7", ".,"},
+        {"--decimal-mark , --group-mark .", ",."},
+        {"--group-mark . --decimal-mark ,", ",."},
+        {"--decimal-mark , --group-mark _", ",_"},
+        {"--decimal-mark _ --group-mark .", "_."},
+        {"--decimal-mark _ --group-mark 5", "_,"},
+        {"--decimal-mark , --group-mark 5", ".,"},
+        {"--decimal-mark + --group-mark #", ".#"},
+        {"--decimal-mark # --group-mark #", "#,"},
+    };
+    for (const Row& row : rows) EXPECT_EQ(marksAfter(row.line), row.marks) << row.line;
+}
+
+TEST(Options, CaretStandsUnderTheMistakeWhateverTheWidthOfWhatPrecedes) {
+    EXPECT_EQ(lineWithCaret("2+", 2), "2+\n  ^\n");
+    EXPECT_EQ(lineWithCaret("\t2 3", 3), "\t2 3\n\t  ^\n");
+    EXPECT_EQ(lineWithCaret("\xC3\xA9+$", 3), "\xC3\xA9+$\n  ^\n");
+    EXPECT_EQ(lineWithCaret("", 0), "\n^\n");
+}
+
+}  // namespace
+}  // namespace calquo
