@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 
 #include "engine/characters.h"
 #include "numeric/random.h"
@@ -157,12 +156,6 @@ std::string helpText() {
 
 namespace {
 
-/// A seed that differs from start to start.
-std::uint64_t clockSeed() {
-    const auto time = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-    return time ^ (time >> 32);
-}
-
 /// Exchanging the marks needs a third place: the group mark waits on a character that nothing else uses.
 void setBothMarks(char decimalMark, char groupMark) {
     constexpr char waiting = '\x01';
@@ -189,7 +182,11 @@ void applyToEngine(const Options& options) {
     } else if (options.groupMark) {
         setMarkCharacter(TokenClass::GroupMark, *options.groupMark);
     }
-    seedRandom(options.seed ? *options.seed : clockSeed());
+    if (options.seed) {
+        seedRandom(*options.seed);
+    } else {
+        seedRandomFromClock();
+    }
 }
 
 }  // namespace calquo
