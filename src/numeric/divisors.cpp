@@ -2,7 +2,9 @@
 #include "numeric/divisors.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -41,38 +43,55 @@ std::uint64_t commonDivisor(std::span<const std::uint64_t> words) {
     return divisor;
 }
 
-/// An odd number of any size, lowest word first, which grows by one factor at a time.
+/// The least common multiple of odd words, of any size, lowest digit first.
 class OddMultiple {
 public:
-    /// The number modulo 2^64.
-    [[nodiscard]] std::uint64_t low() const { return words_.front(); }
+    /// As many words as are taken in at once, so that their chains of multiplications run side by side.
+    static constexpr std::size_t batchSize = 4;
+    using Batch = std::array<std::uint64_t, batchSize>;
 
-    /// The greatest common divisor with an odd word.
-    [[nodiscard]] std::uint64_t commonDivisorWith(std::uint64_t word) const {
-        // The remainder comes multiplied by a power of 2^-64, which has no factor in common with an odd word.
-        const Montgomery field(word);
-        std::uint64_t remainder = 0;
-        for (const std::uint64_t digit : words_) {
-            const UInt128 sum = UInt128{0, remainder} + UInt128{0, digit};
-            remainder = sum.high == 0 ? field.multiply(sum.low, 1) : field.add(field.multiply(sum.low, 1), 1 % word);
-        }
-        return euclid(word, remainder);
-    }
+    /// The multiple modulo 2^64.
+    [[nodiscard]] std::uint64_t low() const { return digits_.front(); }
 
-    void multiplyBy(std::uint64_t factor) {
-        std::uint64_t carry = 0;
-        for (std::uint64_t& digit : words_) {
-            const UInt128 product = multiply(digit, factor) + UInt128{0, carry};
-            digit = product.low;
-            carry = product.high;
+    /// Makes this the multiple of the words, too; each must be odd.
+    void include(const Batch& words) {
+        const std::array fields = {Montgomery(words[0]), Montgomery(words[1]), Montgomery(words[2]),
+                                   Montgomery(words[3])};
+        // The remainders come multiplied by powers of 2^-64, which have no factor in common with an odd word.
+        Batch remainders = {};
+        for (const std::uint64_t digit : digits_) {
+            for (std::size_t index = 0; index < batchSize; ++index) {
+                remainders[index] = fields[index].reduce(UInt128{0, remainders[index]} + UInt128{0, digit});
+            }
         }
-        if (carry != 0) {
-            words_.push_back(carry);
+        Batch missing = {};
+        for (std::size_t index = 0; index < batchSize; ++index) {
+            std::uint64_t remainder = remainders[index];
+            for (std::size_t earlier = 0; earlier < index; ++earlier) {
+                remainder = fields[index].multiply(remainder, missing[earlier]);
+            }
+            missing[index] = words[index] / euclid(words[index], remainder);
         }
+        multiplyBy(missing);
     }
 
 private:
-    Words words_ = {1};
+    void multiplyBy(const Batch& factors) {
+        digits_.resize(digits_.size() + batchSize);
+        Batch carries = {};
+        for (std::uint64_t& digit : digits_) {
+            for (std::size_t index = 0; index < batchSize; ++index) {
+                const UInt128 product = multiply(digit, factors[index]) + UInt128{0, carries[index]};
+                digit = product.low;
+                carries[index] = product.high;
+            }
+        }
+        while (digits_.back() == 0) {
+            digits_.pop_back();
+        }
+    }
+
+    Words digits_ = {1};
 };
 
 }  // namespace
@@ -97,16 +116,22 @@ Value lcm(std::span<const Value> items) {
     if (items.empty()) {
         return Value(0);
     }
+    constexpr std::uint64_t neutral = 1;
     int powerOfTwo = 0;
-    OddMultiple multiple;
-    for (std::uint64_t word : toWords(items)) {
-        if (word == 0) {
-            continue;
+    Words odd;
+    for (const std::uint64_t word : toWords(items)) {
+        if (word != 0) {
+            const int zeros = std::countr_zero(word);
+            powerOfTwo = std::max(powerOfTwo, zeros);
+            odd.push_back(word >> zeros);
         }
-        const int zeros = std::countr_zero(word);
-        powerOfTwo = std::max(powerOfTwo, zeros);
-        word >>= zeros;
-        multiple.multiplyBy(word / multiple.commonDivisorWith(word));
+    }
+    std::ranges::sort(odd);
+    odd.erase(std::unique(odd.begin(), odd.end()), odd.end());
+    odd.resize((odd.size() + OddMultiple::batchSize - 1) / OddMultiple::batchSize * OddMultiple::batchSize, neutral);
+    OddMultiple multiple;
+    for (std::size_t start = 0; start < odd.size(); start += OddMultiple::batchSize) {
+        multiple.include({odd[start], odd[start + 1], odd[start + 2], odd[start + 3]});
     }
     return fromWord(multiple.low() << powerOfTwo);
 }
