@@ -1,0 +1,22 @@
+// Conversion over checked real steps, in the one order that all results share.
+#include "units/conversion.h"
+
+#include "numeric/checked_real.h"
+#include "numeric/complex_arithmetic.h"
+#include "values/errors.h"
+
+namespace calquo {
+
+Value convert(const Value& x, const Value& from, const Value& to) {
+    if (!(x.im == 0)) {
+        raise(ErrorCode::ComplexNotAllowed, x.positions.literalEnd);
+    }
+    pointAt(from);
+    Real number = subReal(x.re, from.im);
+    pointAt(to);
+    number = divReal(number, to.re);
+    number = mulReal(from.re, number);
+    return {addReal(to.im, number)};
+}
+
+}  // namespace calquo
