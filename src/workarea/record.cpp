@@ -20,13 +20,13 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
     return text.substr(0, length);
 }
 
-/// The result text of `expression`; throws Except.
-std::string resultText(std::string_view expression, NumericFormat format) {
+/// Writes the result of `expression` to `text`; throws Except.
+void writeResult(std::string& text, std::string_view expression, NumericFormat format) {
     const Evaluation evaluation = evaluateLine(expression);
     // Should the writer refuse the value, no place inside the expression is to blame.
     setErrorPosition(static_cast<std::int32_t>(expression.size()));
     const std::uint64_t base = evaluation.outputBase == 10 ? 0 : evaluation.outputBase;
-    return FormatValue(evaluation.value, format, base);
+    appendValue(evaluation.value, format, base, text);
 }
 
 std::size_t placeInside(std::string_view expression, std::int32_t position) {
@@ -67,9 +67,10 @@ std::string_view expressionOf(std::string_view line) {
 }
 
 void evaluateInto(Answer& answer, std::string_view expression, NumericFormat format) {
+    answer.text.clear();
+    answer.failed = false;
     try {
-        answer.text = resultText(expression, format);
-        answer.failed = false;
+        writeResult(answer.text, expression, format);
     } catch (const Except& failure) {
         answer.text.clear();
         answer.failed = true;

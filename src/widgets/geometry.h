@@ -1,0 +1,21 @@
+// Sizes and places on the screen, in pixels.
+#pragma once
+
+namespace calquo {
+
+struct Rectangle {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// The dots per inch at which lengths in the source are meant.
+inline constexpr int designDotsPerInch = 96;
+
+/// A length of `pixels` at 96 dots per inch, on a screen of `dotsPerInch`; rounded to the nearest pixel.
+constexpr int scaledToScreen(int pixels, int dotsPerInch) {
+    return (pixels * dotsPerInch + designDotsPerInch / 2) / designDotsPerInch;
+}
+
+}  // namespace calquo

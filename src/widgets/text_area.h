@@ -1,0 +1,93 @@
+// The rich edit control: styled text, changed in single undo steps, read and written in UTF-16 whatever the control's
+// code page is.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "widgets/component.h"
+
+namespace calquo {
+
+/// A stretch of the text, in UTF-16 units from its start; a line end counts as one.
+struct TextRange {
+    std::int32_t begin = 0;
+    std::int32_t end = 0;
+
+    friend bool operator==(const TextRange&, const TextRange&) = default;
+};
+
+/// A line of the text as the user ended it, without its end.
+struct Paragraph {
+    TextRange range;
+    std::wstring text;
+};
+
+/// How characters look.
+struct CharacterStyle {
+    std::uint32_t color = 0;  ///< Red in the lowest byte, then green, then blue.
+    bool bold = false;
+};
+
+/// A run of text in one style. Lines end with "\n".
+struct StyledRun {
+    std::wstring text;
+    CharacterStyle style;
+};
+
+/// A key that went down, with the modifier keys held at that time.
+struct KeyPress {
+    std::uint32_t key = 0;  ///< The system's virtual key.
+    bool modified = false;  ///< Shift, Control or Alt was held.
+};
+
+class TextArea : public Component {
+public:
+    /// Hears a key before the control does; true when the key has been dealt with.
+    using KeyListener = std::function<bool(const KeyPress&)>;
+
+    /// An empty area whose typed text looks like `normal`. Keys are offered to `keys` before the control gets them,
+    /// all messages but keys to `otherMessages`. Raises InternalFault when the control is not to be had.
+    TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
+             MessageFilter otherMessages);
+
+    /// Moves the window to `place`, in pixels of the parent's client area, and keeps a margin around the text.
+    void moveTo(const Rectangle& place);
+
+    TextRange selection() const;
+    void select(TextRange range);
+
+    /// The paragraph that holds `position`. It is looked for around that place, so that the rest of the text costs
+    /// nothing but the control's own search for a position.
+    Paragraph paragraphAt(std::int32_t position) const;
+
+    /// Replaces a range by runs of text and puts the caret at `caret`, as one step for undo.
+    void replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret);
+
+    /// Puts a line end in place of the selection, as one step for undo.
+    void insertLineEnd();
+
+private:
+    struct MessageRow;
+    static const MessageRow messageRows[];
+
+    std::optional<MessageAnswer> hear(const Message& message);
+    std::optional<MessageAnswer> hearKey(const Message& message);
+    std::optional<MessageAnswer> hearCharacter(const Message& message);
+
+    void chooseLook(CharacterStyle normal);
+    std::wstring text(TextRange range) const;
+    std::string richText(const std::vector<StyledRun>& runs) const;
+    void replaceSelection(const std::vector<StyledRun>& runs);
+
+    KeyListener keys_;
+    MessageFilter otherMessages_;
+    std::wstring fontName_;
+    TextDocumentOwner document_;
+};
+
+}  // namespace calquo

@@ -1,0 +1,266 @@
+// The rich edit control behind the text area.
+#include "widgets/text_area.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+#include "values/errors.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+constexpr wchar_t controlLibrary[] = L"Riched20.dll";
+constexpr wchar_t controlClass[] = L"RichEdit20A";
+constexpr DWORD controlStyle = WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
+constexpr IID textDocumentInterface = {0x8CC497C0, 0xA1DF, 0x11CE, {0x80, 0x98, 0x00, 0xAA, 0x00, 0x47, 0xBE, 0x5D}};
+constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
+
+/// The fonts to choose from: the first that is installed is taken. All have digits of equal width, so that results
+/// stand one below the other.
+constexpr const wchar_t* fontNames[] = {L"Consolas", L"DejaVu Sans Mono", L"Liberation Mono", L"Courier New"};
+constexpr int fontPoints = 12;
+constexpr int twipsPerPoint = 20;
+constexpr COLORREF paper = RGB(255, 255, 255);
+constexpr int margin = 8;  // at 96 dots per inch
+
+/// Loads the control's library for the rest of the run; its windows must not outlive it.
+void loadControlLibrary() {
+    static const LibraryOwner library(LoadLibraryW(controlLibrary));
+    if (!library) raise(ErrorCode::InternalFault);
+}
+
+int CALLBACK noteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
+    *reinterpret_cast<bool*>(found) = true;
+    return 0;
+}
+
+bool isInstalled(const wchar_t* fontName) {
+    LOGFONTW wanted{};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    std::wcsncpy(wanted.lfFaceName, fontName, LF_FACESIZE - 1);
+    bool found = false;
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesExW(screen, &wanted, noteFont, reinterpret_cast<LPARAM>(&found), 0);
+    ReleaseDC(nullptr, screen);
+    return found;
+}
+
+const wchar_t* chosenFont() {
+    const auto* const font = std::find_if(std::begin(fontNames), std::end(fontNames), isInstalled);
+    return font == std::end(fontNames) ? fontNames[std::size(fontNames) - 1] : *font;
+}
+
+bool isHeld(int key) { return GetKeyState(key) < 0; }
+
+/// Appends text to a rich text: its special characters escaped, everything beyond ASCII by number.
+void appendEscaped(std::string& richText, std::wstring_view text) {
+    for (const wchar_t unit : text) {
+        if (unit == L'\n') {
+            richText += "\\par ";
+        } else if (unit == L'\\' || unit == L'{' || unit == L'}') {
+            richText += '\\';
+            richText += static_cast<char>(unit);
+        } else if (unit < 0x80) {
+            richText += static_cast<char>(unit);
+        } else {
+            richText += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + ' ';
+        }
+    }
+}
+
+/// A color table's entry.
+std::string colorEntry(COLORREF color) {
+    return "\\red" + std::to_string(GetRValue(color)) + "\\green" + std::to_string(GetGValue(color)) + "\\blue" +
+           std::to_string(GetBValue(color)) + ";";
+}
+
+/// Hands the control the next piece of the text that `rest`, a string_view's address, still holds.
+DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
+    std::string_view& text = *reinterpret_cast<std::string_view*>(rest);
+    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(room));
+    std::memcpy(buffer, text.data(), length);
+    text.remove_prefix(length);
+    *count = static_cast<LONG>(length);
+    return 0;
+}
+
+/// While it lives, the window does not paint what happens to it.
+class PaintingPause {
+public:
+    explicit PaintingPause(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
+    ~PaintingPause() {
+        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+        SendMessageW(window_, EM_SCROLLCARET, 0, 0);
+        InvalidateRect(window_, nullptr, FALSE);
+    }
+    PaintingPause(const PaintingPause&) = delete;
+    PaintingPause& operator=(const PaintingPause&) = delete;
+
+private:
+    HWND window_;
+};
+
+/// The control's document interface, through which text is read in UTF-16.
+TextDocumentOwner documentOf(HWND window) {
+    IUnknown* control = nullptr;
+    SendMessageW(window, EM_GETOLEINTERFACE, 0, reinterpret_cast<LPARAM>(&control));
+    ITextDocument* document = nullptr;
+    if (control != nullptr) {
+        control->QueryInterface(textDocumentInterface, reinterpret_cast<void**>(&document));
+        control->Release();
+    }
+    if (document == nullptr) raise(ErrorCode::InternalFault);
+    return TextDocumentOwner(document);
+}
+
+}  // namespace
+
+/// Which member hears which message.
+struct TextArea::MessageRow {
+    UINT code;
+    std::optional<MessageAnswer> (TextArea::*hear)(const Message&);
+};
+
+const TextArea::MessageRow TextArea::messageRows[] = {
+    {WM_KEYDOWN, &TextArea::hearKey},
+    {WM_SYSKEYDOWN, &TextArea::hearKey},
+    {WM_CHAR, &TextArea::hearCharacter},
+    {WM_SYSCHAR, &TextArea::hearCharacter},
+};
+
+TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
+                   MessageFilter otherMessages)
+    : Component((loadControlLibrary(), Creation{parent, command, controlClass, controlStyle, 0}),
+                [this](const Message& message) { return hear(message); }),
+      keys_(std::move(keys)),
+      otherMessages_(std::move(otherMessages)),
+      fontName_(chosenFont()),
+      document_(documentOf(handle())) {
+    chooseLook(normal);
+    SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
+}
+
+std::optional<MessageAnswer> TextArea::hear(const Message& message) {
+    for (const MessageRow& row : messageRows) {
+        if (row.code == message.code) return (this->*row.hear)(message);
+    }
+    return otherMessages_ ? otherMessages_(message) : std::nullopt;
+}
+
+std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
+    const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
+    if (keys_ && keys_({static_cast<std::uint32_t>(message.wide), modified})) return 0;
+    return std::nullopt;
+}
+
+std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
+    // The Enter key has done its work when it went down.
+    if (message.wide == L'\r' || message.wide == L'\n') return 0;
+    // The control takes characters in its code page, and would replace what that lacks.
+    if (message.code == WM_CHAR && message.wide >= 0x80) {
+        return sendToSystemClass({WM_UNICHAR, message.wide, message.extra});
+    }
+    return std::nullopt;
+}
+
+void TextArea::chooseLook(CharacterStyle normal) {
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    format.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_COLOR | CFM_BOLD;
+    format.yHeight = fontPoints * twipsPerPoint;
+    format.bCharSet = DEFAULT_CHARSET;
+    format.crTextColor = normal.color;
+    format.dwEffects = normal.bold ? CFE_BOLD : 0;
+    std::wcsncpy(format.szFaceName, fontName_.c_str(), LF_FACESIZE - 1);
+    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
+    SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, paper);
+}
+
+void TextArea::moveTo(const Rectangle& place) {
+    Component::moveTo(place);
+    const int space = scaledToScreen(margin, dotsPerInch());
+    RECT inside{space, space, place.width - space, place.height - space};
+    SendMessageW(handle(), EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+}
+
+TextRange TextArea::selection() const {
+    CHARRANGE range{};
+    SendMessageW(handle(), EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    return {range.cpMin, range.cpMax};
+}
+
+void TextArea::select(TextRange range) {
+    if (range == selection()) return;  // the control searches for a position from the text's start
+    CHARRANGE wanted{range.begin, range.end};
+    SendMessageW(handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&wanted));
+}
+
+std::wstring TextArea::text(TextRange range) const {
+    ITextRange* found = nullptr;
+    BSTR characters = nullptr;
+    if (document_.get()->Range(range.begin, range.end, &found) != S_OK) raise(ErrorCode::InternalFault);
+    found->GetText(&characters);
+    found->Release();
+    // An empty range gives no string at all.
+    std::wstring copy(characters == nullptr ? L"" : characters, SysStringLen(characters));
+    SysFreeString(characters);
+    return copy;
+}
+
+Paragraph TextArea::paragraphAt(std::int32_t position) const {
+    constexpr std::int32_t firstReach = 256;
+    for (std::int64_t reach = firstReach;; reach *= 4) {
+        const std::int64_t begin = std::max<std::int64_t>(0, position - reach);
+        const std::int64_t end = std::min<std::int64_t>(position + reach, largestText);
+        const std::wstring around = text({static_cast<std::int32_t>(begin), static_cast<std::int32_t>(end)});
+        const std::size_t split = static_cast<std::size_t>(position - begin);
+        const std::size_t endBefore = split == 0 ? std::wstring::npos : around.rfind(L'\r', split - 1);
+        const std::size_t endBehind = around.find(L'\r', split);
+        const bool reachesBack = endBefore != std::wstring::npos || begin == 0;
+        const bool reachesOn = endBehind != std::wstring::npos || begin + std::ssize(around) < end;
+        if (!reachesBack || !reachesOn) continue;
+        const std::size_t first = endBefore == std::wstring::npos ? 0 : endBefore + 1;
+        const std::size_t last = std::min(endBehind, around.size());
+        const auto start = static_cast<std::int32_t>(begin);
+        return {{start + static_cast<std::int32_t>(first), start + static_cast<std::int32_t>(last)},
+                around.substr(first, last - first)};
+    }
+}
+
+void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret) {
+    const PaintingPause pause(handle());
+    select(range);
+    replaceSelection(runs);
+    select({caret, caret});
+}
+
+void TextArea::insertLineEnd() { SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\n")); }
+
+std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
+    std::string head = "{\\rtf1\\ansi\\deff0\\uc0{\\fonttbl{\\f0\\fnil ";
+    appendEscaped(head, fontName_);
+    head += ";}}{\\colortbl;";
+    std::string body;
+    const std::string font = "{\\f0\\fs" + std::to_string(2 * fontPoints);
+    int color = 0;
+    for (const StyledRun& run : runs) {
+        head += colorEntry(run.style.color);
+        body += font + (run.style.bold ? "\\b" : "\\b0") + "\\cf" + std::to_string(++color) + ' ';
+        appendEscaped(body, run.text);
+        body += '}';
+    }
+    return head + "}" + body + "}";
+}
+
+void TextArea::replaceSelection(const std::vector<StyledRun>& runs) {
+    // Rich text is what the control takes in several styles and undoes in one step.
+    const std::string text = richText(runs);
+    std::string_view rest = text;
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, readPiece};
+    SendMessageW(handle(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+}
+
+}  // namespace calquo

@@ -1,0 +1,19 @@
+// The only include of the system's headers, with the defines they need. Only files named *_windows.cpp use it.
+#pragma once
+
+#ifndef UNICODE
+#define UNICODE
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+
+#include <windows.h>
+// These need <windows.h> in front of them.
+#include <ole2.h>
+#include <richedit.h>
+#include <richole.h>
+#include <tom.h>

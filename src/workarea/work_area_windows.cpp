@@ -1,0 +1,119 @@
+// The keys of the work area, and the way between its text and the engine's.
+#include "workarea/work_area.h"
+
+#include <algorithm>
+
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+constexpr CharacterStyle normalStyle{RGB(0, 0, 0), false};
+constexpr CharacterStyle resultStyle{RGB(0, 0, 139), true};
+
+/// A character that the language does not have and no setting can give it.
+constexpr char foreignCharacter = '\x7F';
+
+/// The line as the engine reads it: one character for each UTF-16 unit, so that positions are those of the control.
+std::string languageText(std::wstring_view line) {
+    std::string text(line.size(), foreignCharacter);
+    std::transform(line.begin(), line.end(), text.begin(),
+                   [](wchar_t unit) { return unit < 0x100 ? static_cast<char>(unit) : foreignCharacter; });
+    return text;
+}
+
+/// The engine's text as the control takes it.
+std::wstring controlText(std::string_view text) {
+    std::wstring wide(text.size(), L' ');
+    std::transform(text.begin(), text.end(), wide.begin(),
+                   [](char character) { return static_cast<wchar_t>(static_cast<unsigned char>(character)); });
+    return wide;
+}
+
+StyledRun controlRun(const StyledText& piece) {
+    return {controlText(piece.text), piece.style == TextStyle::Result ? resultStyle : normalStyle};
+}
+
+enum class Modifiers { Released, Held, Any };
+
+bool fits(Modifiers wanted, bool held) { return wanted == Modifiers::Any || (wanted == Modifiers::Held) == held; }
+
+/// Holds a mode on while it lives.
+class ModeOn {
+public:
+    explicit ModeOn(bool& mode) : mode_(mode) { mode_ = true; }
+    ~ModeOn() { mode_ = false; }
+    ModeOn(const ModeOn&) = delete;
+    ModeOn& operator=(const ModeOn&) = delete;
+
+private:
+    bool& mode_;
+};
+
+}  // namespace
+
+const std::uint32_t WorkArea::resultReplaceQuery = WM_USER + 3;
+
+/// What a key does.
+struct WorkArea::KeyRow {
+    std::uint32_t key;
+    Modifiers modifiers;
+    void (WorkArea::*act)();
+};
+
+const WorkArea::KeyRow WorkArea::keyRows[] = {
+    {VK_RETURN, Modifiers::Released, &WorkArea::evaluate},
+    // Left to itself, the control makes line breaks of several kinds, by the modifier held.
+    {VK_RETURN, Modifiers::Held, &WorkArea::insertLineEnd},
+    {VK_F1, Modifiers::Any, &WorkArea::askForHelp},
+    {VK_F9, Modifiers::Released, &WorkArea::evaluateIntoSelection},
+};
+
+WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand)
+    : TextArea(
+          parent, command, normalStyle, [this](const KeyPress& press) { return hearKey(press); },
+          [this](const Message& message) { return hearQuery(message); }),
+      helpCommand_(helpCommand) {}
+
+bool WorkArea::hearKey(const KeyPress& press) {
+    for (const KeyRow& row : keyRows) {
+        if (row.key != press.key || !fits(row.modifiers, press.modified)) continue;
+        (this->*row.act)();
+        return true;
+    }
+    return false;
+}
+
+std::optional<MessageAnswer> WorkArea::hearQuery(const Message& message) const {
+    if (message.code != resultReplaceQuery) return std::nullopt;
+    return resultReplaces_ ? 1 : 0;
+}
+
+void WorkArea::evaluate() {
+    const TextRange selected = selection();
+    const Paragraph line = paragraphAt(selected.begin);
+    const std::string text = languageText(line.text);
+    if (SendMessageW(handle(), resultReplaceQuery, 0, 0) == 0) {
+        apply(line, editAfterEnter(text, format_));
+    } else {
+        const auto offset = [&](std::int32_t place) { return static_cast<std::size_t>(place - line.range.begin); };
+        apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_));
+    }
+}
+
+void WorkArea::evaluateIntoSelection() {
+    const ModeOn replacing(resultReplaces_);
+    evaluate();
+}
+
+void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0); }
+
+void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
+    if (!edit.changes) return;
+    std::vector<StyledRun> runs(edit.pieces.size());
+    std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
+    const auto place = [&](std::size_t offset) { return line.range.begin + static_cast<std::int32_t>(offset); };
+    replace({place(edit.begin), place(edit.end)}, runs, place(edit.caret));
+}
+
+}  // namespace calquo
