@@ -61,9 +61,4 @@ inline Real realOf(const ExtendedBits& bits) {
     return number;
 }
 
-inline Real quietNaN() { return realOf({0xC000000000000000U, ExtendedBits::exponentMask}); }
-
-/// A NaN whose mantissa's second bit is clear. Loading and storing keep it as it is; arithmetic makes it quiet.
-inline Real signallingNaN() { return realOf({0xA000000000000000U, ExtendedBits::exponentMask}); }
-
 }  // namespace calquo

@@ -68,6 +68,11 @@ constexpr UInt128 multiplyHigh(UInt128 a, UInt128 b) {
     return multiply(a.high, b.high) + UInt128{0, highLow.high} + UInt128{0, lowHigh.high} + UInt128{0, middle.high};
 }
 
+/// The lower half of the product.
+constexpr UInt128 multiplyLow(UInt128 a, UInt128 b) {
+    return UInt128{a.high * b.low + a.low * b.high, 0} + multiply(a.low, b.low);
+}
+
 /// Divides a by a divisor other than 0 in place and returns the remainder.
 constexpr std::uint64_t divideInPlace(UInt128& a, std::uint32_t divisor) {
     std::uint64_t remainder = 0;
@@ -80,6 +85,27 @@ constexpr std::uint64_t divideInPlace(UInt128& a, std::uint32_t divisor) {
     a.high = step(a.high);
     a.low = step(a.low);
     return remainder;
+}
+
+struct Quotient {
+    UInt128 quotient;
+    UInt128 remainder;
+};
+
+/// Divides by a divisor other than 0, in time proportional to the quotient's bits.
+constexpr Quotient divide(UInt128 a, UInt128 divisor) {
+    if (a.high == 0 && divisor.high == 0) {
+        return {{0, a.low / divisor.low}, {0, a.low % divisor.low}};
+    }
+    Quotient result{{}, a};
+    for (int shift = leadingZeros(divisor) - leadingZeros(a); shift >= 0; --shift) {
+        const UInt128 part = shiftLeft(divisor, shift);
+        if (result.remainder >= part) {
+            result.remainder = result.remainder - part;
+            result.quotient = result.quotient + shiftLeft({0, 1}, shift);
+        }
+    }
+    return result;
 }
 
 }  // namespace calquo

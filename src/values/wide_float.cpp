@@ -1,6 +1,8 @@
 // Operations on 128-bit floats.
 #include "values/wide_float.h"
 
+#include <algorithm>
+
 #include "values/extended.h"
 
 namespace calquo {
@@ -35,27 +37,23 @@ WideFloat power(std::uint32_t base, int exponent) {
     return exponent < 0 ? reciprocal(result) : result;
 }
 
-Real toReal(const WideFloat& a) {
-    ExtendedBits bits;
+Truncation truncate(const WideFloat& a) {
     // How many of the mantissa's lowest bits do not fit: 64, more for a denormal.
-    int dropped = 64;
-    if (a.exponent + dropped < ExtendedBits::smallestExponent) {
-        dropped = ExtendedBits::smallestExponent - a.exponent;
-    }
-    if (dropped > 128) {
-        return 0;
-    }
-    const UInt128 kept = dropped == 128 ? UInt128{} : shiftRight(a.mantissa, dropped);
-    const UInt128 rest = dropped == 128 ? a.mantissa : a.mantissa - shiftLeft(kept, dropped);
-    const UInt128 half = shiftLeft({0, 1}, dropped - 1);
-    bits.mantissa = kept.low;
-    int exponent = a.exponent + dropped;
-    if (rest > half || (rest == half && (bits.mantissa & 1) != 0)) {
-        ++bits.mantissa;
-        if (bits.mantissa == 0) {
-            bits.mantissa = std::uint64_t{1} << 63;
-            ++exponent;
-        }
+    const int dropped = std::max(64, ExtendedBits::smallestExponent - a.exponent);
+    // Far below the denormals nothing is kept, and only how the rest compares with one half matters.
+    const UInt128 mantissa = dropped <= 128 ? a.mantissa : shiftRight(a.mantissa, std::min(dropped - 128, 127));
+    const UInt128 kept = dropped < 128 ? shiftRight(mantissa, dropped) : UInt128{};
+    const UInt128 rest = dropped < 128 ? mantissa - shiftLeft(kept, dropped) : mantissa;
+    return {kept.low, a.exponent + dropped, rest, shiftLeft({0, 1}, std::min(dropped, 128) - 1)};
+}
+
+Real toReal(const Truncation& a, bool up) {
+    ExtendedBits bits;
+    bits.mantissa = a.kept + (up ? 1 : 0);
+    int exponent = a.exponent;
+    if (up && bits.mantissa == 0) {
+        bits.mantissa = std::uint64_t{1} << 63;
+        ++exponent;
     }
     if (exponent > ExtendedBits::largestExponent) {
         return positiveInfinity;
@@ -63,6 +61,11 @@ Real toReal(const WideFloat& a) {
     const bool normal = bits.mantissa >> 63 != 0;
     bits.signExponent = static_cast<std::uint16_t>(normal ? exponent + ExtendedBits::exponentBias : 0);
     return realOf(bits);
+}
+
+Real toReal(const WideFloat& a) {
+    const Truncation cut = truncate(a);
+    return toReal(cut, cut.rest > cut.half || (cut.rest == cut.half && (cut.kept & 1) != 0));
 }
 
 }  // namespace calquo

@@ -38,6 +38,20 @@ WideFloat reciprocal(const WideFloat& a);
 /// base^exponent for a base of 2 to 36, within (|exponent| + 1) 2^-122 of itself.
 WideFloat power(std::uint32_t base, int exponent);
 
+/// A wide number cut to the precision of an extended one: kept * 2^exponent. The rest that was cut off lies half-way
+/// between two extended numbers when it equals half.
+struct Truncation {
+    std::uint64_t kept = 0;
+    int exponent = 0;
+    UInt128 rest;
+    UInt128 half;
+};
+Truncation truncate(const WideFloat& a);
+
+/// kept * 2^exponent, one unit more when asked; kept has its top bit set or the exponent is that of the denormals.
+/// Infinity above the finite range.
+Real toReal(const Truncation& a, bool up);
+
 /// The nearest extended number, ties to even; denormals and 0 below the normal range, infinity above the finite one.
 Real toReal(const WideFloat& a);
 

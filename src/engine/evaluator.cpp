@@ -1,0 +1,496 @@
+// Recursive descent straight over the characters of the line, each operator applied as soon as its right operand is
+// read. Every level takes the index where it starts and fills a value; it returns the number of characters it took, 0
+// when nothing of its kind stands there.
+#include "engine/evaluator.h"
+
+#include <array>
+#include <memory_resource>
+#include <span>
+#include <vector>
+
+#include "engine/keywords.h"
+#include "engine/lexer.h"
+#include "engine/number_literal.h"
+#include "numeric/checks.h"
+#include "numeric/complex_arithmetic.h"
+#include "numeric/exponential.h"
+#include "numeric/factorial.h"
+#include "units/conversion.h"
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
+
+[[noreturn]] void raiseAt(ErrorCode code, std::size_t index) { raise(code, position(index)); }
+
+/// The binary operator that stands at an index, with the blanks around it skipped.
+struct Operator {
+    TokenClass kind = TokenClass::None;
+    std::size_t start = 0;  ///< its first character
+    std::size_t end = 0;    ///< where its right operand should begin
+};
+
+Operator readOperator(std::string_view line, std::size_t index) {
+    const std::size_t start = index + blankLength(line, index);
+    for (const TokenClass kind : {TokenClass::Plus, TokenClass::Minus, TokenClass::Times, TokenClass::Divide,
+                                  TokenClass::Power, TokenClass::Arrow}) {
+        if (const std::size_t length = tokenLength(kind, line, start, Blanks::Keep); length != 0) {
+            return {kind, start, start + length + blankLength(line, start + length)};
+        }
+    }
+    return {};
+}
+
+class Evaluator {
+public:
+    Evaluator(std::string_view text, int limit) : line(text), nestingLimit(limit) {}
+
+    Evaluation evaluate();
+
+private:
+    /// Counts one level of nesting while it lives.
+    class Nesting {
+    public:
+        Nesting(Evaluator& evaluator, std::size_t index) : owner(evaluator) {
+            if (owner.nesting == owner.nestingLimit) {
+                raiseAt(ErrorCode::LimitExceeded, index);
+            }
+            ++owner.nesting;
+        }
+        ~Nesting() { --owner.nesting; }
+        Nesting(const Nesting&) = delete;
+        Nesting& operator=(const Nesting&) = delete;
+
+    private:
+        Evaluator& owner;
+    };
+
+    // The levels, from the lowest precedence to the highest.
+    std::size_t expression(std::size_t index, Value& value);
+    std::size_t sum(std::size_t index, Value& value);
+    std::size_t product(std::size_t index, Value& value);
+    std::size_t power(std::size_t index, Value& value);
+    std::size_t signedOperand(std::size_t index, Value& value);
+    std::size_t postfixOperand(std::size_t index, Value& value);
+    std::size_t operand(std::size_t index, Value& value);
+    std::size_t bareOperand(std::size_t index, Value& value);
+
+    std::size_t juxtaposition(std::size_t index, Value& value);
+    std::size_t conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value);
+    std::size_t postfix(std::size_t index, Value& value) const;
+
+    std::size_t nameOperand(std::size_t index, Value& value);
+    std::size_t unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value);
+    std::size_t listCall(std::size_t nameEnd, const Binding& binding, Value& value);
+
+    std::size_t group(std::size_t index, Value& value);
+    std::size_t item(std::size_t index, Value& value);
+    std::size_t argumentList(std::size_t index);
+    [[nodiscard]] bool isLiteralFrom(std::size_t index, const Value& value) const;
+    [[nodiscard]] Value complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) const;
+
+    [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
+    [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
+        return tokenLength(kind, line, index, Blanks::Keep) != 0;
+    }
+    [[nodiscard]] std::size_t skipBlanks(std::size_t index) const { return index + blankLength(line, index); }
+
+    std::string_view line;
+    int nestingLimit;
+    int nesting = 0;
+
+    // The arguments of the calls that are being read, innermost last. Short lists stay on the stack.
+    std::array<std::byte, 16 * sizeof(Value)> argumentStorage;
+    std::pmr::monotonic_buffer_resource argumentMemory{argumentStorage.data(), argumentStorage.size()};
+    std::pmr::vector<Value> arguments{&argumentMemory};
+};
+
+/// line = [directive] expression [suffix]
+Evaluation Evaluator::evaluate() {
+    setErrorPosition(0);
+    std::size_t index = skipBlanks(0);
+    const OutputBase directive = readOutputBaseDirective(line, index);
+    index = skipBlanks(index + directive.length);
+    Evaluation result;
+    const std::size_t length = sum(index, result.value);
+    if (length == 0) {
+        raiseAt(ErrorCode::InvalidFormat, index);
+    }
+    index += length;
+    const OutputBase suffix = readOutputBaseSuffix(line, index);
+    if (suffix.length != 0 && directive.length != 0) {
+        raiseAt(ErrorCode::InvalidFormat, skipBlanks(index));
+    }
+    index = skipBlanks(index + suffix.length);
+    if (index < line.size()) {
+        raiseAt(isAt(TokenClass::ListClose, index) ? ErrorCode::Parentheses : ErrorCode::InvalidFormat, index);
+    }
+    if (const std::uint32_t base = directive.base + suffix.base; base != 0) {
+        result.outputBase = base;
+    }
+    return result;
+}
+
+/// expression = blanks sum blanks
+std::size_t Evaluator::expression(std::size_t index, Value& value) {
+    const std::size_t start = skipBlanks(index);
+    const std::size_t length = sum(start, value);
+    return length == 0 ? 0 : skipBlanks(start + length) - index;
+}
+
+/// sum = product { ("+" | "-") product }
+std::size_t Evaluator::sum(std::size_t index, Value& value) {
+    std::size_t end = index + product(index, value);
+    if (end == index) {
+        return 0;
+    }
+    for (;;) {
+        const Operator found = readOperator(line, end);
+        if (found.kind != TokenClass::Plus && found.kind != TokenClass::Minus) {
+            return end - index;
+        }
+        Value right;
+        const std::size_t length = product(found.end, right);
+        if (length == 0) {
+            raiseAt(ErrorCode::InvalidFormat, found.end);
+        }
+        setErrorPosition(position(found.start));
+        value = found.kind == TokenClass::Plus ? add(value, right) : sub(value, right);
+        end = found.end + length;
+    }
+}
+
+/// product = power { ("*" | "/") power | "->" target | juxtaposed operand }
+std::size_t Evaluator::product(std::size_t index, Value& value) {
+    std::size_t end = index + power(index, value);
+    if (end == index) {
+        return 0;
+    }
+    for (;;) {
+        const Operator found = readOperator(line, end);
+        if (found.kind == TokenClass::Times || found.kind == TokenClass::Divide) {
+            Value right;
+            const std::size_t length = power(found.end, right);
+            if (length == 0) {
+                raiseAt(ErrorCode::InvalidFormat, found.end);
+            }
+            setErrorPosition(position(found.start));
+            value = found.kind == TokenClass::Times ? mul(value, right) : div(value, right);
+            end = found.end + length;
+        } else if (found.kind == TokenClass::Arrow) {
+            const Value source = value;
+            end = found.end + conversion(found, Value(1), source, value);
+        } else {
+            const std::size_t length = juxtaposition(end, value);
+            if (length == 0) {
+                return end - index;
+            }
+            end += length;
+        }
+    }
+}
+
+/// A bare operand behind the value so far multiplies it, or is the source unit of the conversion that follows.
+std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
+    const std::size_t start = skipBlanks(index);
+    Value right;
+    std::size_t end = start + bareOperand(start, right);
+    if (end == start) {
+        return 0;
+    }
+    const Operator found = readOperator(line, end);
+    if (found.kind == TokenClass::Arrow) {
+        const Value quantity = value;
+        return found.end + conversion(found, quantity, right, value) - index;
+    }
+    setErrorPosition(position(start));
+    value = mul(value, right);
+    return end - index;
+}
+
+/// target { "->" target }, from behind the first arrow on; only the last target counts.
+std::size_t Evaluator::conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value) {
+    Operator last = arrow;
+    Value target;
+    std::size_t end = arrow.end;
+    for (Operator next = arrow; next.kind == TokenClass::Arrow; next = readOperator(line, end)) {
+        last = next;
+        const std::size_t length = bareOperand(next.end, target);
+        if (length == 0) {
+            raiseAt(ErrorCode::InvalidFormat, next.end);
+        }
+        end = next.end + length;
+    }
+    setErrorPosition(position(last.start));
+    value = convert(quantity, source, target);
+    return end - arrow.end;
+}
+
+/// power = signed operand [ ("^" | "**") power ]; associates to the right.
+std::size_t Evaluator::power(std::size_t index, Value& value) {
+    const std::size_t length = signedOperand(index, value);
+    if (length == 0) {
+        return 0;
+    }
+    const Operator found = readOperator(line, index + length);
+    if (found.kind != TokenClass::Power) {
+        return length;
+    }
+    const Nesting level(*this, found.start);
+    Value exponent;
+    const std::size_t exponentLength = power(found.end, exponent);
+    if (exponentLength == 0) {
+        raiseAt(ErrorCode::InvalidFormat, found.end);
+    }
+    setErrorPosition(position(found.start));
+    value = pow(value, exponent);
+    return found.end + exponentLength - index;
+}
+
+/// signed operand = { "+" | "-" } postfix operand. The sign deliberately binds tighter than the power: -2^2 is 4.
+std::size_t Evaluator::signedOperand(std::size_t index, Value& value) {
+    std::size_t start = index;
+    int factor = 1;
+    for (Sign sign = readSign(line, start, Blanks::Skip); sign.length != 0;
+         sign = readSign(line, start, Blanks::Skip)) {
+        factor *= sign.factor;
+        start += sign.length;
+    }
+    const std::size_t length = postfixOperand(start, value);
+    if (length == 0) {
+        return 0;
+    }
+    if (factor < 0) {
+        setErrorPosition(position(index));
+        value = neg(value);
+    }
+    return start + length - index;
+}
+
+/// postfix operand = operand [ "%" | "!" ]
+std::size_t Evaluator::postfixOperand(std::size_t index, Value& value) {
+    const std::size_t length = operand(index, value);
+    return length == 0 ? 0 : length + postfix(index + length, value);
+}
+
+std::size_t Evaluator::postfix(std::size_t index, Value& value) const {
+    const std::size_t start = skipBlanks(index);
+    const bool percent = isAt(TokenClass::Percent, start);
+    if (!percent && !isAt(TokenClass::Factorial, start)) {
+        return 0;
+    }
+    setErrorPosition(position(start));
+    value = percent ? pct(value) : fact(value);
+    return start + 1 - index;
+}
+
+/// operand = name operand | group | literal
+std::size_t Evaluator::operand(std::size_t index, Value& value) {
+    Real number = 0;
+    if (const std::size_t length = readNumber(line, index, number); length != 0) {
+        const std::int32_t end = position(index + length);
+        value = Value(number).at({position(index), end, -1, end});
+        return length;
+    }
+    if (const std::size_t length = nameOperand(index, value); length != 0) {
+        return length;
+    }
+    return group(index, value);
+}
+
+/// bare operand = (name operand | group) [ "%" | "!" ]
+std::size_t Evaluator::bareOperand(std::size_t index, Value& value) {
+    std::size_t length = nameOperand(index, value);
+    if (length == 0) {
+        length = group(index, value);
+    }
+    return length == 0 ? 0 : length + postfix(index + length, value);
+}
+
+/// A name, with its arguments if it is a function.
+std::size_t Evaluator::nameOperand(std::size_t index, Value& value) {
+    const std::size_t length = nameLength(line, index);
+    if (length == 0) {
+        return 0;
+    }
+    const std::size_t nameEnd = index + length;
+    const std::size_t keyword = lookup(line.substr(index, length));
+    if (keyword == 0) {
+        raiseAt(ErrorCode::UnknownName, nameEnd);
+    }
+    const Binding& binding = bindingOf(keyword);
+    if (const Value* constant = binding.as<Value>()) {
+        value = *constant;
+        return length;
+    }
+    const Nesting level(*this, index);
+    setErrorPosition(position(nameEnd));
+    if (const NullaryFunction* function = binding.as<NullaryFunction>()) {
+        value = (*function)();
+        return length;
+    }
+    if (const UnaryFunction* function = binding.as<UnaryFunction>()) {
+        return length + unaryCall(nameEnd, *function, value);
+    }
+    return length + listCall(nameEnd, binding, value);
+}
+
+/// With one argument in parentheses, the call of it; with two, the call of the complex number that they make, with at
+/// most one postfix operator; without parentheses right behind the name, the call of the signed operand that follows.
+std::size_t Evaluator::unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value) {
+    std::size_t end = skipBlanks(nameEnd);
+    Value argument;
+    if (isAt(TokenClass::ListOpen, nameEnd)) {
+        const std::size_t first = arguments.size();
+        end = nameEnd + argumentList(nameEnd);
+        const std::span<const Value> list = std::span(arguments).subspan(first);
+        if (list.size() == 2) {
+            argument = complexNumber(nameEnd, end, list[0], list[1]);
+            end += postfix(end, argument);
+        } else if (list.size() == 1) {
+            argument = list[0];
+        } else {
+            raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
+        }
+        arguments.resize(first);
+    } else {
+        const std::size_t length = signedOperand(end, argument);
+        if (length == 0) {
+            raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
+        }
+        end += length;
+    }
+    setErrorPosition(position(nameEnd));
+    value = function(argument);
+    return end - nameEnd;
+}
+
+/// The call of a function of two or three arguments or of a list, whose parentheses must be there.
+std::size_t Evaluator::listCall(std::size_t nameEnd, const Binding& binding, Value& value) {
+    if (binding.as<ReservedName>() != nullptr) {
+        raiseAt(ErrorCode::UnknownName, nameEnd);
+    }
+    const std::size_t open = skipBlanks(nameEnd);
+    if (!isAt(TokenClass::ListOpen, open)) {
+        raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
+    }
+    const std::size_t first = arguments.size();
+    const std::size_t end = open + argumentList(open);
+    const std::span<const Value> list = std::span(arguments).subspan(first);
+    const auto expect = [&](std::size_t least, std::size_t most) {
+        if (list.size() < least || list.size() > most) {
+            raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
+        }
+    };
+    setErrorPosition(position(nameEnd));
+    if (const BinaryFunction* function = binding.as<BinaryFunction>()) {
+        expect(2, 2);
+        value = (*function)(list[0], list[1]);
+    } else if (const TernaryFunction* function = binding.as<TernaryFunction>()) {
+        expect(3, 3);
+        value = (*function)(list[0], list[1], list[2]);
+    } else if (const ListFunction* function = binding.as<ListFunction>()) {
+        expect(function->least, function->most);
+        value = function->call(list);
+    }
+    arguments.resize(first);
+    return end - nameEnd;
+}
+
+/// group = "(" expression ")" | "(" expression ";" expression ")", the latter a complex number of two real parts.
+std::size_t Evaluator::group(std::size_t index, Value& value) {
+    if (!isAt(TokenClass::ListOpen, index)) {
+        return 0;
+    }
+    const Nesting level(*this, index);
+    std::size_t end = index + 1;
+    const std::size_t length = expression(end, value);
+    if (length == 0) {
+        end = skipBlanks(end);
+        raiseAt(end < line.size() ? ErrorCode::InvalidFormat : ErrorCode::Parentheses, end);
+    }
+    end += length;
+    if (isAt(TokenClass::ListClose, end)) {
+        return end + 1 - index;
+    }
+    if (!isAt(TokenClass::ListSeparator, end)) {
+        raiseAt(ErrorCode::Incomplete, end);
+    }
+    Value imaginary;
+    end += 1 + item(end + 1, imaginary);
+    if (!isAt(TokenClass::ListClose, end)) {
+        raiseAt(isAt(TokenClass::ListSeparator, end) ? ErrorCode::InvalidFormat : ErrorCode::Incomplete, end);
+    }
+    ++end;
+    value = complexNumber(index, end, value, imaginary);
+    return end - index;
+}
+
+/// The item that must follow a list separator.
+std::size_t Evaluator::item(std::size_t index, Value& value) {
+    const std::size_t length = expression(index, value);
+    if (length == 0) {
+        raiseAt(ErrorCode::Incomplete, skipBlanks(index));
+    }
+    return length;
+}
+
+/// argument list = "(" [ expression { ";" expression } ] ")"; the items are left on top of the arguments.
+std::size_t Evaluator::argumentList(std::size_t index) {
+    std::size_t end = skipBlanks(index + 1);
+    if (isAt(TokenClass::ListClose, end)) {
+        return end + 1 - index;
+    }
+    Value value;
+    const std::size_t length = expression(end, value);
+    if (length == 0) {
+        raiseAt(ErrorCode::Incomplete, end);
+    }
+    end += length;
+    arguments.push_back(value);
+    while (isAt(TokenClass::ListSeparator, end)) {
+        end += 1 + item(end + 1, value);
+        arguments.push_back(value);
+    }
+    if (!isAt(TokenClass::ListClose, end)) {
+        raiseAt(ErrorCode::Incomplete, end);
+    }
+    return end + 1 - index;
+}
+
+/// Whether a value is the literal, signs aside, with which the text from an index on begins.
+bool Evaluator::isLiteralFrom(std::size_t index, const Value& value) const {
+    while (isBlank(at(index)) || isAt(TokenClass::Plus, index) || isAt(TokenClass::Minus, index)) {
+        ++index;
+    }
+    return value.positions.literalStart == position(index) && value.positions.imaginaryPartEnd == -1;
+}
+
+/// The number re + i im of a list of two items that stands from start to end. Both must be real (11). Where both are
+/// literals, signs aside, the list is itself a literal and the number carries its place.
+Value Evaluator::complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) const {
+    setErrorPosition(position(start));
+    for (const Value& part : {re, im}) {
+        if (!(part.im == 0)) {
+            raise(ErrorCode::ComplexNotAllowed, part.positions.literalEnd);
+        }
+    }
+    const Value number(re.re, im.re);
+    if (!isLiteralFrom(start + 1, re)) {
+        return number;
+    }
+    const std::size_t separator = skipBlanks(static_cast<std::size_t>(re.positions.literalEnd));
+    if (!isAt(TokenClass::ListSeparator, separator) || !isLiteralFrom(separator + 1, im) ||
+        skipBlanks(static_cast<std::size_t>(im.positions.literalEnd)) + 1 != end) {
+        return number;
+    }
+    return number.at({position(start), re.positions.literalEnd, im.positions.literalEnd, position(end)});
+}
+
+}  // namespace
+
+Evaluation evaluateLine(std::string_view line, int nestingLimit) { return Evaluator(line, nestingLimit).evaluate(); }
+
+}  // namespace calquo

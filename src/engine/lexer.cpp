@@ -1,0 +1,153 @@
+// The token reader over the character table.
+#include "engine/lexer.h"
+
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+constexpr std::uint32_t smallestBase = 2;
+constexpr std::uint32_t largestBase = 36;
+
+std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
+
+/// Length of a token without the blanks around it.
+std::size_t bareTokenLength(TokenClass tokenClass, std::string_view line, std::size_t index) {
+    const char character = characterAt(line, index);
+    const char next = characterAt(line, index + 1);
+    const auto matches = [&](TokenClass wanted) {
+        return character == markCharacter(wanted) && character != '\0' ? std::size_t{1} : 0;
+    };
+    switch (tokenClass) {
+        case TokenClass::None:
+        case TokenClass::BlankRun:
+            return 0;
+        case TokenClass::ExponentMark:
+            return character == 'e' || character == 'E' ? 1 : matches(TokenClass::ExponentMark);
+        case TokenClass::Minus:
+            return next == '>' ? 0 : matches(TokenClass::Minus);
+        case TokenClass::Times:
+            return next == markCharacter(TokenClass::Times) ? 0 : matches(TokenClass::Times);
+        case TokenClass::Power:
+            if (character == markCharacter(TokenClass::Times) && next == character) {
+                return 2;
+            }
+            return matches(TokenClass::Power);
+        case TokenClass::Arrow:
+            return character == markCharacter(TokenClass::Minus) && next == '>' ? 2 : 0;
+        case TokenClass::SecondEquals:
+            return matches(TokenClass::Equals);
+        default:
+            return matches(tokenClass);
+    }
+}
+
+struct WholeNumber {
+    std::uint32_t number = 0;  ///< too large a number stands as one above every base
+    std::size_t length = 0;
+};
+
+WholeNumber readWholeNumber(std::string_view line, std::size_t index) {
+    WholeNumber result;
+    for (; isDecimalDigit(characterAt(line, index + result.length)); ++result.length) {
+        result.number = result.number * 10 + digitValue(line[index + result.length]);
+        if (result.number > largestBase) {
+            result.number = largestBase + 1;
+        }
+    }
+    return result;
+}
+
+void checkBase(std::uint32_t base, std::size_t index) {
+    if (base < smallestBase || base > largestBase) {
+        raise(ErrorCode::WrongBase, position(index));
+    }
+}
+
+}  // namespace
+
+std::size_t blankLength(std::string_view line, std::size_t index) {
+    std::size_t end = index;
+    while (isBlank(characterAt(line, end))) {
+        ++end;
+    }
+    return end - index;
+}
+
+std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_t index, Blanks blanks) {
+    if (blanks == Blanks::Keep) {
+        return bareTokenLength(tokenClass, line, index);
+    }
+    const std::size_t before = blankLength(line, index);
+    if (tokenClass == TokenClass::BlankRun) {
+        return before;
+    }
+    const bool blankToken = tokenClass == TokenClass::Blank || tokenClass == TokenClass::Tab;
+    const std::size_t start = blankToken ? index : index + before;
+    const std::size_t length = bareTokenLength(tokenClass, line, start);
+    return length == 0 ? 0 : start - index + length + blankLength(line, start + length);
+}
+
+Sign readSign(std::string_view line, std::size_t index, Blanks blanks) {
+    if (const std::size_t length = tokenLength(TokenClass::Minus, line, index, blanks); length != 0) {
+        return {-1, length};
+    }
+    return {1, tokenLength(TokenClass::Plus, line, index, blanks)};
+}
+
+BasePrefix readBasePrefix(std::string_view line, std::size_t index) {
+    std::size_t digits = 0;
+    while (digits < 2 && isDecimalDigit(characterAt(line, index + digits))) {
+        ++digits;
+    }
+    if (digits == 0 || bareTokenLength(TokenClass::BaseMark, line, index + digits) == 0) {
+        return {};
+    }
+    const std::uint32_t base = readWholeNumber(line, index).number;
+    checkBase(base, index + digits);
+    return {base, digits + 1};
+}
+
+OutputBase readOutputBaseDirective(std::string_view line, std::size_t index) {
+    if (bareTokenLength(TokenClass::BaseMark, line, index) == 0) {
+        return {};
+    }
+    const WholeNumber number = readWholeNumber(line, index + 1);
+    const std::size_t end = index + 1 + number.length;
+    if (number.length == 0 || !isBlank(characterAt(line, end))) {
+        return {};
+    }
+    checkBase(number.number, index);
+    return {number.number, end + blankLength(line, end) - index};
+}
+
+OutputBase readOutputBaseSuffix(std::string_view line, std::size_t index) {
+    const std::size_t start = index + blankLength(line, index);
+    if (start == index || bareTokenLength(TokenClass::BaseMark, line, start) == 0) {
+        return {};
+    }
+    const WholeNumber number = readWholeNumber(line, start + 1);
+    std::size_t end = start + 1 + number.length;
+    end += blankLength(line, end);
+    if (number.length == 0 || end != line.size()) {
+        return {};
+    }
+    checkBase(number.number, start);
+    return {number.number, end - index};
+}
+
+std::size_t nameLength(std::string_view line, std::size_t index) {
+    if (!isLetter(characterAt(line, index))) {
+        return 0;
+    }
+    std::size_t length = 1;
+    while (isNameCharacter(characterAt(line, index + length))) {
+        ++length;
+        if (length > longestName) {
+            raise(ErrorCode::TooLong, position(index + longestName));
+        }
+    }
+    return length;
+}
+
+}  // namespace calquo

@@ -1,0 +1,100 @@
+// Output formats: the packed word that holds a format's attributes, the seven kinds with their defaults, and checked
+// access to the fields.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace calquo {
+
+/// The attributes of one output format, packed as they are stored.
+using NumericFormat = std::uint32_t;
+
+enum class FormatKind : std::uint32_t { Automatic, Scientific, FixedPoint, Currency, Integer, Rational, Fractional };
+
+/// The fields of the word, as masks. Truncation shares bits with Digits, and AlwaysExponent is GroupWhole: a kind has
+/// one or the other.
+namespace field {
+constexpr NumericFormat kind = 0xF0000000;
+constexpr NumericFormat groupSize = 0x0F000000;          ///< G: digits in a group
+constexpr NumericFormat digits = 0x00F80000;             ///< D: most fractional, or denominator digits
+constexpr NumericFormat truncation = 0x00E00000;         ///< T: how Integer makes a number whole
+constexpr NumericFormat significantDigits = 0x0007C000;  ///< S: most significant digits
+constexpr NumericFormat exponentLimit = 0x00003E00;      ///< X: largest power still written in fixed point
+constexpr NumericFormat zeroOut = 0x40;                  ///< I: numbers below 1e-12 count as 0
+constexpr NumericFormat basePrefix = 0x20;               ///< write the base prefix, which base 10 has not
+constexpr NumericFormat trailingZeros = 0x10;            ///< Z
+constexpr NumericFormat groupFraction = 0x08;            ///< F
+constexpr NumericFormat groupWhole = 0x04;               ///< W
+constexpr NumericFormat alwaysExponent = 0x04;           ///< E
+constexpr NumericFormat alwaysDecimalMark = 0x02;        ///< .
+constexpr NumericFormat plusSign = 0x01;                 ///< +
+}  // namespace field
+
+/// The field that an attribute's letter stands for; 0 for a letter that stands for none.
+constexpr NumericFormat fieldOfLetter(char letter) {
+    struct Row {
+        char letter;
+        NumericFormat mask;
+    };
+    constexpr Row rows[] = {
+        {'G', field::groupSize},         {'D', field::digits},
+        {'T', field::truncation},        {'S', field::significantDigits},
+        {'X', field::exponentLimit},     {'I', field::zeroOut},
+        {'Z', field::trailingZeros},     {'F', field::groupFraction},
+        {'W', field::groupWhole},        {'E', field::alwaysExponent},
+        {'.', field::alwaysDecimalMark}, {'+', field::plusSign},
+    };
+    for (const Row& row : rows) {
+        if (row.letter == letter) {
+            return row.mask;
+        }
+    }
+    return 0;
+}
+
+/// One row for each kind, in the order of FormatKind.
+struct FormatKindRow {
+    std::string_view optionName;  ///< as given on a command line
+    std::string_view title;
+    std::string_view letters;  ///< the attributes that the kind has, in the order of its dialog
+    NumericFormat defaultWord;
+};
+
+inline constexpr std::array formatKinds = std::to_array<FormatKindRow>({
+    {"automatic", "Automatic Format", "GSDXIZWF.+", 0x032A1044},
+    {"scientific", "Scientific Format", "GSIZFE.+", 0x13222040},
+    {"fixed", "Fixed-Point Format", "GDIZWF.+", 0x232A2044},
+    {"currency", "Currency Format", "GDZWF.+", 0x33122034},
+    {"integer", "Integer Format", "GTW+", 0x4400200C},
+    {"rational", "Rational Format", "GDF+", 0x53180000},
+    {"fractional", "Fractional Format", "GDWF+", 0x63180004},
+});
+
+/// The default words, indexed by kind: what "reset all formats" restores.
+inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = [] {
+    std::array<NumericFormat, formatKinds.size()> words{};
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        words[i] = formatKinds[i].defaultWord;
+    }
+    return words;
+}();
+
+/// The value of a field of the word.
+constexpr std::uint32_t getField(NumericFormat word, NumericFormat mask) {
+    return (word & mask) >> std::countr_zero(mask);
+}
+
+/// Sets a field of the word. Raises 5 ("internal fault"), leaving the word as it is, when the value does not fit.
+void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value);
+
+/// Whether the kind of a word has the attribute of a letter.
+constexpr bool hasAttribute(NumericFormat word, char letter) {
+    const std::uint32_t kind = getField(word, field::kind);
+    return kind < formatKinds.size() && formatKinds[kind].letters.find(letter) != std::string_view::npos;
+}
+
+}  // namespace calquo

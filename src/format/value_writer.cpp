@@ -1,0 +1,333 @@
+// The writers of the seven kinds: fixed point, scientific, fractions.
+#include "format/value_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "engine/characters.h"
+#include "format/digits.h"
+#include "format/fraction.h"
+#include "numeric/rounding.h"
+#include "values/extended.h"
+
+namespace calquo {
+namespace {
+
+/// From this base on "e" is a digit, and only the table's exponent mark can follow one.
+constexpr std::uint32_t firstBaseWithDigitE = 15;
+
+/// Below this magnitude a number counts as zero under the flag I.
+constexpr Real insignificant = 1e-12L;
+
+/// A kind's word taken apart: what of it applies to the number at hand. Attributes that a kind lacks are off.
+struct Style {
+    NumericFormat word;
+    std::uint32_t base;
+    int groupSize;
+
+    Style(NumericFormat formatWord, std::uint32_t outputBase)
+        : word(formatWord), base(outputBase), groupSize(static_cast<int>(getField(word, field::groupSize))) {}
+
+    [[nodiscard]] bool has(char letter) const {
+        return hasAttribute(word, letter) && (word & fieldOfLetter(letter)) != 0;
+    }
+    /// A number of digits that the kind may not limit at all.
+    [[nodiscard]] int limit(char letter, int none) const {
+        return hasAttribute(word, letter) ? static_cast<int>(getField(word, fieldOfLetter(letter))) : none;
+    }
+};
+
+FormatKind kindOf(NumericFormat word) {
+    const std::uint32_t kind = getField(word, field::kind);
+    return kind < formatKinds.size() ? static_cast<FormatKind>(kind) : FormatKind::Automatic;
+}
+
+NumericFormat withKind(NumericFormat word, FormatKind kind) {
+    return (word & ~field::kind) | static_cast<std::uint32_t>(kind) << std::countr_zero(field::kind);
+}
+
+/// Appends the digits of a whole part, in groups counted from its end.
+void appendWhole(std::string_view digits, bool grouped, int groupSize, std::string& text) {
+    if (!grouped || groupSize == 0) {
+        text += digits;
+        return;
+    }
+    const auto size = static_cast<std::size_t>(groupSize);
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i != 0 && (digits.size() - i) % size == 0) {
+            text += markCharacter(TokenClass::GroupMark);
+        }
+        text += digits[i];
+    }
+}
+
+/// Appends the digits behind the decimal mark, in groups counted from the mark.
+void appendFraction(std::size_t zeros, std::string_view digits, bool grouped, int groupSize, std::string& text) {
+    const auto size = static_cast<std::size_t>(groupSize);
+    for (std::size_t i = 0; i < zeros + digits.size(); ++i) {
+        if (grouped && size != 0 && i != 0 && i % size == 0) {
+            text += markCharacter(TokenClass::GroupMark);
+        }
+        text += i < zeros ? '0' : digits[i - zeros];
+    }
+}
+
+/// The digits of x with as many places behind the mark as the limits on fractional and on significant digits leave.
+/// Returns that number of places; negative when digits ahead of the mark are rounded away.
+int limitedDigits(Real x, const Style& style, int fractionalDigits, int significantDigits, DigitBuffer& digits) {
+    int places = fractionalDigits;
+    if (places > 15) {
+        places = std::min(places, significantDigits - 1 - leadingPlace(x, style.base));
+    }
+    for (;;) {
+        roundedDigits(x, style.base, places, digits);
+        const int excess = digits.count() - significantDigits;
+        const int better = std::min(places - excess, fractionalDigits);
+        // One digit too few may also mean that the estimate of the leading place was too high.
+        if (excess <= 0 && (excess == 0 || places == fractionalDigits || better == places)) {
+            return places;
+        }
+        places = better;
+    }
+}
+
+class NumberWriter {
+public:
+    NumberWriter(const Style& numberStyle, std::string& output) : style(numberStyle), text(output) {}
+
+    void write(Real x);
+
+private:
+    void writeFixed(Real magnitude, bool negative);
+    void writeScientific(Real magnitude, bool negative);
+    void writeFraction(Real magnitude, bool negative);
+
+    void appendSign(bool negative, bool zero);
+    void appendPrefix();
+    void appendNumber(const DigitBuffer& digits, int places);
+    void appendWholeNumber(UInt128 number, bool grouped);
+
+    Style style;
+    std::string& text;
+};
+
+/// Whether Automatic leaves fixed point: |log x| in the output base, rounded to a whole number, is above the limit. The
+/// logarithm itself would have to be exact at the halves; its power is.
+bool exceedsExponentLimit(Real magnitude, const Style& style) {
+    Real bound = std::sqrt(static_cast<Real>(style.base));
+    for (std::uint32_t i = getField(style.word, field::exponentLimit); i != 0; --i) {
+        bound *= static_cast<Real>(style.base);
+    }
+    return magnitude >= bound || magnitude * bound <= 1;
+}
+
+Real madeWhole(Real x, std::uint32_t method) {
+    constexpr std::array<Real (*)(Real), 5> methods = {round, sRound, floor, ceil, whole};
+    return methods[method < methods.size() ? method : 0](x);
+}
+
+void NumberWriter::write(Real x) {
+    const bool negative = x < 0;
+    const Real magnitude = negative ? -x : x;
+    switch (kindOf(style.word)) {
+        case FormatKind::Automatic:
+            if (magnitude != 0 && exceedsExponentLimit(magnitude, style)) {
+                style.word = withKind(style.word, FormatKind::Scientific);
+                writeScientific(magnitude, negative);
+                return;
+            }
+            writeFixed(magnitude, negative);
+            return;
+        case FormatKind::Scientific:
+            writeScientific(magnitude, negative);
+            return;
+        case FormatKind::Rational:
+        case FormatKind::Fractional:
+            writeFraction(magnitude, negative);
+            return;
+        case FormatKind::FixedPoint:
+        case FormatKind::Currency:
+        case FormatKind::Integer:
+            writeFixed(magnitude, negative);
+            return;
+    }
+}
+
+void NumberWriter::appendSign(bool negative, bool zero) {
+    if (negative && !zero) {
+        text += '-';
+    } else if (!zero && style.has('+')) {
+        text += '+';
+    }
+}
+
+void NumberWriter::appendPrefix() {
+    if (style.base != 10) {
+        text += std::to_string(style.base);
+        text += markCharacter(TokenClass::BaseMark);
+    }
+}
+
+/// Appends digits that are a number times base^places.
+void NumberWriter::appendNumber(const DigitBuffer& buffer, int places) {
+    std::string_view digits = buffer.text();
+    const auto fractional = static_cast<std::size_t>(std::max(places, 0));
+    const std::size_t wholeDigits = digits.size() > fractional ? digits.size() - fractional : 0;
+    std::string_view fraction = digits.substr(wholeDigits);
+    std::size_t zeros = fractional - fraction.size();
+    if (!style.has('Z')) {
+        // Without any digit but 0 find_last_not_of gives npos, and npos + 1 is 0.
+        fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
+        zeros = fraction.empty() ? 0 : zeros;
+    }
+    if (wholeDigits == 0) {
+        text += '0';
+    } else if (places < 0) {
+        std::string padded(digits);
+        padded.append(static_cast<std::size_t>(-places), '0');
+        appendWhole(padded, style.has('W'), style.groupSize, text);
+    } else {
+        appendWhole(digits.substr(0, wholeDigits), style.has('W'), style.groupSize, text);
+    }
+    if (zeros + fraction.size() != 0) {
+        text += markCharacter(TokenClass::DecimalMark);
+        appendFraction(zeros, fraction, style.has('F'), style.groupSize, text);
+    } else if (style.has('.')) {
+        text += markCharacter(TokenClass::DecimalMark);
+    }
+}
+
+void NumberWriter::writeFixed(Real magnitude, bool negative) {
+    constexpr int unlimited = 20000;
+    DigitBuffer digits;
+    int places = style.limit('D', 0);
+    if (magnitude != 0) {
+        places = limitedDigits(magnitude, style, places, std::max(style.limit('S', unlimited), 1), digits);
+    }
+    appendSign(negative, digits.count() == 0);
+    appendPrefix();
+    appendNumber(digits, places);
+}
+
+void NumberWriter::writeScientific(Real magnitude, bool negative) {
+    const int significant = std::max(style.limit('S', 1), 1);
+    DigitBuffer digits;
+    int exponent = 0;
+    if (magnitude != 0) {
+        exponent = leadingPlace(magnitude, style.base);
+        roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
+        // The estimate was off by one, or the rounding carried into a new leading digit.
+        while (digits.count() != significant) {
+            exponent += digits.count() - significant;
+            roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
+        }
+    }
+    appendSign(negative, magnitude == 0);
+    appendPrefix();
+    appendNumber(digits, significant - 1);
+    if (exponent == 0 && !style.has('E')) {
+        return;
+    }
+    text += style.base < firstBaseWithDigitE ? 'e' : markCharacter(TokenClass::ExponentMark);
+    text += exponent < 0 ? '-' : '+';
+    appendWholeNumber({0, static_cast<std::uint64_t>(std::abs(exponent))}, false);
+}
+
+void NumberWriter::appendWholeNumber(UInt128 number, bool grouped) {
+    if (number == UInt128{}) {
+        text += '0';
+        return;
+    }
+    DigitBuffer digits;
+    digits.assign(number, style.base);
+    appendWhole(digits.text(), grouped, style.groupSize, text);
+}
+
+std::uint64_t denominatorLimit(const Style& style) {
+    std::uint64_t power = 1;
+    for (std::uint32_t i = getField(style.word, field::digits); i != 0; --i) {
+        if (power > largestDenominator / style.base) {
+            return largestDenominator;
+        }
+        power *= style.base;
+    }
+    return std::max<std::uint64_t>(power - 1, 1);
+}
+
+void NumberWriter::writeFraction(Real magnitude, bool negative) {
+    Real whole = std::trunc(magnitude);
+    Fraction fraction = closestFraction(magnitude - whole, denominatorLimit(style));
+    if (fraction.numerator == fraction.denominator) {
+        fraction = {};
+        whole += 1;
+    }
+    const bool rational = kindOf(style.word) == FormatKind::Rational;
+    appendSign(negative, whole == 0 && fraction.numerator == 0);
+    if (fraction.numerator == 0 || (whole >= 1 && !rational)) {
+        DigitBuffer digits;
+        if (whole != 0) {
+            roundedDigits(whole, style.base, 0, digits);
+        }
+        appendPrefix();
+        appendNumber(digits, 0);
+        if (fraction.numerator == 0) {
+            return;
+        }
+        text += ' ';
+    }
+    // A whole part beside a fraction is below 2^63.
+    UInt128 numerator = {0, fraction.numerator};
+    if (rational) {
+        numerator = numerator + multiply(static_cast<std::uint64_t>(whole), fraction.denominator);
+    }
+    appendPrefix();
+    appendWholeNumber(numerator, style.has('F'));
+    text += '/';
+    appendPrefix();
+    appendWholeNumber({0, fraction.denominator}, style.has('F'));
+}
+
+bool zeroedOut(Real x, NumericFormat word) {
+    return hasAttribute(word, 'I') && (word & field::zeroOut) != 0 && std::fabs(x) < insignificant;
+}
+
+}  // namespace
+
+void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::string& text) {
+    const ExtendedBits bits = bitsOf(x);
+    if (bits.special()) {
+        text += bits.infinite() ? (bits.negative() ? "-inf" : "+inf") : (bits.quiet() ? "qNaN" : "sNaN");
+        return;
+    }
+    if (zeroedOut(x, word)) {
+        x = 0;
+    }
+    if (kindOf(word) == FormatKind::Integer) {
+        x = madeWhole(x, getField(word, field::truncation));
+    }
+    NumberWriter(Style(word, outputBase), text).write(x);
+}
+
+void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text) {
+    const std::uint32_t base = outputBase == 0 ? 10 : static_cast<std::uint32_t>(outputBase);
+    if (value.im == 0 || zeroedOut(value.im, word)) {
+        FormatReal(value.re, word, base, text);
+        return;
+    }
+    text += markCharacter(TokenClass::ListOpen);
+    FormatReal(value.re, word, base, text);
+    text += markCharacter(TokenClass::ListSeparator);
+    text += ' ';
+    FormatReal(value.im, word, base, text);
+    text += markCharacter(TokenClass::ListClose);
+}
+
+std::string FormatValue(const Value& value, NumericFormat word, std::uint64_t outputBase) {
+    std::string text;
+    appendValue(value, word, outputBase, text);
+    return text;
+}
+
+}  // namespace calquo
