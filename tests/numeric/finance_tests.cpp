@@ -1,0 +1,233 @@
+// Finance: the five functions as inverses of one another, and rates where solvers go astray.
+#include "numeric/finance.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <ostream>
+#include <random>
+#include <vector>
+
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+constexpr Real day = 86400;
+constexpr Real year = 31556952;
+constexpr Real month = year / 12;
+
+using Function = Value (*)(std::span<const Value>);
+
+Real call(Function function, std::vector<Value> arguments) { return function(arguments).re; }
+
+struct Plan {
+    Real first, duration, annualRate, compounding, payment, period, timing;
+
+    [[nodiscard]] Real second() const {
+        return call(fv, {first, duration, annualRate, compounding, payment, period, timing});
+    }
+    [[nodiscard]] Real firstFrom(Real second) const {
+        return call(pv, {second, duration, annualRate, compounding, payment, period, timing});
+    }
+    [[nodiscard]] Real paymentFrom(Real second) const {
+        return call(pmt, {first, second, duration, annualRate, compounding, period, timing});
+    }
+    [[nodiscard]] Real durationFrom(Real second) const {
+        return call(dur, {first, second, annualRate, compounding, payment, period, timing});
+    }
+    [[nodiscard]] Real rateFrom(Real second) const {
+        return call(rate, {first, second, duration, compounding, payment, period, timing});
+    }
+
+    /// How far the plan's second value is from another one, against the size of what it is the sum of.
+    [[nodiscard]] double deviation(Real other) const {
+        Plan amounts = *this;
+        amounts.first = std::fabs(first);
+        amounts.payment = std::fabs(payment);
+        return static_cast<double>(std::fabs(second() - other) / amounts.second());
+    }
+};
+
+std::ostream& operator<<(std::ostream& out, const Plan& plan) {
+    return out << static_cast<double>(plan.first) << " for " << static_cast<double>(plan.duration / year)
+               << " years at " << static_cast<double>(plan.annualRate) << " compounded every "
+               << static_cast<double>(plan.compounding) << " s, " << static_cast<double>(plan.payment) << " every "
+               << static_cast<double>(plan.period) << " s, timing " << static_cast<double>(plan.timing);
+}
+
+/// Plans of all sizes: days to a century, falling and rising, with and without payments, whole and broken periods.
+class Plans {
+public:
+    explicit Plans(unsigned seed) : generator_(seed) {}
+
+    Plan next() {
+        Plan plan = {};
+        plan.first = chance(8) ? 0 : uniform(-1000, 1000);
+        plan.duration = day * std::exp(uniform(0, std::log(Real{36525})));
+        // Neither so steep that everything vanishes nor so flat that nothing happens.
+        plan.annualRate =
+            std::copysign(std::exp(uniform(-7, 0)), uniform(-1, 1)) * std::min<Real>(1, 4 * year / plan.duration);
+        plan.compounding = chance(4) ? 0 : day * std::exp(uniform(0, std::log(Real{365})));
+        plan.payment = chance(4) ? 0 : uniform(-100, 100);
+        plan.period =
+            chance(3) ? plan.duration / std::floor(uniform(1, 60)) : day * std::exp(uniform(0, std::log(Real{800})));
+        if (plan.period < day) plan.period = day;
+        plan.timing = chance(2) ? 1 : 0;
+        return plan;
+    }
+
+private:
+    Real uniform(Real low, Real high) {
+        return low + (high - low) * static_cast<Real>(generator_()) / static_cast<Real>(generator_.max());
+    }
+    bool chance(unsigned oneIn) { return generator_() % oneIn == 0; }
+
+    std::mt19937_64 generator_;
+};
+
+constexpr int sweepSize = 4000;
+constexpr double tolerance = 1e-15;
+
+TEST(Finance, BalanceIsWhatIsBookedPeriodByPeriod) {
+    Plans plans(4);
+    for (int count = 0; count < sweepSize; ++count) {
+        Plan plan = plans.next();
+        const int periods = 1 + count % 40;
+        plan.compounding = plan.period;
+        plan.duration = static_cast<Real>(periods) * plan.period;
+        if (plan.annualRate * plan.period / year <= -1) continue;
+        Real account = plan.first;
+        for (int period = 0; period < periods; ++period) {
+            if (plan.timing == 1) account += plan.payment;
+            account += account * plan.annualRate * plan.period / year;
+            if (plan.timing == 0) account += plan.payment;
+        }
+        if (plan.first == 0 && plan.payment == 0) continue;
+        ASSERT_LT(plan.deviation(account), tolerance) << plan;
+    }
+}
+
+TEST(Finance, EachFunctionUndoesTheFutureValue) {
+    Plans plans(1);
+    for (int count = 0; count < sweepSize; ++count) {
+        const Plan plan = plans.next();
+        if (plan.first == 0 && plan.payment == 0) continue;
+        const Real second = plan.second();
+        Plan found = plan;
+        found.first = plan.firstFrom(second);
+        ASSERT_LT(found.deviation(second), tolerance) << "pv: " << plan;
+        found = plan;
+        found.payment = plan.paymentFrom(second);
+        ASSERT_LT(found.deviation(second), tolerance) << "pmt: " << plan;
+        found = plan;
+        found.duration = plan.durationFrom(second);
+        ASSERT_LT(found.deviation(second), tolerance) << "dur: " << plan;
+    }
+}
+
+TEST(Finance, RateIsFoundAgain) {
+    Plans plans(3);
+    for (int count = 0; count < sweepSize; ++count) {
+        const Plan plan = plans.next();
+        // Without a first value a single payment at its end, or none, says nothing about the rate.
+        if (plan.first == 0 && (plan.payment == 0 || plan.duration == plan.period)) continue;
+        const Real second = plan.second();
+        Plan found = plan;
+        ASSERT_NO_THROW(found.annualRate = plan.rateFrom(second)) << plan;
+        // Of two rates that fit, the one nearer to 0 is the answer.
+        ASSERT_LE(std::fabs(found.annualRate), std::fabs(plan.annualRate) * (1 + 1e-9L)) << plan;
+        ASSERT_LT(found.deviation(second), tolerance) << plan << ", found " << static_cast<double>(found.annualRate);
+    }
+}
+
+TEST(Finance, RateIsMissingOnlyWhereTheBalanceCrossesNowhere) {
+    Plans plans(5);
+    int solved = 0;
+    int unsolved = 0;
+    for (int count = 0; count < sweepSize; ++count) {
+        Plan plan = plans.next();
+        plan.compounding = 0;
+        if (plan.payment == 0) continue;
+        // Any second value, reached or not.
+        const Real second = plan.first + (plan.payment - plan.first) * std::sin(static_cast<Real>(count));
+        const auto misses = [&](Real annualRate) {
+            Plan other = plan;
+            other.annualRate = annualRate;
+            return other.second() > second;
+        };
+        try {
+            Plan found = plan;
+            found.annualRate = plan.rateFrom(second);
+            ASSERT_LT(found.deviation(second), tolerance) << plan << " to " << static_cast<double>(second);
+            ++solved;
+        } catch (const Except& error) {
+            ASSERT_EQ(error.code, ErrorCode::NoSolution);
+            ++unsolved;
+            // From losing nearly all in a day to growing as fast: the second value stays on one side.
+            const bool side = misses(0);
+            for (Real step = 1e-4L; step < 4000; step *= 1.1L) {
+                const Real annualRate = step * year / plan.duration;
+                ASSERT_EQ(misses(annualRate), side) << plan << " to " << static_cast<double>(second);
+                ASSERT_EQ(misses(-annualRate), side) << plan << " to " << static_cast<double>(second);
+            }
+        }
+    }
+    EXPECT_GT(solved, sweepSize / 4);
+    EXPECT_GT(unsolved, sweepSize / 20);
+}
+
+struct RateRow {
+    const char* what;
+    Real first, second, duration, payment, period, timing;
+    Real wanted;  ///< growth per payment period, e^(xp) - 1
+};
+
+TEST(Finance, RatesWhereSolversGoAstray) {
+    // Compounded with the payments, so that the growth of a period is the rate over the periods of a year.
+    const RateRow rows[] = {
+        {"one zero of order two", 100, -341, 2, -220, 1, 0, 0.1L},
+        {"two zeros, 10 % and 30 %", 100, -383, 2, -240, 1, 0, 0.1L},
+        {"a rate of 0", 100, 340, 24, 10, 1, 0, 0},
+        {"a payment alone", 0, 331, 3, 100, 1, 0, 0.1L},
+        {"the same at the start", 0, 364.1L, 3, 100, 1, 1, 0.1L},
+        {"a debt paid off", -331, 0, 3, 133.1L, 1, 0, 0.1L},
+        {"all lost but a last payment", 1000, 20, 60, 10, 1, 0, -0.5L},
+        {"tripled every month for 500 years", 1, 0, 6000, 0, 1, 0, 2},
+    };
+    for (const RateRow& row : rows) {
+        Real second = row.second;
+        if (row.payment == 0) second = row.first * std::pow(1 + row.wanted, row.duration);
+        const Real period = row.period * month;
+        const Real annualRate =
+            call(rate, {row.first, second, row.duration * month, period, row.payment, period, row.timing});
+        EXPECT_NEAR(static_cast<double>(annualRate * period / year), static_cast<double>(row.wanted), 1e-9) << row.what;
+    }
+}
+
+TEST(Finance, SearchesEndSoon) {
+    const Real huge = 1e4000L;
+    const std::vector<Value> calls[] = {
+        {-1, huge, 1000 * year, month, -1 / huge, day, 0},
+        {huge, -huge, day, 0, 1, huge, 1},
+        {1, 2, huge, 0, -1, day, 0},
+        {1, 2, day, huge, -1, huge, 0},
+        {1e-4900L, 1e4900L, day, 0, 1e-4900L, day, 0},
+        {100, -342, huge, huge, -221, huge / 2, 0},
+        {std::numeric_limits<Real>::quiet_NaN(), 1, year, month, 1},
+    };
+    const auto start = std::chrono::steady_clock::now();
+    for (const std::vector<Value>& arguments : calls) {
+        try {
+            EXPECT_TRUE(std::isfinite(rate(arguments).re));
+        } catch (const Except& error) {
+            EXPECT_EQ(error.code, ErrorCode::NoSolution);
+        }
+    }
+    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 1);
+}
+
+}  // namespace
+}  // namespace calquo
