@@ -1,0 +1,176 @@
+// What lines in a table cannot show: position words, lines of a hundred thousand characters and more, random bytes.
+#include "engine/evaluator.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+#include "engine/lexer.h"
+#include "format/value_writer.h"
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+/// The result under the default format, or the message and its place.
+std::string answer(std::string_view line, int nestingLimit = deepestNesting) {
+    try {
+        const Evaluation evaluation = evaluateLine(line, nestingLimit);
+        return FormatValue(evaluation.value, defaultFormats[0], evaluation.outputBase);
+    } catch (const Except& error) {
+        return std::string(errorMessage(error.code)) + " at " + std::to_string(errorPosition());
+    }
+}
+
+std::string repeated(std::string_view piece, int count) {
+    std::string result;
+    for (int i = 0; i < count; ++i) {
+        result += piece;
+    }
+    return result;
+}
+
+TEST(Evaluator, PositionsTellWhereTheLiteralStands) {
+    struct Row {
+        const char* line;
+        Positions positions;
+    };
+    const Row rows[] = {
+        {"12.5", {0, 4, -1, 4}},           {"2*3", {2, 3, -1, 3}},         {"2 ^ 10", {4, 6, -1, 6}},
+        {"sqrt 81", {5, 7, -1, 7}},        {"-(5!)%", {2, 3, -1, 3}},      {"(1.5; -2)", {0, 4, 8, 9}},
+        {"sin( 1 ; 2 )", {3, 6, 10, 12}},  {"(1+1; 2)", {-1, -1, -1, -1}}, {"bShift(256; 4)", {7, 10, -1, 10}},
+        {"bAnd(12; 10)", {9, 11, -1, 11}}, {"0^5", {-1, -1, -1, -1}},      {"max(1; 2)", {-1, -1, -1, -1}},
+        {"5 km -> m", {-1, -1, -1, -1}},   {"2 pi", {-1, -1, -1, -1}},
+    };
+    for (const Row& row : rows) {
+        const Positions found = evaluateLine(row.line).value.positions;
+        EXPECT_EQ(found, row.positions) << row.line << ": " << found.literalStart << ", " << found.realPartEnd << ", "
+                                        << found.imaginaryPartEnd << ", " << found.literalEnd;
+    }
+}
+
+TEST(Evaluator, NestingIsBoundedWhateverItsShape) {
+    for (const char* piece : {"(", "sin(", "2^", "sin ", "avg(", "2(", "-("}) {
+        const std::string line = repeated(piece, 100000) + "1";
+        EXPECT_TRUE(answer(line).starts_with("limit exceeded at ")) << piece;
+    }
+    EXPECT_EQ(answer("((((1))))", 4), "1");
+    EXPECT_EQ(answer("((((1))))", 3), "limit exceeded at 3");
+    EXPECT_EQ(answer("2^2^2^2", 2), "limit exceeded at 5");
+    EXPECT_EQ(answer("sqrt sqrt(16)", 1), "limit exceeded at 5");
+}
+
+TEST(Evaluator, ListsThatAreNoGroupsAreReadOnce) {
+    // Each level would double the time if its list were read as arguments first and as a number again.
+    EXPECT_EQ(answer(repeated("real(", 50) + "7" + repeated(";2)", 50)), "7");
+    EXPECT_EQ(answer(repeated("sin(", 50) + "1" + repeated(";2)", 50)).substr(0, 26), "complex value not allowed ");
+    EXPECT_EQ(answer(repeated("(", 100) + "7" + repeated(";0)", 100)), "7");
+}
+
+TEST(Evaluator, LongLinesGiveTheirAnswer) {
+    struct Row {
+        std::string line;
+        const char* answer;
+    };
+    const int million = 1000000;
+    const Row rows[] = {
+        {repeated("9", million), "domain range at 1000000"},
+        {"0." + repeated("9", million), "1"},
+        {"0." + repeated("0", million) + "1e1000001", "1"},
+        {"35'0." + repeated("H", million), "35'0.HHHHI"},
+        {"1e" + repeated("9", million), "domain range at 1000002"},
+        {"0e" + repeated("9", million), "0"},
+        {repeated("1", 30) + repeated(",000", million / 4), "domain range at 1000030"},
+        {repeated(" ", million) + "5" + repeated(" ", million), "5"},
+        {repeated("a", million), "too long at 80"},
+        {"3" + repeated("a", million), "invalid digit, not within the numeric base at 2"},
+        {"1" + repeated("+1", 100000), "100,001"},
+        {repeated("-", 100000) + "1", "1"},
+        {"sum(0" + repeated(";1", 100000) + ")", "100,000"},
+        {"2" + repeated("(1)", 100000), "2"},
+        {"1 m" + repeated(" -> m", 100000), "1"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(answer(row.line.starts_with("35'") ? row.line + " '35" : row.line), row.answer)
+            << row.line.substr(0, 20);
+    }
+}
+
+TEST(Evaluator, RandomBytesGiveAnAnswerOrAnErrorInTheLine) {
+    std::mt19937 random(7);
+    const std::string_view pieces[] = {"(", ")", ";", "1",  "0.5", "e9",  "2'1",  "'16 ",  "^",      "**",   "->",
+                                       "!", "%", "-", " ",  "km",  "sin", "sum(", "rnd",   "inf",    "NaN",  "=",
+                                       "@", ",", ".", "\t", "i",   "C",   "fv(",  "root(", "1 year", "\xC3", "$"};
+    for (int i = 0; i < 20000; ++i) {
+        std::string line;
+        const auto length = random() % 24;
+        for (unsigned k = 0; k < length; ++k) {
+            if (i % 2 == 0) {
+                line += static_cast<char>(random());
+            } else {
+                line += pieces[random() % std::size(pieces)];
+            }
+        }
+        try {
+            const Evaluation evaluation = evaluateLine(line);
+            EXPECT_FALSE(FormatValue(evaluation.value, defaultFormats[i % 7], evaluation.outputBase).empty());
+        } catch (const Except& error) {
+            EXPECT_GE(errorPosition(), 0) << line;
+            EXPECT_LE(errorPosition(), static_cast<std::int32_t>(line.size())) << line;
+            EXPECT_GE(static_cast<int>(error.code), 1) << line;
+        }
+    }
+}
+
+TEST(Lexer, TokensAndTheBlanksAroundThem) {
+    struct Row {
+        TokenClass kind;
+        const char* line;
+        std::size_t index;
+        Blanks blanks;
+        std::size_t length;
+    };
+    const Row rows[] = {
+        {TokenClass::Minus, "2-3", 1, Blanks::Keep, 1},      {TokenClass::Minus, "2->m", 1, Blanks::Keep, 0},
+        {TokenClass::Arrow, "2->m", 1, Blanks::Keep, 2},     {TokenClass::Times, "2**3", 1, Blanks::Keep, 0},
+        {TokenClass::Power, "2**3", 1, Blanks::Keep, 2},     {TokenClass::Plus, "  +  3", 0, Blanks::Skip, 5},
+        {TokenClass::Plus, "  +  3", 0, Blanks::Keep, 0},    {TokenClass::BlankRun, "  3", 0, Blanks::Skip, 2},
+        {TokenClass::BlankRun, "3", 0, Blanks::Skip, 0},     {TokenClass::None, "\\", 0, Blanks::Keep, 0},
+        {TokenClass::Factorial, "!:", 1, Blanks::Keep, 0},   {TokenClass::SecondEquals, "=", 0, Blanks::Keep, 1},
+        {TokenClass::ExponentMark, "E", 0, Blanks::Keep, 1}, {TokenClass::Plus, "", 5, Blanks::Skip, 0},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(tokenLength(row.kind, row.line, row.index, row.blanks), row.length)
+            << row.line << ", class " << static_cast<int>(row.kind);
+    }
+}
+
+TEST(Lexer, MarksThatAreTakenAreRefused) {
+    for (const char taken : {'.', '0', 'x', '_', '+', ' ', '\0'}) {
+        setMarkCharacter(TokenClass::GroupMark, taken);
+        EXPECT_EQ(markCharacter(TokenClass::GroupMark), ',');
+    }
+    setMarkCharacter(TokenClass::GroupMark, '#');
+    EXPECT_EQ(answer("1#000.5"), "1#000.5");
+    setMarkCharacter(TokenClass::GroupMark, ',');
+    EXPECT_EQ(answer("1,000.5"), "1,000.5");
+}
+
+TEST(Errors, APositionOfMinusOneKeepsThePreviousOne) {
+    const auto raised = [](std::int32_t position) {
+        try {
+            raise(ErrorCode::Incomplete, position);
+        } catch (const Except&) {
+            return errorPosition();
+        }
+    };
+    EXPECT_EQ(raised(7), 7);
+    EXPECT_EQ(raised(-1), 7);
+    EXPECT_STREQ(errorMessage(0U), "invalid expression");
+    EXPECT_STREQ(errorMessage(23U), "invalid expression");
+    EXPECT_STREQ(errorMessage(4000000000U), "invalid expression");
+}
+
+}  // namespace
+}  // namespace calquo

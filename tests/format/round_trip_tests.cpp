@@ -1,0 +1,96 @@
+// What a format writes without loss reads back as the same number, to the last bit, in every base.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "engine/evaluator.h"
+#include "format/value_writer.h"
+#include "support/random_reals.h"
+
+namespace calquo {
+namespace {
+
+// Most digits everywhere: 31 significant, 31 fractional or denominator digits. The exponent limit is 0, because behind
+// leading zeros 31 fractional digits would hold fewer significant ones.
+constexpr NumericFormat widest = field::significantDigits | field::digits;
+
+NumericFormat widestWord(FormatKind kind, NumericFormat flags = 0) {
+    return static_cast<NumericFormat>(kind) << 28 | 3U << 24 | widest | flags;
+}
+
+/// The sign of a zero is not written: a part that is 0 reads back as 0 or, negated, as -0.
+bool sameNumber(Real a, Real b) {
+    if (a == 0 && b == 0) {
+        return true;
+    }
+    const ExtendedBits left = bitsOf(a);
+    const ExtendedBits right = bitsOf(b);
+    return left.mantissa == right.mantissa && left.signExponent == right.signExponent;
+}
+
+void expectRoundTrip(const Value& value, NumericFormat word, std::uint32_t base) {
+    const std::string text = FormatValue(value, word, base);
+    const Value back = evaluateLine(text).value;
+    EXPECT_TRUE(sameNumber(back.re, value.re) && sameNumber(back.im, value.im))
+        << text << " under word " << std::hex << word << ", seed " << std::dec << RandomReals::seed;
+}
+
+/// How many mantissa bits 31 digits of a base hold without loss; 0 when only whole numbers are exact.
+int losslessBits(std::uint32_t base) {
+    if (std::has_single_bit(base)) {
+        return std::min(64, 31 * std::countr_zero(base));
+    }
+    return base >= 5 ? 64 : 0;
+}
+
+class RoundTrip : public testing::TestWithParam<std::uint32_t> {};
+
+TEST_P(RoundTrip, Scientific) {
+    const std::uint32_t base = GetParam();
+    if (losslessBits(base) == 0) {
+        GTEST_SKIP() << "31 digits do not hold a mantissa in base " << base;
+    }
+    RandomReals random;
+    const NumericFormat words[] = {widestWord(FormatKind::Scientific),
+                                   widestWord(FormatKind::Scientific, field::groupFraction | field::plusSign),
+                                   widestWord(FormatKind::Automatic, field::groupWhole | field::groupFraction)};
+    for (int i = 0; i < 3000; ++i) {
+        const Real x = random.positive(losslessBits(base));
+        expectRoundTrip(Value(i % 2 == 0 ? x : -x, i % 8 == 0 ? random.positive(losslessBits(base)) : 0), words[i % 3],
+                        base);
+    }
+    for (const Real x : {std::numeric_limits<Real>::denorm_min(), std::numeric_limits<Real>::min(), Real(1)}) {
+        expectRoundTrip(Value(x), words[0], base);
+    }
+    if (losslessBits(base) == 64) {
+        expectRoundTrip(Value(largestFinite), words[0], base);
+        expectRoundTrip(Value(std::nextafter(Real(1), Real(0)), std::nextafter(Real(1), Real(2))), words[0], base);
+    }
+}
+
+TEST_P(RoundTrip, WholeNumbersOfAnySize) {
+    RandomReals random;
+    for (int i = 0; i < 60; ++i) {
+        ExtendedBits bits{random.word() | std::uint64_t{1} << 63, 0};
+        bits.signExponent = static_cast<std::uint16_t>(random.between(16383 + 63, i < 50 ? 16383 + 500 : 0x7FFE));
+        expectRoundTrip(Value(realOf(bits)), widestWord(FormatKind::Integer, field::groupWhole), GetParam());
+        expectRoundTrip(Value(-realOf(bits)), widestWord(FormatKind::Currency), GetParam());
+    }
+}
+
+TEST_P(RoundTrip, FractionsOfPowersOfTwo) {
+    RandomReals random;
+    for (int i = 0; i < 500; ++i) {
+        ExtendedBits bits{random.word() | std::uint64_t{1} << 63, 0};
+        // From 1 to 2^63, so that the denominator stays below 2^63; below base 5 it has too many digits for the field.
+        bits.signExponent = static_cast<std::uint16_t>(random.between(16383 + (GetParam() < 5 ? 40 : 1), 16383 + 70));
+        expectRoundTrip(Value(realOf(bits)), widestWord(FormatKind::Rational, field::groupFraction), GetParam());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Bases, RoundTrip, testing::Range(std::uint32_t{2}, std::uint32_t{37}));
+
+}  // namespace
+}  // namespace calquo

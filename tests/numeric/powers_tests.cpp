@@ -1,0 +1,123 @@
+// Powers, roots and logarithms that have an exact result have it.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "numeric/checked_real.h"
+#include "numeric/exponential.h"
+
+namespace calquo {
+namespace {
+
+constexpr std::uint64_t bound = std::uint64_t{1} << 63;
+
+/// Checks a^b, its root and its logarithm, all whole numbers.
+void expectExact(std::uint64_t a, unsigned b, std::uint64_t power) {
+    const auto base = static_cast<Real>(a);
+    const auto exponent = static_cast<Real>(b);
+    const auto wanted = static_cast<Real>(power);
+    ASSERT_EQ(pow(Value(base), Value(exponent)).re, wanted) << a << "^" << b;
+    ASSERT_EQ(root(Value(wanted), Value(exponent)).re, base) << "root of " << a << "^" << b;
+    if (a > 1) {
+        ASSERT_EQ(logB(Value(wanted), Value(base)).re, exponent) << "logarithm of " << a << "^" << b;
+    }
+}
+
+TEST(Powers, OfWholeNumbersBelowTwoToThe63AreExact) {
+    // Every one from the third power on; there are three thousand million squares, of which every base up to 2^16 and a
+    // sweep over the rest are tried.
+    for (std::uint64_t a = 1; a * a * a < bound && a < 2097152; ++a) {
+        std::uint64_t power = a * a;
+        if (a < 65536) {
+            expectExact(a, 2, power);
+        }
+        for (unsigned b = 3; power <= (bound - 1) / a && b <= 63; ++b) {
+            power *= a;
+            expectExact(a, b, power);
+        }
+    }
+    std::mt19937_64 random(3);
+    for (int i = 0; i < 200000; ++i) {
+        const std::uint64_t a = random() % 3037000500;
+        if (a != 0) {
+            expectExact(a, 2, a * a);
+            expectExact(a, 1, a);
+        }
+    }
+}
+
+TEST(Powers, OfTwoAndTenReachOverTheWholeRange) {
+    for (int exponent = -16000; exponent < 16384; exponent += 61) {
+        ASSERT_EQ(pow(Value(2), Value(exponent)).re, std::ldexp(Real(1), exponent));
+        ASSERT_EQ(log2(Value(std::ldexp(Real(1), exponent))).re, exponent);
+    }
+    Real power = 1;
+    for (int exponent = 0; exponent <= 27; ++exponent, power *= 10) {
+        ASSERT_EQ(pow(Value(10), Value(exponent)).re, power);
+        ASSERT_EQ(log10(Value(power)).re, exponent);
+    }
+}
+
+TEST(Logarithm, NextToOneKeepsItsPrecision) {
+    // ln(1 + t) = t - t^2/2 + ...; for these t the next term is below the last bit.
+    for (const Real t : {0x1p-63L, 0x1p-50L, 0x1.8p-40L, -0x1p-64L, -0x1p-45L}) {
+        EXPECT_EQ(ln(Value(1 + t)).re, t - t * t / 2);
+    }
+}
+
+struct CheckRow {
+    Real number;
+    CheckFlags flags;
+    ErrorCode code;  ///< InvalidExpression where nothing is refused
+};
+
+TEST(Checks, RefuseInAFixedOrder) {
+    const CheckFlags all = CheckFlags::NoFraction | CheckFlags::NoNegative | CheckFlags::NoZero | CheckFlags::NoOne;
+    const CheckRow rows[] = {
+        {positiveInfinity, CheckFlags::None, ErrorCode::DomainRange},
+        {-positiveInfinity, all, ErrorCode::DomainRange},
+        {-1.5L, all, ErrorCode::FractionNotAllowed},
+        {-1, all, ErrorCode::NegativeNotAllowed},
+        {0, all, ErrorCode::CannotBeZero},
+        {1, all, ErrorCode::CannotBeOne},
+        {-1.5L, CheckFlags::None, ErrorCode::InvalidExpression},
+        {2, all, ErrorCode::InvalidExpression},
+        {std::numeric_limits<Real>::quiet_NaN(), all, ErrorCode::InvalidExpression},
+    };
+    for (const CheckRow& row : rows) {
+        ErrorCode code = ErrorCode::InvalidExpression;
+        try {
+            checkNumber(row.number, row.flags | CheckFlags::Report);
+        } catch (const Except& error) {
+            code = error.code;
+            EXPECT_EQ(errorPosition(), 0);
+        }
+        EXPECT_EQ(code, row.code) << row.number;
+        EXPECT_EQ(checkNumber(row.number, row.flags), row.code == ErrorCode::InvalidExpression) << row.number;
+    }
+}
+
+TEST(Checks, TakeAValueApart) {
+    const Value literal = Value(1.5L, -2).at({3, 6, 9, 10});
+    const auto refusedAt = [](const auto& check) {
+        try {
+            check();
+        } catch (const Except&) {
+            return errorPosition();
+        }
+        return std::int32_t{-1};
+    };
+    const auto report = CheckFlags::Report;
+    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::RealOnly); }), 10);
+    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoFraction); }), 6);
+    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoNegative); }), 9);
+    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoZero); }), -1);
+    EXPECT_EQ(refusedAt([&] { requireReal(literal, report, 42); }), 42);
+    EXPECT_TRUE(checkValue(Value(0, 1), CheckFlags::NoZero));
+    EXPECT_FALSE(requireReal(Value(1, std::numeric_limits<Real>::quiet_NaN()), CheckFlags::None));
+}
+
+}  // namespace
+}  // namespace calquo
