@@ -33,8 +33,14 @@ enum class TokenClass : std::uint8_t {
     BlankRun,      ///< zero or more blanks and tabs; has no character of its own
 };
 
+/// The table: the digits in the order of their values, the underscore, then one character for each class that has one.
+constexpr std::size_t firstClassInTable = 63;
+extern std::array<char, 83> characterTable;
+
 /// The table's character of a class that has one.
-char markCharacter(TokenClass tokenClass);
+inline char markCharacter(TokenClass tokenClass) {
+    return characterTable[firstClassInTable + static_cast<std::size_t>(tokenClass)];
+}
 
 /// Puts a character into the table for a class. Refused silently, the table staying as it was, when the character
 /// already stands anywhere else in the table: a mark can never be a digit, a letter, an operator or the other mark.

@@ -36,7 +36,7 @@ Operator readOperator(std::string_view line, std::size_t index) {
     const std::size_t start = index + blankLength(line, index);
     for (const TokenClass kind : {TokenClass::Plus, TokenClass::Minus, TokenClass::Times, TokenClass::Divide,
                                   TokenClass::Power, TokenClass::Arrow}) {
-        if (const std::size_t length = tokenLength(kind, line, start, Blanks::Keep); length != 0) {
+        if (const std::size_t length = tokenLengthHere(kind, line, start); length != 0) {
             return {kind, start, start + length + blankLength(line, start + length)};
         }
     }
@@ -93,7 +93,7 @@ private:
 
     [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
     [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
-        return tokenLength(kind, line, index, Blanks::Keep) != 0;
+        return tokenLengthHere(kind, line, index) != 0;
     }
     [[nodiscard]] std::size_t skipBlanks(std::size_t index) const { return index + blankLength(line, index); }
 

@@ -11,37 +11,6 @@ constexpr std::uint32_t largestBase = 36;
 
 std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
 
-/// Length of a token without the blanks around it.
-std::size_t bareTokenLength(TokenClass tokenClass, std::string_view line, std::size_t index) {
-    const char character = characterAt(line, index);
-    const char next = characterAt(line, index + 1);
-    const auto matches = [&](TokenClass wanted) {
-        return character == markCharacter(wanted) && character != '\0' ? std::size_t{1} : 0;
-    };
-    switch (tokenClass) {
-        case TokenClass::None:
-        case TokenClass::BlankRun:
-            return 0;
-        case TokenClass::ExponentMark:
-            return character == 'e' || character == 'E' ? 1 : matches(TokenClass::ExponentMark);
-        case TokenClass::Minus:
-            return next == '>' ? 0 : matches(TokenClass::Minus);
-        case TokenClass::Times:
-            return next == markCharacter(TokenClass::Times) ? 0 : matches(TokenClass::Times);
-        case TokenClass::Power:
-            if (character == markCharacter(TokenClass::Times) && next == character) {
-                return 2;
-            }
-            return matches(TokenClass::Power);
-        case TokenClass::Arrow:
-            return character == markCharacter(TokenClass::Minus) && next == '>' ? 2 : 0;
-        case TokenClass::SecondEquals:
-            return matches(TokenClass::Equals);
-        default:
-            return matches(tokenClass);
-    }
-}
-
 struct WholeNumber {
     std::uint32_t number = 0;  ///< too large a number stands as one above every base
     std::size_t length = 0;
@@ -66,17 +35,9 @@ void checkBase(std::uint32_t base, std::size_t index) {
 
 }  // namespace
 
-std::size_t blankLength(std::string_view line, std::size_t index) {
-    std::size_t end = index;
-    while (isBlank(characterAt(line, end))) {
-        ++end;
-    }
-    return end - index;
-}
-
 std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_t index, Blanks blanks) {
     if (blanks == Blanks::Keep) {
-        return bareTokenLength(tokenClass, line, index);
+        return tokenLengthHere(tokenClass, line, index);
     }
     const std::size_t before = blankLength(line, index);
     if (tokenClass == TokenClass::BlankRun) {
@@ -84,7 +45,7 @@ std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_
     }
     const bool blankToken = tokenClass == TokenClass::Blank || tokenClass == TokenClass::Tab;
     const std::size_t start = blankToken ? index : index + before;
-    const std::size_t length = bareTokenLength(tokenClass, line, start);
+    const std::size_t length = tokenLengthHere(tokenClass, line, start);
     return length == 0 ? 0 : start - index + length + blankLength(line, start + length);
 }
 
@@ -100,7 +61,7 @@ BasePrefix readBasePrefix(std::string_view line, std::size_t index) {
     while (digits < 2 && isDecimalDigit(characterAt(line, index + digits))) {
         ++digits;
     }
-    if (digits == 0 || bareTokenLength(TokenClass::BaseMark, line, index + digits) == 0) {
+    if (digits == 0 || tokenLengthHere(TokenClass::BaseMark, line, index + digits) == 0) {
         return {};
     }
     const std::uint32_t base = readWholeNumber(line, index).number;
@@ -109,7 +70,7 @@ BasePrefix readBasePrefix(std::string_view line, std::size_t index) {
 }
 
 OutputBase readOutputBaseDirective(std::string_view line, std::size_t index) {
-    if (bareTokenLength(TokenClass::BaseMark, line, index) == 0) {
+    if (tokenLengthHere(TokenClass::BaseMark, line, index) == 0) {
         return {};
     }
     const WholeNumber number = readWholeNumber(line, index + 1);
@@ -123,7 +84,7 @@ OutputBase readOutputBaseDirective(std::string_view line, std::size_t index) {
 
 OutputBase readOutputBaseSuffix(std::string_view line, std::size_t index) {
     const std::size_t start = index + blankLength(line, index);
-    if (start == index || bareTokenLength(TokenClass::BaseMark, line, start) == 0) {
+    if (start == index || tokenLengthHere(TokenClass::BaseMark, line, start) == 0) {
         return {};
     }
     const WholeNumber number = readWholeNumber(line, start + 1);

@@ -12,7 +12,42 @@ namespace calquo {
 enum class Blanks { Keep, Skip };
 
 /// Number of blanks and tabs at an index.
-std::size_t blankLength(std::string_view line, std::size_t index);
+inline std::size_t blankLength(std::string_view line, std::size_t index) {
+    std::size_t end = index;
+    while (isBlank(characterAt(line, end))) {
+        ++end;
+    }
+    return end - index;
+}
+
+/// Length of a token of the class that starts exactly at an index, 0 when none does.
+inline std::size_t tokenLengthHere(TokenClass tokenClass, std::string_view line, std::size_t index) {
+    const char character = characterAt(line, index);
+    const auto matches = [&](TokenClass wanted) -> std::size_t {
+        return character == markCharacter(wanted) && character != '\0' ? 1 : 0;
+    };
+    switch (tokenClass) {
+        case TokenClass::None:
+        case TokenClass::BlankRun:
+            return 0;
+        case TokenClass::ExponentMark:
+            return character == 'e' || character == 'E' ? 1 : matches(TokenClass::ExponentMark);
+        case TokenClass::Minus:
+            return characterAt(line, index + 1) == '>' ? 0 : matches(TokenClass::Minus);
+        case TokenClass::Times:
+            return characterAt(line, index + 1) == markCharacter(TokenClass::Times) ? 0 : matches(TokenClass::Times);
+        case TokenClass::Power:
+            return matches(TokenClass::Times) != 0 && characterAt(line, index + 1) == character
+                       ? 2
+                       : matches(TokenClass::Power);
+        case TokenClass::Arrow:
+            return matches(TokenClass::Minus) != 0 && characterAt(line, index + 1) == '>' ? 2 : 0;
+        case TokenClass::SecondEquals:
+            return matches(TokenClass::Equals);
+        default:
+            return matches(tokenClass);
+    }
+}
 
 /// Number of characters of a token of the class that starts at an index, 0 when none does. With Blanks::Skip the blanks
 /// before and after the token count into the length. A BlankRun is only ever found with Blanks::Skip.

@@ -71,9 +71,8 @@ private:
     [[nodiscard]] bool digitHere() const { return digitAt(index); }
 
     [[nodiscard]] bool exponentMarkHere() const {
-        return literal.base < firstBaseWithDigitE
-                   ? tokenLength(TokenClass::ExponentMark, line, index, Blanks::Keep) != 0
-                   : at(TokenClass::ExponentMark);
+        return literal.base < firstBaseWithDigitE ? tokenLengthHere(TokenClass::ExponentMark, line, index) != 0
+                                                  : at(TokenClass::ExponentMark);
     }
 
     void scanDigits() {
