@@ -72,10 +72,8 @@ struct Unit {
 /// excess precision that a compiler may keep in a literal.
 constexpr Real decimal(double literal) { return literal; }
 
-namespace duration {
-/// Gregorian year, 365.2425 days, in seconds.
-constexpr Real year = 31556952;
-}  // namespace duration
+/// The mean year of the Gregorian calendar, 365.2425 days, in seconds.
+constexpr Real gregorianYear = 31556952;
 
 /// The units in the order of their dimensions.
 inline constexpr std::array unitTable = {
@@ -217,15 +215,15 @@ inline constexpr std::array unitTable = {
 
     Unit{Dimension::Time, "dy", {"day"}, 86400, "Day"},
     Unit{Dimension::Time, "wk", {"week"}, 604800, "Week"},
-    Unit{Dimension::Time, "mo", {"month"}, duration::year / 12, "Average Gregorian month (yr/12)"},
-    Unit{Dimension::Time, "yr", {"year"}, duration::year, "Gregorian year (365.2425 days)"},
+    Unit{Dimension::Time, "mo", {"month"}, gregorianYear / 12, "Average Gregorian month (yr/12)"},
+    Unit{Dimension::Time, "yr", {"year"}, gregorianYear, "Gregorian year (365.2425 days)"},
     Unit{Dimension::Time, "s", {"sc", "second"}, 1, "Second (basic unit)"},
     Unit{Dimension::Time, "mn", {"minute"}, 60, "Minute"},
     Unit{Dimension::Time, "hr", {"hour"}, 3600, "Hour"},
     Unit{Dimension::Time, "yrTrop", {}, decimal(31556925.97474), "Tropical (astronomical) year"},
-    Unit{Dimension::Time, "decade", {}, 10 * duration::year, "Decade"},
-    Unit{Dimension::Time, "century", {}, 100 * duration::year, "Century"},
-    Unit{Dimension::Time, "millenium", {}, 1000 * duration::year, "Millenium"},
+    Unit{Dimension::Time, "decade", {}, 10 * gregorianYear, "Decade"},
+    Unit{Dimension::Time, "century", {}, 100 * gregorianYear, "Century"},
+    Unit{Dimension::Time, "millenium", {}, 1000 * gregorianYear, "Millenium"},
     Unit{Dimension::Time, "plkt", {}, decimal(5.39121e-44), "Plank time"},
 
     Unit{Dimension::Volume, "m3", {}, 1, "Cubic metre (basic unit)"},

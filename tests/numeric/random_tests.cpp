@@ -1,0 +1,82 @@
+// Random numbers: what a seed determines, and whether the draws have the distribution that they promise.
+#include "numeric/random.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <set>
+#include <vector>
+
+namespace calquo {
+namespace {
+
+TEST(Random, SeedDeterminesTheSequenceAndItsOrder) {
+    seedRandom(42);
+    const std::vector<Real> uniform = {rnd().re, rnd().re, rnd().re, rnd().re};
+    EXPECT_NE(uniform[0], uniform[1]);
+    // Only the low half of the seed reaches the generator, and all of it comes back.
+    EXPECT_EQ(seedRandom(42 + (std::uint64_t{1} << 32)), 42 + (std::uint64_t{1} << 32));
+    const Value complex = rndC();
+    EXPECT_EQ(complex.re, uniform[0]);
+    EXPECT_EQ(complex.im, uniform[1]);
+    EXPECT_EQ(rndR(Value(10), Value(18)).re, 10 + 8 * uniform[2]);
+    seedRandom(42);
+    const Value normal = rndCG();
+    seedRandom(42);
+    EXPECT_EQ(rndG().re, normal.re);
+    seedRandom(43);
+    EXPECT_NE(rnd().re, uniform[0]);
+}
+
+TEST(Random, WordsVaryInEveryBit) {
+    seedRandom(1);
+    std::uint64_t everSet = 0;
+    std::uint64_t everClear = 0;
+    std::set<std::uint64_t> words;
+    for (int draw = 0; draw < 2000; ++draw) {
+        const std::uint64_t word = randomWord();
+        everSet |= word;
+        everClear |= ~word;
+        words.insert(word);
+    }
+    EXPECT_EQ(everSet, ~std::uint64_t{0});
+    EXPECT_EQ(everClear, ~std::uint64_t{0});
+    EXPECT_GT(words.size(), 1990U);
+}
+
+/// Mean and variance of a number of draws.
+template <typename Draw>
+void expectMoments(Draw draw, double mean, double variance) {
+    constexpr int draws = 40000;
+    Real sum = 0;
+    Real squares = 0;
+    for (int count = 0; count < draws; ++count) {
+        const Real number = draw();
+        sum += number;
+        squares += number * number;
+    }
+    const auto found = static_cast<double>(sum / draws);
+    // Five standard deviations of the mean; the variance is steadier than a twentieth for both distributions.
+    EXPECT_NEAR(found, mean, 5 * std::sqrt(variance / draws));
+    EXPECT_NEAR(static_cast<double>(squares / draws) - found * found, variance, variance / 20);
+}
+
+TEST(Random, DrawsHaveTheirMeanAndVariance) {
+    seedRandom(2024);
+    expectMoments([] { return rnd().re; }, 0.5, 1.0 / 12);
+    expectMoments([] { return rndC().im; }, 0.5, 1.0 / 12);
+    expectMoments([] { return rndR(Value(-3), Value(9)).re; }, 3, 12);
+    expectMoments([] { return rndG().re; }, 0, 1);
+    expectMoments([] { return rndCG().im; }, 0, 1);
+}
+
+TEST(Random, ClockSeedsAfresh) {
+    seedRandom(1);
+    const std::uint64_t fixed = randomWord();
+    seedRandomFromClock();
+    EXPECT_NE(randomWord(), fixed);
+}
+
+}  // namespace
+}  // namespace calquo

@@ -1,0 +1,69 @@
+// Lists: the median whatever the order and whatever the items.
+#include "numeric/statistics.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace calquo {
+namespace {
+
+constexpr Real notANumber = std::numeric_limits<Real>::quiet_NaN();
+
+TEST(Statistics, MedianStandsInTheMiddleOfEveryShuffle) {
+    std::mt19937_64 generator(8);
+    for (std::size_t size = 1; size <= 70; ++size) {
+        std::vector<Real> numbers;
+        std::vector<Value> items;
+        for (std::size_t index = 0; index < size; ++index) {
+            // Few different real parts, so that imaginary parts decide too.
+            const auto number = static_cast<Real>(generator() % 40);
+            numbers.push_back(number);
+            items.emplace_back(std::floor(number / 8), std::fmod(number, 8));
+        }
+        std::ranges::sort(numbers);
+        const Real low = numbers[(size - 1) / 2];
+        const Real high = numbers[size / 2];
+        const Value middle = median(items);
+        EXPECT_EQ(middle.re, (std::floor(low / 8) + std::floor(high / 8)) / 2) << size;
+        EXPECT_EQ(middle.im, (std::fmod(low, 8) + std::fmod(high, 8)) / 2) << size;
+    }
+}
+
+TEST(Statistics, MedianStaysWithinAListFullOfNaNs) {
+    std::mt19937_64 generator(9);
+    for (std::size_t size = 1; size <= 400; ++size) {
+        std::vector<Value> items;
+        for (std::size_t index = 0; index < size; ++index) {
+            const auto number = static_cast<Real>(1 + generator() % 9);
+            items.emplace_back(generator() % 2 == 0 ? notANumber : number, generator() % 3 == 0 ? notANumber : 1);
+        }
+        const Value middle = median(items);
+        EXPECT_TRUE(std::isnan(middle.re) || (middle.re >= 1 && middle.re <= 9)) << size;
+        EXPECT_TRUE(std::isnan(middle.im) || middle.im == 1) << size;
+    }
+}
+
+TEST(Statistics, KeysDecideInTheirOrder) {
+    constexpr OrderKey byMagnitude[] = {OrderKey::Magnitude, OrderKey::Argument};
+    struct Row {
+        Value a, b;
+        int byDefault, byKeys;
+    };
+    const Row rows[] = {
+        {{3, 4}, {3, -4}, 1, 1}, {{-5, 0}, {4, 0}, -1, 1}, {{0, 5}, {3, 4}, -1, 1},
+        {{2, 1}, {2, 1}, 0, 0},  {{1, 9}, {2, 0}, -1, 1},  {{notANumber, 1}, {5, 2}, -1, 0},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(compare(row.a, row.b), row.byDefault) << static_cast<double>(row.a.re);
+        EXPECT_EQ(compare(row.b, row.a), -row.byDefault) << static_cast<double>(row.a.re);
+        EXPECT_EQ(compare(row.a, row.b, byMagnitude), row.byKeys) << static_cast<double>(row.a.re);
+    }
+}
+
+}  // namespace
+}  // namespace calquo
