@@ -45,6 +45,7 @@ Operator readOperator(std::string_view line, std::size_t index) {
 
 class Evaluator {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the storage of the arguments needs no value.
     Evaluator(std::string_view text, int limit) : line(text), nestingLimit(limit) {}
 
     Evaluation evaluate();

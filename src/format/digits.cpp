@@ -30,7 +30,7 @@ UInt128 roundedShift(UInt128 number, int shift) {
         return {};
     }
     const bool up = (shiftRight(number, shift - 1).low & 1) != 0;
-    const UInt128 whole = shift == 128 ? UInt128{} : shiftRight(number, shift);
+    const UInt128 whole = shiftRight(number, shift);
     return up ? whole + UInt128{0, 1} : whole;
 }
 

@@ -153,7 +153,7 @@ UInt128 toSum(const SignedWide& a) {
         return {};
     }
     const int shift = -(a.magnitude.exponent + sumFractionBits);
-    const UInt128 magnitude = shift >= 128 ? UInt128{} : shiftRight(a.magnitude.mantissa, shift);
+    const UInt128 magnitude = shiftRight(a.magnitude.mantissa, shift);
     return a.negative ? UInt128{} - magnitude : magnitude;
 }
 

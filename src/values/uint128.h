@@ -13,6 +13,7 @@ struct UInt128 {
     std::uint64_t low = 0;
 
     // High word first, so the memberwise order is the numeric one.
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the 0 of the defaulted comparison for a pointer.
     friend constexpr auto operator<=>(const UInt128&, const UInt128&) = default;
 };
 
@@ -25,18 +26,18 @@ constexpr UInt128 operator-(UInt128 a, UInt128 b) { return {a.high - b.high - (a
 
 constexpr UInt128 operator~(UInt128 a) { return {~a.high, ~a.low}; }
 
-/// a * 2^count for 0 <= count < 128.
+/// a * 2^count for count >= 0; 0 from 128 on.
 constexpr UInt128 shiftLeft(UInt128 a, int count) {
     if (count >= 64) {
-        return {a.low << (count - 64), 0};
+        return {count >= 128 ? 0 : a.low << (count - 64), 0};
     }
     return count == 0 ? a : UInt128{a.high << count | a.low >> (64 - count), a.low << count};
 }
 
-/// floor(a / 2^count) for 0 <= count < 128.
+/// floor(a / 2^count) for count >= 0; 0 from 128 on.
 constexpr UInt128 shiftRight(UInt128 a, int count) {
     if (count >= 64) {
-        return {0, a.high >> (count - 64)};
+        return {0, count >= 128 ? 0 : a.high >> (count - 64)};
     }
     return count == 0 ? a : UInt128{a.high >> count, a.low >> count | a.high << (64 - count)};
 }
@@ -94,6 +95,9 @@ struct Quotient {
 
 /// Divides by a divisor other than 0, in time proportional to the quotient's bits.
 constexpr Quotient divide(UInt128 a, UInt128 divisor) {
+    if (divisor == UInt128{}) {
+        __builtin_unreachable();
+    }
     if (a.high == 0 && divisor.high == 0) {
         return {{0, a.low / divisor.low}, {0, a.low % divisor.low}};
     }

@@ -41,9 +41,9 @@ Truncation truncate(const WideFloat& a) {
     // How many of the mantissa's lowest bits do not fit: 64, more for a denormal.
     const int dropped = std::max(64, ExtendedBits::smallestExponent - a.exponent);
     // Far below the denormals nothing is kept, and only how the rest compares with one half matters.
-    const UInt128 mantissa = dropped <= 128 ? a.mantissa : shiftRight(a.mantissa, std::min(dropped - 128, 127));
-    const UInt128 kept = dropped < 128 ? shiftRight(mantissa, dropped) : UInt128{};
-    const UInt128 rest = dropped < 128 ? mantissa - shiftLeft(kept, dropped) : mantissa;
+    const UInt128 mantissa = shiftRight(a.mantissa, std::max(dropped - 128, 0));
+    const UInt128 kept = shiftRight(mantissa, dropped);
+    const UInt128 rest = mantissa - shiftLeft(kept, dropped);
     return {kept.low, a.exponent + dropped, rest, shiftLeft({0, 1}, std::min(dropped, 128) - 1)};
 }
 

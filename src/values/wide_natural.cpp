@@ -6,6 +6,7 @@
 
 namespace calquo {
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only the used words are ever read.
 WideNatural::WideNatural(UInt128 number) {
     while (number != UInt128{}) {
         append(static_cast<std::uint32_t>(number.low));

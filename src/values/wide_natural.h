@@ -40,7 +40,7 @@ private:
     void addBack(const WideNatural& divisor);
     void trim();
 
-    std::array<std::uint32_t, capacity> words;  // lowest first; only the used ones are set
+    std::array<std::uint32_t, capacity> words;  // lowest first; deliberately uninitialized beyond the used ones
     std::size_t used = 0;
 };
 
