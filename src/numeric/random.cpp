@@ -30,9 +30,10 @@ std::uint64_t seedRandom(std::uint64_t seed) {
 void seedRandomFromClock() {
     using namespace std::chrono;
     using Ticks = duration<std::int64_t, std::ratio<1, 10'000'000>>;
-    // Counted from the first day of 1601, as file times are.
-    constexpr sys_days start = year{1601} / January / 1;
-    const auto ticks = static_cast<std::uint64_t>(duration_cast<Ticks>(system_clock::now() - start).count());
+    // File times count from the first day of 1601; in nanoseconds the time since then would overflow.
+    constexpr Ticks from1601To1970 = sys_days{} - sys_days{year{1601} / January / 1};
+    const Ticks now = duration_cast<Ticks>(system_clock::now().time_since_epoch()) + from1601To1970;
+    const auto ticks = static_cast<std::uint64_t>(now.count());
     seedRandom(ticks ^ ticks >> 32);
 }
 

@@ -40,7 +40,8 @@ void expectRoundTrip(const Value& value, NumericFormat word, std::uint32_t base)
 /// How many mantissa bits 31 digits of a base hold without loss; 0 when only whole numbers are exact.
 int losslessBits(std::uint32_t base) {
     if (std::has_single_bit(base)) {
-        return std::min(64, 31 * std::countr_zero(base));
+        // The leading digit may hold a single bit.
+        return std::min(64, 30 * std::countr_zero(base) + 1);
     }
     return base >= 5 ? 64 : 0;
 }
