@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <numeric>
 #include <random>
@@ -122,7 +123,7 @@ TEST(Divisors, LongerListsAgreeWithTheWalk) {
     std::mt19937_64 generator(20240607);
     for (int list = 0; list < 3000; ++list) {
         const std::uint64_t common = 1 + generator() % 60;
-        Words words(1 + generator() % 7);
+        Words words(static_cast<std::size_t>(1 + generator() % 7));
         // Now and then a zero, whose place decides what gcf answers.
         for (std::uint64_t& word : words) word = generator() % 6 == 0 ? 0 : common * (1 + generator() % 500);
         expectAsWalked(words);
@@ -137,7 +138,7 @@ TEST(Divisors, MultiplesBeyondAWordWrapAsTheWalkDoes) {
     expectAsWalked(words);
     std::mt19937_64 generator(7);
     for (int list = 0; list < 200; ++list) {
-        Words sample(2 + generator() % 20);
+        Words sample(static_cast<std::size_t>(2 + generator() % 20));
         for (std::uint64_t& word : sample) word = generator() % 5000;
         expectAsWalked(sample);
     }
