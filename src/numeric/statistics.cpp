@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <ranges>
 #include <vector>
 
 #include "numeric/complex_arithmetic.h"
@@ -53,9 +52,9 @@ Value extreme(std::span<const Value> items, Value best, int wanted) {
     if (items.empty()) {
         return Value(0);
     }
-    for (const Value& item : items | std::views::reverse) {
-        if (compare(item, best) == wanted) {
-            best = Value(item.re, item.im);
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        if (compare(*item, best) == wanted) {
+            best = Value(item->re, item->im);
         }
     }
     return best;
@@ -89,16 +88,16 @@ Value count(std::span<const Value> items) { return size(items); }
 
 Value sum(std::span<const Value> items) {
     Value total(0);
-    for (const Value& item : items | std::views::reverse) {
-        total = add(total, item);
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        total = add(total, *item);
     }
     return total;
 }
 
 Value sum2(std::span<const Value> items) {
     Value total(0);
-    for (const Value& item : items | std::views::reverse) {
-        total = add(total, sqr(item));
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        total = add(total, sqr(*item));
     }
     return total;
 }
@@ -108,8 +107,8 @@ Value prod(std::span<const Value> items) {
         return Value(0);
     }
     Value product(1);
-    for (const Value& item : items | std::views::reverse) {
-        product = mul(product, item);
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        product = mul(product, *item);
     }
     return product;
 }
