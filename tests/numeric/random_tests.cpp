@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <set>
 #include <vector>
 
@@ -27,6 +28,18 @@ TEST(Random, SeedDeterminesTheSequenceAndItsOrder) {
     EXPECT_EQ(rndG().re, normal.re);
     seedRandom(43);
     EXPECT_NE(rnd().re, uniform[0]);
+}
+
+TEST(Random, WordIsSixDrawsThatOverlapByTwoBits) {
+    std::srand(7);
+    std::uint64_t wanted = 0;
+    for (const int place : {65, 52, 39, 26, 13, 0}) {
+        const std::uint64_t bits = static_cast<std::uint64_t>(std::rand()) & 0x7FFF;
+        // The first draw has its place above the word: its lowest bit stands at 65.
+        if (place < 64) wanted ^= bits << place;
+    }
+    seedRandom(7);
+    EXPECT_EQ(randomWord(), wanted);
 }
 
 TEST(Random, WordsVaryInEveryBit) {
