@@ -27,9 +27,6 @@ public:
     Component& operator=(const Component&) = delete;
     virtual ~Component();
 
-    /// The widget that owns `window`, or null when none does.
-    static Component* of(WindowHandle window);
-
     WindowHandle handle() const { return window_.get(); }
     WindowHandle parent() const { return parent_; }
     std::uint16_t command() const { return command_; }

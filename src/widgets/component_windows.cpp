@@ -10,7 +10,7 @@ namespace calquo {
 /// Stands in front of the window procedure of the system's class.
 struct Component::Procedure {
     static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
-        Component* component = of(window);
+        auto* const component = reinterpret_cast<Component*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         if (component == nullptr) return DefWindowProcW(window, code, wide, extra);
         const Message message{code, wide, extra};
         if (code == WM_NCDESTROY) return component->forgetWindow(message);
@@ -26,10 +26,6 @@ struct Component::Procedure {
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&component));
         const LONG_PTR previous = SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(receive));
         component.systemProcedure_ = reinterpret_cast<SystemProcedure>(previous);
-    }
-
-    static bool isInstalled(HWND window) {
-        return GetWindowLongPtrW(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(receive);
     }
 };
 
@@ -48,11 +44,6 @@ Component::~Component() {
     filter_ = nullptr;
     // The last messages still need the handle; the final one gives it up.
     if (window_) destroyWindow(handle());
-}
-
-Component* Component::of(WindowHandle window) {
-    if (!Procedure::isInstalled(window)) return nullptr;
-    return reinterpret_cast<Component*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
 void Component::giveFocus() { SetFocus(handle()); }

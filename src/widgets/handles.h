@@ -6,7 +6,6 @@
 
 struct HWND__;
 struct HINSTANCE__;
-struct ITextDocument;
 
 namespace calquo {
 
@@ -43,10 +42,8 @@ private:
 
 void destroyWindow(WindowHandle window);
 void freeLibrary(ModuleHandle library);
-void releaseTextDocument(ITextDocument* document);
 
 using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
 using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
-using TextDocumentOwner = HandleOwner<ITextDocument*, releaseTextDocument>;
 
 }  // namespace calquo

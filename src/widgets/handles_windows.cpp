@@ -9,6 +9,4 @@ void destroyWindow(WindowHandle window) { DestroyWindow(window); }
 
 void freeLibrary(ModuleHandle library) { FreeLibrary(library); }
 
-void releaseTextDocument(ITextDocument* document) { document->Release(); }
-
 }  // namespace calquo

@@ -31,6 +31,8 @@ struct Paragraph {
 struct CharacterStyle {
     std::uint32_t color = 0;  ///< Red in the lowest byte, then green, then blue.
     bool bold = false;
+
+    friend bool operator==(const CharacterStyle&, const CharacterStyle&) = default;
 };
 
 /// A run of text in one style. Lines end with "\n".
@@ -50,8 +52,9 @@ public:
     /// Hears a key before the control does; true when the key has been dealt with.
     using KeyListener = std::function<bool(const KeyPress&)>;
 
-    /// An empty area whose typed text looks like `normal`. Keys are offered to `keys` before the control gets them,
-    /// all messages but keys to `otherMessages`. Raises InternalFault when the control is not to be had.
+    /// An empty area. What is typed looks like `normal`, wherever the caret stands. Keys are offered to `keys` before
+    /// the control gets them, all messages but keys to `otherMessages`. Raises InternalFault when the control is not to
+    /// be had.
     TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
              MessageFilter otherMessages);
 
@@ -79,15 +82,16 @@ private:
     std::optional<MessageAnswer> hearKey(const Message& message);
     std::optional<MessageAnswer> hearCharacter(const Message& message);
 
-    void chooseLook(CharacterStyle normal);
+    void chooseLook();
+    void typeInNormalStyle();
     std::wstring text(TextRange range) const;
     std::string richText(const std::vector<StyledRun>& runs) const;
     void replaceSelection(const std::vector<StyledRun>& runs);
 
+    CharacterStyle normal_;
     KeyListener keys_;
     MessageFilter otherMessages_;
     std::wstring fontName_;
-    TextDocumentOwner document_;
 };
 
 }  // namespace calquo

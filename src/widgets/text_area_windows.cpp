@@ -2,8 +2,8 @@
 #include "widgets/text_area.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
+#include <cwchar>
 #include <limits>
 
 #include "values/errors.h"
@@ -14,8 +14,8 @@ namespace {
 
 constexpr wchar_t controlLibrary[] = L"Riched20.dll";
 constexpr wchar_t controlClass[] = L"RichEdit20A";
+constexpr wchar_t unicodeClass[] = L"RichEdit20W";
 constexpr DWORD controlStyle = WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
-constexpr IID textDocumentInterface = {0x8CC497C0, 0xA1DF, 0x11CE, {0x80, 0x98, 0x00, 0xAA, 0x00, 0x47, 0xBE, 0x5D}};
 constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
 
 /// The fonts to choose from: the first that is installed is taken. All have digits of equal width, so that results
@@ -26,10 +26,24 @@ constexpr int twipsPerPoint = 20;
 constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr int margin = 8;  // at 96 dots per inch
 
-/// Loads the control's library for the rest of the run; its windows must not outlive it.
-void loadControlLibrary() {
+/// Loads the control's library and names its class for this program. The library knows the one control under two
+/// names: as "RichEdit20A" it speaks the code page, and would make an 8 of an infinity sign; as "RichEdit20W" it speaks
+/// UTF-16. Here the first name stands for the second behaviour.
+bool prepareControl() {
     static const LibraryOwner library(LoadLibraryW(controlLibrary));
-    if (!library) raise(ErrorCode::InternalFault);
+    WNDCLASSW description{};
+    if (!library || GetClassInfoW(nullptr, unicodeClass, &description) == 0) return false;
+    description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.lpszClassName = controlClass;
+    return RegisterClassW(&description) != 0;
+}
+
+/// The name of the control's class, ready to be used.
+const wchar_t* preparedControl() {
+    static const bool ready = prepareControl();
+    if (!ready) raise(ErrorCode::InternalFault);
+    return controlClass;
 }
 
 int CALLBACK noteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
@@ -77,6 +91,24 @@ std::string colorEntry(COLORREF color) {
            std::to_string(GetBValue(color)) + ";";
 }
 
+/// The style as the control takes it.
+CHARFORMAT2W formatOf(CharacterStyle style) {
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    format.dwMask = CFM_COLOR | CFM_BOLD;
+    format.crTextColor = style.color;
+    format.dwEffects = style.bold ? CFE_BOLD : 0;
+    return format;
+}
+
+/// The style that a character would be typed in.
+CharacterStyle styleAtCaret(HWND window) {
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    SendMessageW(window, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    return {format.crTextColor, (format.dwEffects & CFE_BOLD) != 0};
+}
+
 /// Hands the control the next piece of the text that `rest`, a string_view's address, still holds.
 DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
     std::string_view& text = *reinterpret_cast<std::string_view*>(rest);
@@ -92,9 +124,9 @@ class PaintingPause {
 public:
     explicit PaintingPause(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
     ~PaintingPause() {
-        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
         SendMessageW(window_, EM_SCROLLCARET, 0, 0);
-        InvalidateRect(window_, nullptr, FALSE);
+        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+        RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_NOERASE);
     }
     PaintingPause(const PaintingPause&) = delete;
     PaintingPause& operator=(const PaintingPause&) = delete;
@@ -102,19 +134,6 @@ public:
 private:
     HWND window_;
 };
-
-/// The control's document interface, through which text is read in UTF-16.
-TextDocumentOwner documentOf(HWND window) {
-    IUnknown* control = nullptr;
-    SendMessageW(window, EM_GETOLEINTERFACE, 0, reinterpret_cast<LPARAM>(&control));
-    ITextDocument* document = nullptr;
-    if (control != nullptr) {
-        control->QueryInterface(textDocumentInterface, reinterpret_cast<void**>(&document));
-        control->Release();
-    }
-    if (document == nullptr) raise(ErrorCode::InternalFault);
-    return TextDocumentOwner(document);
-}
 
 }  // namespace
 
@@ -133,13 +152,13 @@ const TextArea::MessageRow TextArea::messageRows[] = {
 
 TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
                    MessageFilter otherMessages)
-    : Component((loadControlLibrary(), Creation{parent, command, controlClass, controlStyle, 0}),
+    : Component({parent, command, preparedControl(), controlStyle, 0},
                 [this](const Message& message) { return hear(message); }),
+      normal_(normal),
       keys_(std::move(keys)),
       otherMessages_(std::move(otherMessages)),
-      fontName_(chosenFont()),
-      document_(documentOf(handle())) {
-    chooseLook(normal);
+      fontName_(chosenFont()) {
+    chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
 }
 
@@ -159,24 +178,26 @@ std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
 std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
     // The Enter key has done its work when it went down.
     if (message.wide == L'\r' || message.wide == L'\n') return 0;
-    // The control takes characters in its code page, and would replace what that lacks.
-    if (message.code == WM_CHAR && message.wide >= 0x80) {
-        return sendToSystemClass({WM_UNICHAR, message.wide, message.extra});
-    }
+    typeInNormalStyle();
     return std::nullopt;
 }
 
-void TextArea::chooseLook(CharacterStyle normal) {
-    CHARFORMAT2W format{};
-    format.cbSize = sizeof format;
-    format.dwMask = CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_COLOR | CFM_BOLD;
+void TextArea::chooseLook() {
+    CHARFORMAT2W format = formatOf(normal_);
+    format.dwMask |= CFM_FACE | CFM_SIZE | CFM_CHARSET;
     format.yHeight = fontPoints * twipsPerPoint;
     format.bCharSet = DEFAULT_CHARSET;
-    format.crTextColor = normal.color;
-    format.dwEffects = normal.bold ? CFE_BOLD : 0;
     std::wcsncpy(format.szFaceName, fontName_.c_str(), LF_FACESIZE - 1);
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
     SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, paper);
+}
+
+void TextArea::typeInNormalStyle() {
+    // Typing takes the look of its neighbour, which may be a result. Selected text keeps its own.
+    const TextRange selected = selection();
+    if (selected.begin != selected.end || styleAtCaret(handle()) == normal_) return;
+    CHARFORMAT2W format = formatOf(normal_);
+    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
 void TextArea::moveTo(const Rectangle& place) {
@@ -199,15 +220,11 @@ void TextArea::select(TextRange range) {
 }
 
 std::wstring TextArea::text(TextRange range) const {
-    ITextRange* found = nullptr;
-    BSTR characters = nullptr;
-    if (document_.get()->Range(range.begin, range.end, &found) != S_OK) raise(ErrorCode::InternalFault);
-    found->GetText(&characters);
-    found->Release();
-    // An empty range gives no string at all.
-    std::wstring copy(characters == nullptr ? L"" : characters, SysStringLen(characters));
-    SysFreeString(characters);
-    return copy;
+    std::wstring characters(static_cast<std::size_t>(range.end - range.begin), L'\0');
+    TEXTRANGEW wanted{{range.begin, range.end}, characters.data()};
+    const LRESULT length = SendMessageW(handle(), EM_GETTEXTRANGE, 0, reinterpret_cast<LPARAM>(&wanted));
+    characters.resize(static_cast<std::size_t>(length));
+    return characters;
 }
 
 Paragraph TextArea::paragraphAt(std::int32_t position) const {
@@ -237,7 +254,10 @@ void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std:
     select({caret, caret});
 }
 
-void TextArea::insertLineEnd() { SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\n")); }
+void TextArea::insertLineEnd() {
+    typeInNormalStyle();
+    SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\n"));
+}
 
 std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
     std::string head = "{\\rtf1\\ansi\\deff0\\uc0{\\fonttbl{\\f0\\fnil ";

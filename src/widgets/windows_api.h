@@ -12,8 +12,5 @@
 #endif
 
 #include <windows.h>
-// These need <windows.h> in front of them.
-#include <ole2.h>
+// Needs <windows.h> in front of it.
 #include <richedit.h>
-#include <richole.h>
-#include <tom.h>

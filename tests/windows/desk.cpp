@@ -1,0 +1,131 @@
+// The desk's window, keys and pictures.
+#include "desk.h"
+
+#include <algorithm>
+#include <array>
+
+namespace calquo {
+namespace {
+
+constexpr wchar_t className[] = L"Desk of a test";
+
+LRESULT CALLBACK receive(HWND window, UINT code, WPARAM first, LPARAM second) {
+    auto* const commands = reinterpret_cast<std::vector<unsigned>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (code == WM_COMMAND && second == 0 && commands != nullptr) commands->push_back(LOWORD(first));
+    return DefWindowProcW(window, code, first, second);
+}
+
+/// Tells the system that a key is held, while it lives.
+class HeldKey {
+public:
+    explicit HeldKey(int key) : key_(key) { hold(0x80); }
+    ~HeldKey() { hold(0); }
+
+private:
+    void hold(BYTE state) const {
+        if (key_ == 0) return;
+        std::array<BYTE, 256> keys{};
+        GetKeyboardState(keys.data());
+        keys[static_cast<std::size_t>(key_)] = state;
+        SetKeyboardState(keys.data());
+    }
+
+    int key_;
+};
+
+/// 'n' for the normal style, 'r' for the result style, '?' for any other.
+char styleOfSelection(HWND control) {
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    SendMessageW(control, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    const bool bold = (format.dwEffects & CFE_BOLD) != 0;
+    if (!bold && format.crTextColor == RGB(0, 0, 0)) return 'n';
+    return bold && format.crTextColor == RGB(0, 0, 139) ? 'r' : '?';
+}
+
+}  // namespace
+
+std::wstring wide(std::string_view text) {
+    std::wstring units;
+    for (const char character : text) units += static_cast<unsigned char>(character);
+    return units;
+}
+
+Desk::TopLevelWindow::TopLevelWindow(Desk& desk) {
+    WNDCLASSW description{};
+    description.lpfnWndProc = receive;
+    description.lpszClassName = className;
+    RegisterClassW(&description);
+    handle = CreateWindowExW(0, className, L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
+                             nullptr, nullptr);
+    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&desk.commands));
+}
+
+Desk::TopLevelWindow::~TopLevelWindow() { DestroyWindow(handle); }
+
+Desk::Desk() : top_(*this), workArea_(top_.handle, 1, 2592) {
+    workArea_.moveTo({0, 0, 780, 560});
+    workArea_.giveFocus();
+}
+
+void Desk::type(std::wstring_view text) {
+    for (const wchar_t unit : text) {
+        if (unit == L'\n') {
+            press(VK_RETURN, VK_CONTROL);
+        } else {
+            SendMessageW(control(), WM_CHAR, unit, 1);
+        }
+    }
+}
+
+void Desk::press(int key, int modifier) {
+    const HeldKey held(modifier);
+    const bool alt = modifier == VK_MENU;
+    SendMessageW(control(), alt ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+    const wchar_t character = modifier == VK_CONTROL ? L'\n' : L'\r';
+    if (key == VK_RETURN) SendMessageW(control(), alt ? WM_SYSCHAR : WM_CHAR, character, 1);
+    SendMessageW(control(), alt ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(key), 1);
+}
+
+void Desk::select(std::size_t begin, std::size_t end) {
+    SendMessageW(control(), EM_SETSEL, begin, static_cast<LPARAM>(end));
+}
+
+void Desk::undo() { SendMessageW(control(), EM_UNDO, 0, 0); }
+
+void Desk::redo() { SendMessageW(control(), EM_REDO, 0, 0); }
+
+std::wstring Desk::text() const {
+    std::wstring units(static_cast<std::size_t>(SendMessageW(control(), WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
+    const LRESULT length = SendMessageW(control(), WM_GETTEXT, units.size(), reinterpret_cast<LPARAM>(units.data()));
+    units.resize(static_cast<std::size_t>(length));
+    std::erase(units, L'\r');
+    return units;
+}
+
+std::size_t Desk::caret() const {
+    CHARRANGE range{};
+    SendMessageW(control(), EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    return static_cast<std::size_t>(range.cpMax);
+}
+
+std::wstring Desk::picture() {
+    const std::wstring units = text();
+    const std::size_t place = caret();
+    std::wstring drawn;
+    bool result = false;
+    for (std::size_t index = 0; index <= units.size(); ++index) {
+        select(index, index + 1);
+        const char style = index < units.size() ? styleOfSelection(control()) : 'n';
+        if (result && style != 'r') drawn += L'>';
+        if (index == place) drawn += L'|';
+        if (!result && style == 'r') drawn += L'<';
+        result = style == 'r';
+        if (index < units.size()) drawn += units[index];
+        if (style == '?') drawn += L'?';
+    }
+    select(place, place);
+    return drawn;
+}
+
+}  // namespace calquo

@@ -1,0 +1,44 @@
+// Exceptions on their way from a window procedure to the message loop.
+#include "shell/message_loop.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "values/errors.h"
+#include "widgets/text_area.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+TEST(MessageLoop, ReportsAnExceptionOfOneMessageAndGoesOn) {
+    const WindowOwner top(
+        CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr));
+    std::string heard;
+    const auto fail = [&](const Message& message) -> std::optional<MessageAnswer> {
+        if (message.code == WM_APP) throw Except{ErrorCode::NoSolution};
+        if (message.code == WM_APP + 1) throw std::runtime_error("second");
+        if (message.code == WM_APP + 2) heard += "went on; ";
+        return std::nullopt;
+    };
+    const TextArea area(top.get(), 1, {}, nullptr, fail);
+    for (const UINT code : {WM_APP, WM_APP + 1, WM_APP + 2}) PostMessageW(area.handle(), code, 0, 0);
+    PostQuitMessage(7);
+
+    const int status = runMessageLoop([&] {
+        try {
+            throw;
+        } catch (const Except& failure) {
+            heard += errorMessage(failure.code) + std::string("; ");
+        } catch (const std::exception& failure) {
+            heard += failure.what() + std::string("; ");
+        }
+    });
+    EXPECT_EQ(heard, "no solution; second; went on; ");
+    EXPECT_EQ(status, 7);
+}
+
+}  // namespace
+}  // namespace calquo

@@ -1,0 +1,219 @@
+// The real work area: keys go in, and its text, styles and caret are looked at.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "desk.h"
+#include "workarea/enter_rows.h"
+
+namespace calquo {
+namespace {
+
+TEST(WorkArea, EnterRewritesTheLineInOneStepForUndo) {
+    for (const EnterRow& row : enterRows) {
+        SCOPED_TRACE(row.line);
+        Desk desk;
+        desk.type(row.line);
+        desk.press(VK_RETURN);
+        EXPECT_EQ(desk.picture(), wide(row.after));
+        if (desk.text() == wide(row.line)) continue;
+        const std::wstring after = desk.text();
+        desk.undo();
+        EXPECT_EQ(desk.text(), wide(row.line));
+        desk.redo();
+        EXPECT_EQ(desk.text(), after);
+    }
+}
+
+TEST(WorkArea, EvaluationIntoTheSelectionReplacesNothingElse) {
+    for (const InPlaceRow& row : inPlaceRows) {
+        SCOPED_TRACE(row.line);
+        Desk desk;
+        desk.type(row.line);
+        desk.select(row.begin, row.end);
+        desk.press(VK_F9);
+        EXPECT_EQ(desk.picture(), wide(row.after));
+        if (desk.text() != wide(row.line)) desk.undo();
+        EXPECT_EQ(desk.text(), wide(row.line));
+    }
+}
+
+/// Text with the caret at `place`, a key, and what stands there then.
+struct KeyRow {
+    const wchar_t* text;
+    std::size_t place;
+    int key, modifier;
+    const wchar_t* after;
+};
+
+TEST(WorkArea, KeysActAtTheCaretOnly) {
+    const KeyRow rows[] = {
+        // A line in the middle is rewritten between its neighbours, wherever the caret stands in it.
+        {L"1+1\n2+3\n4+4", 4, VK_RETURN, 0, L"1+1\n2+3< = 5>\n\n5|\n4+4"},
+        {L"1+1\n2+3\n4+4", 7, VK_RETURN, 0, L"1+1\n2+3< = 5>\n\n5|\n4+4"},
+        {L"1+1\n2+3 = 9\n4+4", 9, VK_RETURN, 0, L"1+1\n2+3< = 5>\n\n5|\n4+4"},
+        {L"1+1\n2+x\n4+4", 4, VK_RETURN, 0, L"1+1\n2+x|< = Error (unknown name)>\n4+4"},
+        {L"1+1\n\n4+4", 4, VK_RETURN, 0, L"1+1\n\n|\n4+4"},
+        {L"2+3\n4+4", 0, VK_RETURN, 0, L"2+3< = 5>\n\n5|\n4+4"},
+        // With a modifier, Enter is an ordinary new line.
+        {L"2+3", 2, VK_RETURN, VK_CONTROL, L"2+\n|3"},
+        {L"2+3", 2, VK_RETURN, VK_SHIFT, L"2+\n|3"},
+        {L"2+3", 3, VK_RETURN, VK_MENU, L"2+3\n|"},
+        // Keys that are the control's own.
+        {L"2+3", 3, VK_BACK, 0, L"2+|"},
+        {L"2+3", 0, VK_DELETE, 0, L"|+3"},
+        {L"2+3", 3, VK_F9, VK_SHIFT, L"2+3|"},
+    };
+    for (const KeyRow& row : rows) {
+        SCOPED_TRACE(row.text);
+        Desk desk;
+        desk.type(row.text);
+        desk.select(row.place, row.place);
+        desk.press(row.key, row.modifier);
+        EXPECT_EQ(desk.picture(), row.after);
+    }
+}
+
+TEST(WorkArea, TypingGoesOnFromTheCarriedResultInNormalStyle) {
+    Desk desk;
+    desk.type("2+3");
+    desk.press(VK_RETURN);
+    desk.type("*4");
+    EXPECT_EQ(desk.picture(), L"2+3< = 5>\n\n5*4|");
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.picture(), L"2+3< = 5>\n\n5*4< = 20>\n\n20|");
+    // Each evaluation and each stretch of typing is one step back.
+    for (const wchar_t* before : {L"2+3 = 5\n\n5*4", L"2+3 = 5\n\n5", L"2+3", L""}) {
+        desk.undo();
+        EXPECT_EQ(desk.text(), before);
+    }
+}
+
+TEST(WorkArea, WhatIsTypedBesideAResultIsNormal) {
+    Desk desk;
+    desk.type("2+3");
+    desk.press(VK_RETURN);
+    // The expression is deleted and another typed, right before the old result.
+    desk.select(0, 3);
+    desk.press(VK_DELETE);
+    desk.type("4*5");
+    EXPECT_EQ(desk.picture(), L"4*5|< = 5>\n\n5");
+    desk.select(7, 7);
+    desk.type("\n6");
+    EXPECT_EQ(desk.picture(), L"4*5< = 5>\n6|\n\n5");
+    desk.select(0, 0);
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
+}
+
+TEST(WorkArea, AMendedMistakeIsEvaluatedAgain) {
+    Desk desk;
+    desk.type("(2+)*4");
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.picture(), L"(2+|)*4< = Error (invalid format)>");
+    desk.type("3");
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.picture(), L"(2+3)*4< = 20>\n\n20|");
+}
+
+TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
+    Desk desk;
+    const std::wstring line = L"8+\u221E+\u044F\u4E2D\U0001F600";
+    desk.type(line);
+    ASSERT_EQ(desk.text(), line);
+    desk.press(VK_RETURN);
+    // An infinity sign is no 8, whatever a code page makes of it.
+    EXPECT_EQ(desk.picture(), L"8+|\u221E+\u044F\u4E2D\U0001F600< = Error (invalid format)>");
+    desk.undo();
+    EXPECT_EQ(desk.text(), line);
+    desk.select(line.size(), line.size());
+    desk.type(L" = \u221E");
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.text(), line + L" = Error (invalid format)");
+}
+
+TEST(WorkArea, ALongLineIsEvaluatedWhole) {
+    Desk desk;
+    std::wstring sum = L"1";
+    for (int count = 1; count < 2000; ++count) sum += L"+1";
+    desk.type(L"1\n");
+    SendMessageW(desk.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(sum.c_str()));
+    desk.type(L"\n7");
+    desk.select(1000, 1000);
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.text(), L"1\n" + sum + L" = 2,000\n\n2,000\n7");
+    EXPECT_EQ(desk.caret(), 2 + sum.size() + 8 + 2 + 5);
+}
+
+TEST(WorkArea, TheHelpKeyIsTheMainWindowsCommand) {
+    Desk desk;
+    desk.type("2+3");
+    desk.press(VK_F1);
+    desk.press(VK_F1, VK_SHIFT);
+    EXPECT_EQ(desk.commands, (std::vector<unsigned>{2592, 2592}));
+    EXPECT_EQ(desk.picture(), L"2+3|");
+}
+
+WNDPROC beforeReplacing;
+
+LRESULT CALLBACK answerThatResultsReplace(HWND window, UINT code, WPARAM first, LPARAM second) {
+    if (code == WorkArea::resultReplaceQuery) return 1;
+    return CallWindowProcW(beforeReplacing, window, code, first, second);
+}
+
+TEST(WorkArea, EnterAsksTheControlWhetherResultsReplace) {
+    Desk desk;
+    EXPECT_EQ(SendMessageW(desk.control(), WM_USER + 3, 0, 0), 0);
+    beforeReplacing = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(desk.control(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(answerThatResultsReplace)));
+    desk.type("2+3");
+    desk.select(0, 2);
+    desk.press(VK_RETURN);
+    EXPECT_EQ(desk.picture(), L"5|3");
+}
+
+/// The rows of the line files that need no options.
+std::vector<std::string> plainRows() {
+    std::vector<std::string> rows;
+    for (const auto& entry : std::filesystem::directory_iterator(CALQUO_TEST_LINES)) {
+        std::ifstream file(entry.path(), std::ios::binary);
+        bool plain = true;
+        for (std::string line; std::getline(file, line);) {
+            if (line.starts_with("#:")) plain = line.find("--") == std::string::npos;
+            if (plain && !line.empty() && line.front() != '#') rows.push_back(line);
+        }
+    }
+    return rows;
+}
+
+/// The row's record as the work area shows it, with the caret where the row says that the error lies.
+std::wstring expectedPicture(const std::string& row, std::string_view expression) {
+    const std::string_view rest = std::string_view(row).substr(expression.size());
+    if (rest.empty()) return wide(row) + L"\n|";
+    const std::size_t place = rest.rfind(") at ");
+    if (!rest.starts_with(" = Error (") || place == std::string_view::npos) {
+        return wide(expression) + L"<" + wide(rest) + L">\n\n" + wide(rest.substr(3)) + L"|";
+    }
+    std::wstring drawn = wide(expression) + L"<" + wide(rest.substr(0, place + 1)) + L">";
+    return drawn.insert(std::stoul(std::string(rest.substr(place + 5))), L"|");
+}
+
+TEST(WorkArea, ShowsTheRecordsOfTheLineFiles) {
+    const std::vector<std::string> rows = plainRows();
+    ASSERT_GT(rows.size(), 100u);
+    constexpr std::size_t sampleSize = 150;
+    const std::size_t step = rows.size() / sampleSize + 1;
+    for (std::size_t index = 0; index < rows.size(); index += step) {
+        SCOPED_TRACE(rows[index]);
+        const std::string_view expression = expressionOf(rows[index]);
+        Desk desk;
+        desk.type(expression);
+        desk.press(VK_RETURN);
+        EXPECT_EQ(desk.picture(), expectedPicture(rows[index], expression));
+    }
+}
+
+}  // namespace
+}  // namespace calquo
