@@ -3,7 +3,24 @@
 
 #include <cmath>
 
+#include "numeric/angle_reduction.h"
+#include "numeric/wide_logarithm.h"
+
 namespace calquo {
+namespace {
+
+/// Sine of a finite angle that is the given number of quarter turns ahead.
+Real sineOf(Real x, unsigned quarters) {
+    const ReducedAngle reduced = reduceAngle(std::fabs(x));
+    const Real a = reduced.angle;
+    const unsigned quadrant = reduced.quadrant + quarters;
+    // The rest is so small that of the other function a few bits suffice.
+    const Real result = quadrant % 2 == 0 ? std::sin(a) + reduced.rest * (1 - a * a / 2)
+                                          : std::cos(a) - reduced.rest * (a - a * a * a / 6);
+    return (quadrant & 2) != 0 ? (x < 0 ? result : -result) : (x < 0 ? -result : result);
+}
+
+}  // namespace
 
 [[noreturn]] void raiseOutOfRange() { raise(ErrorCode::DomainRange); }
 
@@ -15,9 +32,9 @@ Real signReal(Real a) {
     return a > 0 ? 1 : 0;
 }
 
-Real sinReal(Real a) { return inRange(std::sin(a)); }
+Real sinReal(Real a) { return std::isfinite(a) ? sineOf(a, 0) : a - a; }
 
-Real cosReal(Real a) { return inRange(std::cos(a)); }
+Real cosReal(Real a) { return std::isfinite(a) ? sineOf(std::fabs(a), 1) : a - a; }
 
 Real sinhReal(Real a) { return inRange(std::sinh(a)); }
 
@@ -27,12 +44,12 @@ Real expReal(Real a) {
     if (a < lowestExponent || a > highestExponent) {
         raise(ErrorCode::LimitExceeded);
     }
-    return std::exp(a);
+    return a == 0 || std::isnan(a) ? 1 + a : toReal(wideExponential({wideFloat(std::fabs(a)), a < 0}));
 }
 
 Real lnReal(Real a) {
     checkNumber(a, CheckFlags::Report | CheckFlags::NoNegative | CheckFlags::NoZero, errorPosition());
-    return std::log(a);
+    return std::isnan(a) ? a : toReal(wideLogarithm(a));
 }
 
 }  // namespace calquo

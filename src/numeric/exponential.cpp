@@ -2,7 +2,6 @@
 #include "numeric/exponential.h"
 
 #include <cmath>
-#include <complex>
 
 #include "numeric/checked_real.h"
 #include "numeric/complex_arithmetic.h"
@@ -38,6 +37,46 @@ Real positivePower(Real x, Real factor) {
     return toReal(wideExponential(logarithm));
 }
 
+/// A sum of two wide numbers, and the part of its last unit that did not fit, as a fraction.
+struct WideSum {
+    WideFloat leading;
+    UInt128 trailing;
+};
+
+/// a + b for a not below b.
+WideSum sum(const WideFloat& a, const WideFloat& b) {
+    const int shift = a.exponent - b.exponent;
+    const UInt128 mantissa = a.mantissa + shiftRight(b.mantissa, shift);
+    const UInt128 trailing = shift == 0 ? UInt128{} : shiftLeft(b.mantissa, 128 - shift);
+    if (mantissa >= a.mantissa) {
+        return {{mantissa, a.exponent}, trailing};
+    }
+    // Carried out of the top.
+    return {{shiftRight(mantissa, 1) + UInt128{std::uint64_t{1} << 63, 0}, a.exponent + 1},
+            shiftRight(trailing, 1) + shiftLeft(mantissa, 127)};
+}
+
+/// ln |x + iy| for finite parts, not both 0. Next to the unit circle, where it is small, it keeps its relative
+/// precision: x^2 + y^2 is summed exactly, and what its rounding to an extended number takes away is put back.
+Real logarithmOfModulus(Real x, Real y) {
+    const Real larger = std::fmax(std::fabs(x), std::fabs(y));
+    const Real ratio = std::fmin(std::fabs(x), std::fabs(y)) / larger;
+    if (ratio * ratio < 0x1p-64L) {
+        return toReal(wideLogarithm(larger)) + ratio * ratio / 2;
+    }
+    // The squares of numbers far from 1 would leave the range.
+    const int scale = std::fabs(larger - 1) < 1 ? 0 : std::ilogb(larger);
+    const WideFloat a = wideFloat(std::ldexp(larger, -scale));
+    const WideFloat b = wideFloat(std::ldexp(std::fmin(std::fabs(x), std::fabs(y)), -scale));
+    const auto [leading, trailing] = sum(multiply(a, a), multiply(b, b));
+    const Truncation squares = truncate(leading);
+    const bool up = squares.rest > squares.half;
+    const Real rest = up ? -static_cast<Real>(0 - squares.rest.low) : static_cast<Real>(squares.rest.low);
+    const Real lost = (rest + static_cast<Real>(trailing.high) * 0x1p-64L) * 0x1p-64L / static_cast<Real>(squares.kept);
+    constexpr Real lnTwo = 0.693147180559945309417232121458176568L;
+    return (toReal(wideLogarithm(toReal(squares, up))) + lost) / 2 + static_cast<Real>(scale) * lnTwo;
+}
+
 /// ln z / ln b for positive reals other than b = 1.
 Real positiveLogarithm(Real z, Real base) {
     SignedWide numerator = wideLogarithm(z);
@@ -69,8 +108,9 @@ Value ln(const Value& z) {
     if (z.im == 0 && z.re < 0) {
         return Value(toReal(wideLogarithm(-z.re)), pi).at(z.positions);
     }
-    const std::complex<Real> logarithm = std::log(std::complex<Real>(z.re, z.im));
-    return Value(logarithm.real(), logarithm.imag()).at(z.positions);
+    // checkValue has refused infinities; a NaN in one part makes both parts one.
+    const Real modulus = std::isunordered(z.re, z.im) ? z.re + z.im : logarithmOfModulus(z.re, z.im);
+    return Value(modulus, std::atan2(z.im, z.re)).at(z.positions);
 }
 
 Value logB(const Value& z, const Value& base) {
