@@ -78,6 +78,8 @@ private:
     std::size_t operand(std::size_t index, Value& value);
     std::size_t bareOperand(std::size_t index, Value& value);
 
+    using Level = std::size_t (Evaluator::*)(std::size_t, Value&);
+    std::size_t rightOperand(Level level, const Operator& found, Value& value);
     std::size_t juxtaposition(std::size_t index, Value& value);
     std::size_t conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value);
     std::size_t postfix(std::size_t index, Value& value) const;
@@ -153,10 +155,7 @@ std::size_t Evaluator::sum(std::size_t index, Value& value) {
             return end - index;
         }
         Value right;
-        const std::size_t length = product(found.end, right);
-        if (length == 0) {
-            raiseAt(ErrorCode::InvalidFormat, found.end);
-        }
+        const std::size_t length = rightOperand(&Evaluator::product, found, right);
         setErrorPosition(position(found.start));
         value = found.kind == TokenClass::Plus ? add(value, right) : sub(value, right);
         end = found.end + length;
@@ -173,10 +172,7 @@ std::size_t Evaluator::product(std::size_t index, Value& value) {
         const Operator found = readOperator(line, end);
         if (found.kind == TokenClass::Times || found.kind == TokenClass::Divide) {
             Value right;
-            const std::size_t length = power(found.end, right);
-            if (length == 0) {
-                raiseAt(ErrorCode::InvalidFormat, found.end);
-            }
+            const std::size_t length = rightOperand(&Evaluator::power, found, right);
             setErrorPosition(position(found.start));
             value = found.kind == TokenClass::Times ? mul(value, right) : div(value, right);
             end = found.end + length;
@@ -191,6 +187,15 @@ std::size_t Evaluator::product(std::size_t index, Value& value) {
             end += length;
         }
     }
+}
+
+/// What must follow an operator.
+std::size_t Evaluator::rightOperand(Level level, const Operator& found, Value& value) {
+    const std::size_t length = (this->*level)(found.end, value);
+    if (length == 0) {
+        raiseAt(ErrorCode::InvalidFormat, found.end);
+    }
+    return length;
 }
 
 /// A bare operand behind the value so far multiplies it, or is the source unit of the conversion that follows.
@@ -218,11 +223,7 @@ std::size_t Evaluator::conversion(const Operator& arrow, const Value& quantity, 
     std::size_t end = arrow.end;
     for (Operator next = arrow; next.kind == TokenClass::Arrow; next = readOperator(line, end)) {
         last = next;
-        const std::size_t length = bareOperand(next.end, target);
-        if (length == 0) {
-            raiseAt(ErrorCode::InvalidFormat, next.end);
-        }
-        end = next.end + length;
+        end = next.end + rightOperand(&Evaluator::bareOperand, next, target);
     }
     setErrorPosition(position(last.start));
     value = convert(quantity, source, target);
@@ -241,10 +242,7 @@ std::size_t Evaluator::power(std::size_t index, Value& value) {
     }
     const Nesting level(*this, found.start);
     Value exponent;
-    const std::size_t exponentLength = power(found.end, exponent);
-    if (exponentLength == 0) {
-        raiseAt(ErrorCode::InvalidFormat, found.end);
-    }
+    const std::size_t exponentLength = rightOperand(&Evaluator::power, found, exponent);
     setErrorPosition(position(found.start));
     value = pow(value, exponent);
     return found.end + exponentLength - index;
