@@ -212,7 +212,7 @@ WideFloat wideExponential(const SignedWide& a) {
     }
     const std::uint64_t j = rest.high >> (sumFractionBits - 64 - 7);
     const UInt128 s = shiftLeft(rest - UInt128{j << (sumFractionBits - 64 - 7), 0}, 128 - sumFractionBits);
-    const UInt128 row = exponentials[j];
+    const UInt128 row = exponentials[static_cast<std::size_t>(j)];
     return normalized(row + multiplyHigh(row, exponentialExcess(s)), k - 127);
 }
 
