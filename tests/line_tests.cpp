@@ -8,7 +8,8 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <optional>
+#include <iterator>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -102,6 +103,31 @@ OutputBaseDirective directiveOf(const std::string& expression) {
         directive.back = expression.substr(blank);
     }
     return directive;
+}
+
+/// The rows "| `LINE` | `RESULT` |" of the tables in a page of documentation, as rows of tests.
+std::vector<Row> rowsOfPage(const std::filesystem::path& path) {
+    static const std::regex tableRow("\\| `([^`]+)` \\| `([^`]+)` \\|.*");
+    std::ifstream stream(path, std::ios::binary);
+    std::vector<Row> rows;
+    std::string line;
+    std::smatch cells;
+    for (int number = 1; std::getline(stream, line); ++number) {
+        if (!std::regex_match(line, cells, tableRow)) continue;
+        rows.push_back(
+            {path.filename().string() + ":" + std::to_string(number), cells.str(1) + " = " + cells.str(2), {}});
+    }
+    return rows;
+}
+
+TEST(Documentation, ExamplesGiveWhatIsSaid) {
+    const std::vector<Row> rows = rowsOfPage(std::filesystem::path(CALQUO_TEST_LINES) / "../../README.md");
+    ASSERT_FALSE(rows.empty());
+    for (const Row& row : rows) {
+        std::string differences;
+        LineAnswerer(startRow(row)).check(row.text, row.place, differences);
+        EXPECT_EQ(differences, "");
+    }
 }
 
 class Lines : public testing::TestWithParam<LineFile> {};
