@@ -12,7 +12,7 @@
 namespace calquo {
 namespace {
 
-constexpr std::size_t pieceSize = 64 * 1024;
+constexpr std::size_t pieceSize = 65536;
 
 [[noreturn]] void fail(const std::string& action) {
     const int reason = errno;
