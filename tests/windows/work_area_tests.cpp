@@ -135,16 +135,19 @@ TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
 }
 
 TEST(WorkArea, ALongLineIsEvaluatedWhole) {
-    Desk desk;
     std::wstring sum = L"1";
     for (int count = 1; count < 2000; ++count) sum += L"+1";
-    desk.type(L"1\n");
-    SendMessageW(desk.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(sum.c_str()));
-    desk.type(L"\n7");
-    desk.select(1000, 1000);
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.text(), L"1\n" + sum + L" = 2,000\n\n2,000\n7");
-    EXPECT_EQ(desk.caret(), 2 + sum.size() + 8 + 2 + 5);
+    for (const std::size_t place : {std::size_t{0}, std::size_t{1000}, sum.size()}) {
+        SCOPED_TRACE(place);
+        Desk desk;
+        desk.type(L"1\n");
+        SendMessageW(desk.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(sum.c_str()));
+        desk.type(L"\n7");
+        desk.select(2 + place, 2 + place);
+        desk.press(VK_RETURN);
+        EXPECT_EQ(desk.text(), L"1\n" + sum + L" = 2,000\n\n2,000\n7");
+        EXPECT_EQ(desk.caret(), 2 + sum.size() + 8 + 2 + 5);
+    }
 }
 
 TEST(WorkArea, TheHelpKeyIsTheMainWindowsCommand) {
