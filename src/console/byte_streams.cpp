@@ -14,6 +14,9 @@ namespace {
 
 constexpr std::size_t pieceSize = 65536;
 
+/// A file without line ends, such as a device, must not take all memory.
+constexpr std::size_t longestLine = std::size_t{64} << 20;
+
 [[noreturn]] void fail(const std::string& action) {
     const int reason = errno;
     throw StreamFault{action + ": " + std::strerror(reason)};
@@ -60,7 +63,10 @@ bool LineReader::readMore() {
         end -= start;
         start = 0;
     }
-    if (end == buffer.size()) buffer.resize(2 * buffer.size());
+    if (end == buffer.size()) {
+        if (buffer.size() >= longestLine) throw StreamFault{"a line of " + name + " is longer than 64 MiB"};
+        buffer.resize(2 * buffer.size());
+    }
     output.flush();
     for (;;) {
         const std::size_t room = std::min(buffer.size() - end, pieceSize);

@@ -39,7 +39,7 @@ private:
     std::string pending;
 };
 
-/// The lines of a file. Memory grows to the longest line and no further.
+/// The lines of a file. Memory grows to the longest line, of at most 64 MiB, and no further.
 class LineReader {
 public:
     /// Reads from `file`, called `name` in messages. Flushes `output` before it waits for more, so that whoever sends
@@ -47,7 +47,7 @@ public:
     LineReader(int file, std::string name, OutputStream& output);
 
     /// The next line without its line end ("\n" or "\r\n"), valid until the next call; false when there are no more.
-    /// Throws StreamFault.
+    /// Throws StreamFault, also for a line that is too long.
     bool next(std::string_view& line);
 
 private:

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "console/byte_streams.h"
+#include "engine/characters.h"
 #include "values/program.h"
 
 namespace calquo {
@@ -87,6 +88,14 @@ int checkRecords(const Options& options, OutputStream& output) {
     return allSame ? allWell : someFailed;
 }
 
+/// Says on standard error when the engine has kept another mark than the one that was asked for.
+void reportRefusedMark(std::optional<char> wanted, TokenClass mark, const char* name) {
+    const char kept = markCharacter(mark);
+    if (wanted && *wanted != kept) {
+        std::fprintf(stderr, "calq: \"%c\" has a meaning of its own; the %s mark stays \"%c\"\n", *wanted, name, kept);
+    }
+}
+
 int runWith(const Options& options, OutputStream& output) {
     if (options.help) {
         output.text() += helpText();
@@ -97,6 +106,8 @@ int runWith(const Options& options, OutputStream& output) {
         return allWell;
     }
     applyToEngine(options);
+    reportRefusedMark(options.decimalMark, TokenClass::DecimalMark, "decimal");
+    reportRefusedMark(options.groupMark, TokenClass::GroupMark, "group");
     if (options.check) return checkRecords(options, output);
     return options.operands.empty() ? answerStandardInput(options, output) : answerArguments(options, output);
 }

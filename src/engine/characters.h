@@ -72,7 +72,10 @@ constexpr std::uint32_t digitValue(char character) {
 }
 
 /// The digit character of a value of 0 to 35.
-constexpr char digitCharacter(std::uint32_t value) { return "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ"[value]; }
+inline char digitCharacter(std::uint32_t value) { return characterTable[value]; }
+
+/// From this base on "e" is a digit, and only the table's exponent mark begins an exponent.
+constexpr std::uint32_t firstBaseWithDigitE = 15;
 
 /// The character at an index of the line; the character zero, which matches nothing, at its end and beyond.
 constexpr char characterAt(std::string_view line, std::size_t index) {

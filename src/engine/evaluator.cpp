@@ -23,25 +23,12 @@ namespace {
 
 std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
 
-[[noreturn]] void raiseAt(ErrorCode code, std::size_t index) { raise(code, position(index)); }
-
 /// The binary operator that stands at an index, with the blanks around it skipped.
 struct Operator {
     TokenClass kind = TokenClass::None;
     std::size_t start = 0;  ///< its first character
     std::size_t end = 0;    ///< where its right operand should begin
 };
-
-Operator readOperator(std::string_view line, std::size_t index) {
-    const std::size_t start = index + blankLength(line, index);
-    for (const TokenClass kind : {TokenClass::Plus, TokenClass::Minus, TokenClass::Times, TokenClass::Divide,
-                                  TokenClass::Power, TokenClass::Arrow}) {
-        if (const std::size_t length = tokenLengthHere(kind, line, start); length != 0) {
-            return {kind, start, start + length + blankLength(line, start + length)};
-        }
-    }
-    return {};
-}
 
 class Evaluator {
 public:
@@ -82,7 +69,7 @@ private:
     std::size_t rightOperand(Level level, const Operator& found, Value& value);
     std::size_t juxtaposition(std::size_t index, Value& value);
     std::size_t conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value);
-    std::size_t postfix(std::size_t index, Value& value) const;
+    std::size_t postfix(std::size_t index, Value& value);
 
     std::size_t nameOperand(std::size_t index, Value& value);
     std::size_t unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value);
@@ -92,23 +79,45 @@ private:
     std::size_t item(std::size_t index, Value& value);
     std::size_t argumentList(std::size_t index);
     [[nodiscard]] bool isLiteralFrom(std::size_t index, const Value& value) const;
-    [[nodiscard]] Value complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) const;
+    [[nodiscard]] Value complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im);
 
     [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
     [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
         return tokenLengthHere(kind, line, index) != 0;
     }
-    [[nodiscard]] std::size_t skipBlanks(std::size_t index) const { return index + blankLength(line, index); }
+    /// Past the blanks at an index. Many levels may ask for the same ones, one after the other.
+    std::size_t skipBlanks(std::size_t index) {
+        if (index != blanksStart) {
+            blanksStart = index;
+            blanksEnd = index + blankLength(line, index);
+        }
+        return blanksEnd;
+    }
+    Operator readOperator(std::size_t index);
 
     std::string_view line;
     int nestingLimit;
     int nesting = 0;
+    std::size_t blanksStart = std::string_view::npos;
+    std::size_t blanksEnd = 0;
 
     // The arguments of the calls that are being read, innermost last. Short lists stay on the stack.
     std::array<std::byte, 16 * sizeof(Value)> argumentStorage;
     std::pmr::monotonic_buffer_resource argumentMemory{argumentStorage.data(), argumentStorage.size()};
     std::pmr::vector<Value> arguments{&argumentMemory};
 };
+
+/// The binary operator at an index, its kind None when there is none.
+Operator Evaluator::readOperator(std::size_t index) {
+    const std::size_t start = skipBlanks(index);
+    for (const TokenClass kind : {TokenClass::Plus, TokenClass::Minus, TokenClass::Times, TokenClass::Divide,
+                                  TokenClass::Power, TokenClass::Arrow}) {
+        if (const std::size_t length = tokenLengthHere(kind, line, start); length != 0) {
+            return {kind, start, skipBlanks(start + length)};
+        }
+    }
+    return {};
+}
 
 /// line = [directive] expression [suffix]
 Evaluation Evaluator::evaluate() {
@@ -150,7 +159,7 @@ std::size_t Evaluator::sum(std::size_t index, Value& value) {
         return 0;
     }
     for (;;) {
-        const Operator found = readOperator(line, end);
+        const Operator found = readOperator(end);
         if (found.kind != TokenClass::Plus && found.kind != TokenClass::Minus) {
             return end - index;
         }
@@ -169,7 +178,7 @@ std::size_t Evaluator::product(std::size_t index, Value& value) {
         return 0;
     }
     for (;;) {
-        const Operator found = readOperator(line, end);
+        const Operator found = readOperator(end);
         if (found.kind == TokenClass::Times || found.kind == TokenClass::Divide) {
             Value right;
             const std::size_t length = rightOperand(&Evaluator::power, found, right);
@@ -206,7 +215,7 @@ std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
     if (end == start) {
         return 0;
     }
-    const Operator found = readOperator(line, end);
+    const Operator found = readOperator(end);
     if (found.kind == TokenClass::Arrow) {
         const Value quantity = value;
         return found.end + conversion(found, quantity, right, value) - index;
@@ -221,7 +230,7 @@ std::size_t Evaluator::conversion(const Operator& arrow, const Value& quantity, 
     Operator last = arrow;
     Value target;
     std::size_t end = arrow.end;
-    for (Operator next = arrow; next.kind == TokenClass::Arrow; next = readOperator(line, end)) {
+    for (Operator next = arrow; next.kind == TokenClass::Arrow; next = readOperator(end)) {
         last = next;
         end = next.end + rightOperand(&Evaluator::bareOperand, next, target);
     }
@@ -236,7 +245,7 @@ std::size_t Evaluator::power(std::size_t index, Value& value) {
     if (length == 0) {
         return 0;
     }
-    const Operator found = readOperator(line, index + length);
+    const Operator found = readOperator(index + length);
     if (found.kind != TokenClass::Power) {
         return length;
     }
@@ -274,7 +283,7 @@ std::size_t Evaluator::postfixOperand(std::size_t index, Value& value) {
     return length == 0 ? 0 : length + postfix(index + length, value);
 }
 
-std::size_t Evaluator::postfix(std::size_t index, Value& value) const {
+std::size_t Evaluator::postfix(std::size_t index, Value& value) {
     const std::size_t start = skipBlanks(index);
     const bool percent = isAt(TokenClass::Percent, start);
     if (!percent && !isAt(TokenClass::Factorial, start)) {
@@ -469,7 +478,7 @@ bool Evaluator::isLiteralFrom(std::size_t index, const Value& value) const {
 
 /// The number re + i im of a list of two items that stands from start to end. Both must be real (11). Where both are
 /// literals, signs aside, the list is itself a literal and the number carries its place.
-Value Evaluator::complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) const {
+Value Evaluator::complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) {
     setErrorPosition(position(start));
     for (const Value& part : {re, im}) {
         if (!(part.im == 0)) {

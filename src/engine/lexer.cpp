@@ -9,8 +9,6 @@ namespace {
 constexpr std::uint32_t smallestBase = 2;
 constexpr std::uint32_t largestBase = 36;
 
-std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
-
 struct WholeNumber {
     std::uint32_t number = 0;  ///< too large a number stands as one above every base
     std::size_t length = 0;
@@ -29,7 +27,7 @@ WholeNumber readWholeNumber(std::string_view line, std::size_t index) {
 
 void checkBase(std::uint32_t base, std::size_t index) {
     if (base < smallestBase || base > largestBase) {
-        raise(ErrorCode::WrongBase, position(index));
+        raiseAt(ErrorCode::WrongBase, index);
     }
 }
 
@@ -105,7 +103,7 @@ std::size_t nameLength(std::string_view line, std::size_t index) {
     while (isNameCharacter(characterAt(line, index + length))) {
         ++length;
         if (length > longestName) {
-            raise(ErrorCode::TooLong, position(index + longestName));
+            raiseAt(ErrorCode::TooLong, index + longestName);
         }
     }
     return length;

@@ -11,6 +11,7 @@
 #include "values/extended.h"
 #include "values/uint128.h"
 #include "values/wide_float.h"
+#include "values/word_power.h"
 
 namespace calquo {
 namespace {
@@ -73,14 +74,8 @@ std::optional<Real> exactPower(std::uint32_t base, std::uint64_t exponent) {
     if (base == 10) {
         return exponent < powersOfTen.size() ? std::optional(powersOfTen[exponent]) : std::nullopt;
     }
-    std::uint64_t power = 1;
-    for (; exponent != 0; --exponent) {
-        if (power > UINT64_MAX / base) {
-            return std::nullopt;
-        }
-        power *= base;
-    }
-    return static_cast<Real>(power);
+    const std::optional<std::uint64_t> power = wordPower(base, exponent);
+    return power ? std::optional(static_cast<Real>(*power)) : std::nullopt;
 }
 
 /// One rounding of an exact product or quotient.

@@ -11,9 +11,6 @@
 namespace calquo {
 namespace {
 
-/// From this base on "e" is a digit, so that only the table's exponent mark starts an exponent.
-constexpr std::uint32_t firstBaseWithDigitE = 15;
-
 /// Exponents stop growing here: far beyond the range, however many digits stand before the decimal mark.
 constexpr std::int64_t hugeExponent = std::int64_t{1} << 60;
 
@@ -61,10 +58,6 @@ public:
     [[nodiscard]] std::size_t end() const { return index; }
 
 private:
-    [[noreturn]] static void raiseAt(ErrorCode code, std::size_t place) {
-        raise(code, static_cast<std::int32_t>(place));
-    }
-
     [[nodiscard]] char here() const { return characterAt(line, index); }
     [[nodiscard]] bool at(TokenClass mark) const { return here() == markCharacter(mark); }
     [[nodiscard]] bool digitAt(std::size_t place) const { return digitValue(characterAt(line, place)) < literal.base; }

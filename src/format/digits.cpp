@@ -9,20 +9,10 @@
 #include "values/exact_digits.h"
 #include "values/extended.h"
 #include "values/wide_float.h"
+#include "values/word_power.h"
 
 namespace calquo {
 namespace {
-
-std::optional<std::uint64_t> wordPower(std::uint32_t base, int exponent) {
-    std::uint64_t power = 1;
-    for (; exponent > 0; --exponent) {
-        if (power > UINT64_MAX / base) {
-            return std::nullopt;
-        }
-        power *= base;
-    }
-    return power;
-}
 
 /// number / 2^shift, halves up; shift is 1 or more.
 UInt128 roundedShift(UInt128 number, int shift) {
@@ -36,7 +26,7 @@ UInt128 roundedShift(UInt128 number, int shift) {
 
 /// The rounded product where it can be had exactly in 128 bits.
 std::optional<UInt128> exactProduct(const ExtendedBits& bits, std::uint32_t base, int places) {
-    const std::optional<std::uint64_t> scale = wordPower(base, std::abs(places));
+    const std::optional<std::uint64_t> scale = wordPower(base, static_cast<std::uint64_t>(std::abs(places)));
     if (!scale) {
         return std::nullopt;
     }

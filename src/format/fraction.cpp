@@ -2,7 +2,6 @@
 #include "format/fraction.h"
 
 #include "values/extended.h"
-#include "values/uint128.h"
 
 namespace calquo {
 namespace {
@@ -14,33 +13,60 @@ bool productBelow(UInt128 a, UInt128 b, UInt128 c, UInt128 d) {
     return left != right ? left < right : multiplyLow(a, b) < multiplyLow(c, d);
 }
 
+/// 2^exponent / divisor for an exponent of 0 and above; the quotient must be below 2^128.
+Quotient dividePowerOfTwo(int exponent, std::uint64_t divisor) {
+    Quotient result = divide(shiftLeft({0, 1}, exponent < 127 ? exponent : 127), {0, divisor});
+    for (int i = 127; i < exponent; ++i) {
+        result.quotient = shiftLeft(result.quotient, 1);
+        result.remainder = shiftLeft(result.remainder, 1);
+        if (result.remainder >= UInt128{0, divisor}) {
+            result.remainder = result.remainder - UInt128{0, divisor};
+            result.quotient = result.quotient + UInt128{0, 1};
+        }
+    }
+    return result;
+}
+
 }  // namespace
 
-Fraction closestFraction(Real x, std::uint64_t limit) {
-    const ExtendedBits bits = bitsOf(x);
-    const int scale = -bits.exponent();
-    // Below 2^-64 zero is closer than 1 / limit.
-    if (x == 0 || scale > 127) {
+Fraction closestFraction(Real x, UInt128 limit) {
+    // Up to there zero is closer than 1 / limit.
+    if (x <= 0x1p-128L) {
         return {};
     }
-    // x = part / whole; each is also how far the convergents before and at hand lie from x, times their denominators.
-    UInt128 whole = shiftLeft({0, 1}, scale);
-    UInt128 part = {0, bits.mantissa};
-    Fraction before = {1, 0};
-    Fraction current = {0, 1};
+    const ExtendedBits bits = bitsOf(x);
+    const int scale = -bits.exponent();
+    // The first step: x = mantissa / 2^scale lies between 1 / (quotient + 1) and 1 / quotient.
+    const Quotient first = dividePowerOfTwo(scale, bits.mantissa);
+    if (first.quotient > limit) {
+        // 0 or 1 / limit: x is above half of that when 2 limit x > 1.
+        const UInt128 upper = multiplyHigh(shiftLeft(limit, 1), {0, bits.mantissa});
+        const UInt128 lower = multiplyLow(shiftLeft(limit, 1), {0, bits.mantissa});
+        const UInt128 one = shiftLeft({0, 1}, scale < 128 ? scale : scale - 128);
+        const bool above =
+            scale < 128 ? upper != UInt128{} || lower > one : upper > one || (upper == one && lower != UInt128{});
+        return above ? Fraction{{0, 1}, limit} : Fraction{};
+    }
+    // Two successive remainders; each is how far a convergent lies from x, times its denominator and 2^scale.
+    UInt128 whole = {0, bits.mantissa};
+    UInt128 part = first.remainder;
+    Fraction before;
+    Fraction current = {{0, 1}, first.quotient};
     while (part != UInt128{}) {
         const Quotient step = divide(whole, part);
-        const std::uint64_t most = (limit - before.denominator) / current.denominator;
-        if (step.quotient > UInt128{0, most}) {
-            const Fraction further = {most * current.numerator + before.numerator,
-                                      most * current.denominator + before.denominator};
-            const UInt128 distance = whole - multiplyLow({0, most}, part);
+        const UInt128 most = divide(limit - before.denominator, current.denominator).quotient;
+        const auto onwards = [&](UInt128 steps) {
+            return Fraction{multiplyLow(steps, current.numerator) + before.numerator,
+                            multiplyLow(steps, current.denominator) + before.denominator};
+        };
+        if (step.quotient > most) {
+            const Fraction further = onwards(most);
+            const UInt128 distance = whole - multiplyLow(most, part);
             const bool closer =
-                most != 0 && productBelow(distance, {0, current.denominator}, part, {0, further.denominator});
+                most != UInt128{} && productBelow(distance, current.denominator, part, further.denominator);
             return closer ? further : current;
         }
-        const Fraction next = {step.quotient.low * current.numerator + before.numerator,
-                               step.quotient.low * current.denominator + before.denominator};
+        const Fraction next = onwards(step.quotient);
         before = current;
         current = next;
         whole = part;

@@ -1,19 +1,18 @@
 // The closest fraction to a number with a bounded denominator.
 #pragma once
 
-#include <cstdint>
-
+#include "values/uint128.h"
 #include "values/value.h"
 
 namespace calquo {
 
 struct Fraction {
-    std::uint64_t numerator = 0;
-    std::uint64_t denominator = 1;
+    UInt128 numerator;
+    UInt128 denominator = {0, 1};
 };
 
-/// Largest limit on a denominator; numbers of 1 and above need no larger one to be exact.
-constexpr std::uint64_t largestDenominator = UINT64_MAX / 2;
+/// Largest limit on a denominator.
+constexpr UInt128 largestDenominator = {UINT64_MAX / 2, UINT64_MAX};
 
 /// The fraction closest to x with a denominator of at most limit, in lowest terms; of two equally close ones that with
 /// the smaller denominator.
@@ -22,6 +21,6 @@ constexpr std::uint64_t largestDenominator = UINT64_MAX / 2;
 /// limit or the furthest semiconvergent behind it, whichever is closer (Khinchin, Continued Fractions, theorem 15).
 /// @param x 0 <= x < 1
 /// @param limit 1 to largestDenominator
-Fraction closestFraction(Real x, std::uint64_t limit);
+Fraction closestFraction(Real x, UInt128 limit);
 
 }  // namespace calquo

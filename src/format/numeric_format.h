@@ -15,8 +15,8 @@ using NumericFormat = std::uint32_t;
 
 enum class FormatKind : std::uint32_t { Automatic, Scientific, FixedPoint, Currency, Integer, Rational, Fractional };
 
-/// The fields of the word, as masks. Truncation shares bits with Digits, and AlwaysExponent is GroupWhole: a kind has
-/// one or the other.
+/// The fields of the word, as masks. truncation shares bits with digits, and alwaysExponent is groupWhole: a kind has
+/// one or the other. Bit 5 asks for the base prefix, which is written in any case; it is on in Currency's default.
 namespace field {
 constexpr NumericFormat kind = 0xF0000000;
 constexpr NumericFormat groupSize = 0x0F000000;          ///< G: digits in a group
@@ -25,7 +25,6 @@ constexpr NumericFormat truncation = 0x00E00000;         ///< T: how Integer mak
 constexpr NumericFormat significantDigits = 0x0007C000;  ///< S: most significant digits
 constexpr NumericFormat exponentLimit = 0x00003E00;      ///< X: largest power still written in fixed point
 constexpr NumericFormat zeroOut = 0x40;                  ///< I: numbers below 1e-12 count as 0
-constexpr NumericFormat basePrefix = 0x20;               ///< write the base prefix, which base 10 has not
 constexpr NumericFormat trailingZeros = 0x10;            ///< Z
 constexpr NumericFormat groupFraction = 0x08;            ///< F
 constexpr NumericFormat groupWhole = 0x04;               ///< W

@@ -15,9 +15,6 @@
 namespace calquo {
 namespace {
 
-/// From this base on "e" is a digit, and only the table's exponent mark can follow one.
-constexpr std::uint32_t firstBaseWithDigitE = 15;
-
 /// Below this magnitude a number counts as zero under the flag I.
 constexpr Real insignificant = 1e-12L;
 
@@ -77,8 +74,10 @@ void appendFraction(std::size_t zeros, std::string_view digits, bool grouped, in
 /// The digits of x with as many places behind the mark as the limits on fractional and on significant digits leave.
 /// Returns that number of places; negative when digits ahead of the mark are rounded away.
 int limitedDigits(Real x, const Style& style, int fractionalDigits, int significantDigits, DigitBuffer& digits) {
+    // With so many places the digits would not fit into a word, and starting from an estimate is quicker.
+    constexpr int fewPlaces = 15;
     int places = fractionalDigits;
-    if (places > 15) {
+    if (places > fewPlaces) {
         places = std::min(places, significantDigits - 1 - leadingPlace(x, style.base));
     }
     for (;;) {
@@ -113,8 +112,8 @@ private:
     std::string& text;
 };
 
-/// Whether Automatic leaves fixed point: |log x| in the output base, rounded to a whole number, is above the limit. The
-/// logarithm itself would have to be exact at the halves; its power is.
+/// Whether Automatic leaves fixed point: |log x| in the output base, rounded to a whole number, is above the limit.
+/// Compares x with base^(limit + 1/2), which is exact in the bases whose logarithms can end in a half, the squares.
 bool exceedsExponentLimit(Real magnitude, const Style& style) {
     Real bound = std::sqrt(static_cast<Real>(style.base));
     for (std::uint32_t i = getField(style.word, field::exponentLimit); i != 0; --i) {
@@ -245,15 +244,17 @@ void NumberWriter::appendWholeNumber(UInt128 number, bool grouped) {
     appendWhole(digits.text(), grouped, style.groupSize, text);
 }
 
-std::uint64_t denominatorLimit(const Style& style) {
-    std::uint64_t power = 1;
+/// The largest number of as many digits as the field says; at least 1, and no more than the search takes, which only
+/// more digits than the field is meant to hold could ask for.
+UInt128 denominatorLimit(const Style& style) {
+    UInt128 power = {0, 1};
     for (std::uint32_t i = getField(style.word, field::digits); i != 0; --i) {
-        if (power > largestDenominator / style.base) {
+        if (multiplyHigh(power, {0, style.base}) != UInt128{}) {
             return largestDenominator;
         }
-        power *= style.base;
+        power = multiplyLow(power, {0, style.base});
     }
-    return std::max<std::uint64_t>(power - 1, 1);
+    return std::clamp(power - UInt128{0, 1}, UInt128{0, 1}, largestDenominator);
 }
 
 void NumberWriter::writeFraction(Real magnitude, bool negative) {
@@ -264,33 +265,36 @@ void NumberWriter::writeFraction(Real magnitude, bool negative) {
         whole += 1;
     }
     const bool rational = kindOf(style.word) == FormatKind::Rational;
-    appendSign(negative, whole == 0 && fraction.numerator == 0);
-    if (fraction.numerator == 0 || (whole >= 1 && !rational)) {
+    const bool isWhole = fraction.numerator == UInt128{};
+    appendSign(negative, whole == 0 && isWhole);
+    if (isWhole || (whole >= 1 && !rational)) {
         DigitBuffer digits;
         if (whole != 0) {
             roundedDigits(whole, style.base, 0, digits);
         }
         appendPrefix();
-        appendNumber(digits, 0);
-        if (fraction.numerator == 0) {
+        // Under Rational a whole number is a numerator without its denominator.
+        appendWhole(whole != 0 ? digits.text() : "0", style.has(rational ? 'F' : 'W'), style.groupSize, text);
+        if (isWhole) {
             return;
         }
         text += ' ';
     }
-    // A whole part beside a fraction is below 2^63.
-    UInt128 numerator = {0, fraction.numerator};
+    UInt128 numerator = fraction.numerator;
     if (rational) {
-        numerator = numerator + multiply(static_cast<std::uint64_t>(whole), fraction.denominator);
+        // A whole part other than 0 beside a fraction is below 2^63, and the denominator no more than 2^63.
+        numerator = numerator + multiplyLow({0, static_cast<std::uint64_t>(whole)}, fraction.denominator);
     }
     appendPrefix();
     appendWholeNumber(numerator, style.has('F'));
     text += '/';
     appendPrefix();
-    appendWholeNumber({0, fraction.denominator}, style.has('F'));
+    appendWholeNumber(fraction.denominator, style.has('F'));
 }
 
 bool zeroedOut(Real x, NumericFormat word) {
-    return hasAttribute(word, 'I') && (word & field::zeroOut) != 0 && std::fabs(x) < insignificant;
+    // The one flag that counts in every kind.
+    return (word & field::zeroOut) != 0 && std::fabs(x) < insignificant;
 }
 
 }  // namespace

@@ -206,9 +206,13 @@ WideFloat wideExponential(const SignedWide& a) {
     constexpr Real logTwoOfE = 1.44269504088896340735992468100189214L;
     int k = static_cast<int>(std::floor(toReal(a) * logTwoOfE));
     UInt128 rest = sum - timesCount(lnTwo, k);
+    // Next to a multiple of ln 2 the rounding of a may have put k on either side.
     if (negativeSum(rest)) {
         --k;
         rest = rest + lnTwo;
+    } else if (rest >= lnTwo) {
+        ++k;
+        rest = rest - lnTwo;
     }
     const std::uint64_t j = rest.high >> (sumFractionBits - 64 - 7);
     const UInt128 s = shiftLeft(rest - UInt128{j << (sumFractionBits - 64 - 7), 0}, 128 - sumFractionBits);

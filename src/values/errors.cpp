@@ -53,4 +53,6 @@ void setErrorPosition(std::int32_t newPosition) { position = newPosition; }
     throw Except{code};
 }
 
+[[noreturn]] void raiseAt(ErrorCode code, std::size_t index) { raise(code, static_cast<std::int32_t>(index)); }
+
 }  // namespace calquo

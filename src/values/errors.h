@@ -1,6 +1,7 @@
 // The numbered errors of the engine with their messages, the exception that carries one, and the error position.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace calquo {
@@ -48,5 +49,8 @@ void setErrorPosition(std::int32_t position);
 
 /// Throws the error, after storing its position; a position of -1 leaves the stored one as it is.
 [[noreturn]] void raise(ErrorCode code, std::int32_t position = -1);
+
+/// Throws the error at an index of the line.
+[[noreturn]] void raiseAt(ErrorCode code, std::size_t index);
 
 }  // namespace calquo

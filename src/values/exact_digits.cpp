@@ -1,20 +1,14 @@
 // Digit generation by exact long division (Steele and White, How to Print Floating-Point Numbers Accurately, 1990).
 #include "values/exact_digits.h"
 
+#include "values/word_power.h"
+
 namespace calquo {
 namespace {
 
-std::uint32_t smallPower(std::uint32_t base, int exponent) {
-    std::uint32_t result = 1;
-    for (; exponent > 0; --exponent) {
-        result *= base;
-    }
-    return result;
-}
-
 int digitsInWord(std::uint32_t base) {
-    int count = 0;
-    for (std::uint64_t power = base; power <= UINT32_MAX; power *= base) {
+    int count = 1;
+    while (wordPower<std::uint32_t>(base, static_cast<std::uint64_t>(count) + 1)) {
         ++count;
     }
     return count;
@@ -32,7 +26,7 @@ ExactDigits::ExactDigits(UInt128 mantissa, int exponent, std::uint32_t numericBa
 }
 
 std::uint32_t ExactDigits::next(int count) {
-    rest.multiplyBy(smallPower(base, count));
+    rest.multiplyBy(*wordPower<std::uint32_t>(base, static_cast<std::uint64_t>(count)));
     return rest.divideBy(unit);
 }
 

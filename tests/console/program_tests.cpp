@@ -65,6 +65,8 @@ constexpr ProgramRow rows[] = {
     {"$CALQ $'1+1\\n1+2\\n'", 0, "2\n3\n"},
     {"$CALQ --nonsense 2>&1", 2,
      "calq: there is no option --nonsense; put -- before a line that begins with it\nTry calq --help.\n"},
+    {"$CALQ --decimal-mark , 1,5 2>&1", 0, "calq: \",\" has a meaning of its own; the decimal mark stays \".\"\n15\n"},
+    {"$CALQ --decimal-mark , --group-mark . 1.000,5 2>&1", 0, "1.000,5\n"},
     {"$CALQ --version", 0, "Calquo 2.0\n"},
     {"$CALQ --help | head -n 1", 0, "Usage: calq [OPTION...] [LINE...]\n"},
     {"cmp <($CALQ --seed 5 rnd) <($CALQ --seed 5 rnd)", 0, ""},
@@ -72,6 +74,8 @@ constexpr ProgramRow rows[] = {
 
     {"$CALQ 1+1 2>&1 >/dev/full", 2, "calq: cannot write the answers: No space left on device\n"},
     {"echo 1+1 | $CALQ 2>&1 >/dev/full", 2, "calq: cannot write the answers: No space left on device\n"},
+    {"(ulimit -v 1000000; { echo 6*7; cat /dev/zero; } | $CALQ 2>&1)", 2,
+     "42\ncalq: a line of standard input is longer than 64 MiB\n"},
     {"$CALQ 2>&1 </", 2, "calq: cannot read standard input: Is a directory\n"},
     {"$CALQ --check /no/such 2>&1", 2, "calq: cannot open /no/such: No such file or directory\n"},
 

@@ -1,6 +1,7 @@
 // Every name of the language with arguments that nobody would type: an answer or a clear error, never anything else.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 
 #include "engine/evaluator.h"
@@ -26,6 +27,19 @@ TEST_P(Names, AnswerHostileArguments) {
             EXPECT_LE(errorPosition(), static_cast<std::int32_t>(line.size())) << line.substr(0, 200);
         }
     }
+}
+
+TEST(NameTable, NamesFallIntoTheirArgumentClasses) {
+    std::map<ArgumentClass, int> counts;
+    for (std::size_t keyword = 1; keyword <= keywordCount; ++keyword) {
+        ++counts[classOf(keyword)];
+    }
+    const std::map<ArgumentClass, int> expected = {{ArgumentClass::None, 203},
+                                                   {ArgumentClass::One, 58},
+                                                   {ArgumentClass::Two, 21},
+                                                   {ArgumentClass::Three, 2},
+                                                   {ArgumentClass::List, 22}};
+    EXPECT_EQ(counts, expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, Names, testing::Range(std::size_t{1}, keywordCount + 1),

@@ -48,32 +48,35 @@ TEST(Digits, AreExactInEveryBase) {
 
 struct FractionRow {
     Real number;
-    std::uint64_t limit;
-    std::uint64_t numerator;
-    std::uint64_t denominator;
+    UInt128 limit;
+    UInt128 numerator;
+    UInt128 denominator;
 };
 
 // By hand, or found by trying every denominator.
 const FractionRow fractionRows[] = {
-    {0, 999, 0, 1},
-    {0.5L, 999, 1, 2},
-    {pi - 3, 9, 1, 7},
-    {pi - 3, 99, 14, 99},
-    {pi - 3, 999, 16, 113},
-    {0.0004L, 999, 0, 1},
-    {0.0006L, 999, 1, 999},
-    {0.99999L, 999, 1, 1},
-    {0.75L, 1, 1, 1},
-    {0.25L, 1, 0, 1},
-    {0x1p-62L, largestDenominator, 1, std::uint64_t{1} << 62},
-    {0x1p-70L, largestDenominator, 0, 1},
+    {0, {0, 999}, {0, 0}, {0, 1}},
+    {0.5L, {0, 999}, {0, 1}, {0, 2}},
+    {pi - 3, {0, 9}, {0, 1}, {0, 7}},
+    {pi - 3, {0, 99}, {0, 14}, {0, 99}},
+    {pi - 3, {0, 999}, {0, 16}, {0, 113}},
+    {0.0004L, {0, 999}, {0, 0}, {0, 1}},
+    {0.0006L, {0, 999}, {0, 1}, {0, 999}},
+    {0.99999L, {0, 999}, {0, 1}, {0, 1}},
+    {0.75L, {0, 1}, {0, 1}, {0, 1}},
+    {0.25L, {0, 1}, {0, 0}, {0, 1}},
+    {0x1p-62L, largestDenominator, {0, 1}, {0, std::uint64_t{1} << 62}},
+    {0x1p-70L, largestDenominator, {0, 1}, {std::uint64_t{1} << 6, 0}},
+    {0x1p-128L, largestDenominator, {0, 0}, {0, 1}},
+    {0x1.8p-128L, largestDenominator, {0, 1}, largestDenominator},
 };
 
 TEST(Fraction, IsTheClosestWithinTheLimit) {
     for (const FractionRow& row : fractionRows) {
         const Fraction found = closestFraction(row.number, row.limit);
         EXPECT_TRUE(found.numerator == row.numerator && found.denominator == row.denominator)
-            << row.number << " within " << row.limit << " gave " << found.numerator << "/" << found.denominator;
+            << row.number << " within " << row.limit.low << " gave " << found.numerator.low << "/"
+            << found.denominator.low;
     }
 }
 
@@ -82,8 +85,8 @@ TEST(Fraction, IsNoFurtherThanAnyOther) {
     for (int i = 0; i < 300; ++i) {
         const Real x = static_cast<Real>(random.word() >> 1) * 0x1p-63L;
         const auto limit = static_cast<std::uint64_t>(random.between(1, 300));
-        const Fraction found = closestFraction(x, limit);
-        ASSERT_LE(found.denominator, limit);
+        const Fraction found = closestFraction(x, {0, limit});
+        ASSERT_LE(found.denominator.low, limit);
         const auto distance = [&](std::uint64_t numerator, std::uint64_t denominator) {
             const Real difference = x - static_cast<Real>(numerator) / static_cast<Real>(denominator);
             return difference < 0 ? -difference : difference;
@@ -91,7 +94,7 @@ TEST(Fraction, IsNoFurtherThanAnyOther) {
         for (std::uint64_t denominator = 1; denominator <= limit; ++denominator) {
             const auto nearest = static_cast<std::uint64_t>(x * static_cast<Real>(denominator) + 0.5L);
             // The distances themselves are rounded.
-            ASSERT_LE(distance(found.numerator, found.denominator), distance(nearest, denominator) + 0x1p-62L)
+            ASSERT_LE(distance(found.numerator.low, found.denominator.low), distance(nearest, denominator) + 0x1p-62L)
                 << x << " within " << limit;
         }
     }

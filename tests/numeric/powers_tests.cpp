@@ -2,10 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <random>
 
-#include "numeric/checked_real.h"
 #include "numeric/exponential.h"
 
 namespace calquo {
@@ -48,6 +46,15 @@ TEST(Powers, OfWholeNumbersBelowTwoToThe63AreExact) {
     }
 }
 
+TEST(Powers, RootsOfPowersOfTwoAreExactOverTheWholeRange) {
+    for (int degree = -12; degree <= 12; ++degree) {
+        for (int result = -16000 / 12; degree != 0 && result <= 16000 / 12; ++result) {
+            const Value power(std::ldexp(Real(1), result * degree));
+            ASSERT_EQ(root(power, Value(degree)).re, std::ldexp(Real(1), result)) << result << ", degree " << degree;
+        }
+    }
+}
+
 TEST(Powers, OfTwoAndTenReachOverTheWholeRange) {
     for (int exponent = -16000; exponent < 16384; exponent += 61) {
         ASSERT_EQ(pow(Value(2), Value(exponent)).re, std::ldexp(Real(1), exponent));
@@ -65,58 +72,6 @@ TEST(Logarithm, NextToOneKeepsItsPrecision) {
     for (const Real t : {0x1p-63L, 0x1p-50L, 0x1.8p-40L, -0x1p-64L, -0x1p-45L}) {
         EXPECT_EQ(ln(Value(1 + t)).re, t - t * t / 2);
     }
-}
-
-struct CheckRow {
-    Real number;
-    CheckFlags flags;
-    ErrorCode code;  ///< InvalidExpression where nothing is refused
-};
-
-TEST(Checks, RefuseInAFixedOrder) {
-    const CheckFlags all = CheckFlags::NoFraction | CheckFlags::NoNegative | CheckFlags::NoZero | CheckFlags::NoOne;
-    const CheckRow rows[] = {
-        {positiveInfinity, CheckFlags::None, ErrorCode::DomainRange},
-        {-positiveInfinity, all, ErrorCode::DomainRange},
-        {-1.5L, all, ErrorCode::FractionNotAllowed},
-        {-1, all, ErrorCode::NegativeNotAllowed},
-        {0, all, ErrorCode::CannotBeZero},
-        {1, all, ErrorCode::CannotBeOne},
-        {-1.5L, CheckFlags::None, ErrorCode::InvalidExpression},
-        {2, all, ErrorCode::InvalidExpression},
-        {std::numeric_limits<Real>::quiet_NaN(), all, ErrorCode::InvalidExpression},
-    };
-    for (const CheckRow& row : rows) {
-        ErrorCode code = ErrorCode::InvalidExpression;
-        try {
-            checkNumber(row.number, row.flags | CheckFlags::Report);
-        } catch (const Except& error) {
-            code = error.code;
-            EXPECT_EQ(errorPosition(), 0);
-        }
-        EXPECT_EQ(code, row.code) << row.number;
-        EXPECT_EQ(checkNumber(row.number, row.flags), row.code == ErrorCode::InvalidExpression) << row.number;
-    }
-}
-
-TEST(Checks, TakeAValueApart) {
-    const Value literal = Value(1.5L, -2).at({3, 6, 9, 10});
-    const auto refusedAt = [](const auto& check) {
-        try {
-            check();
-        } catch (const Except&) {
-            return errorPosition();
-        }
-        return std::int32_t{-1};
-    };
-    const auto report = CheckFlags::Report;
-    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::RealOnly); }), 10);
-    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoFraction); }), 6);
-    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoNegative); }), 9);
-    EXPECT_EQ(refusedAt([&] { checkValue(literal, report | CheckFlags::NoZero); }), -1);
-    EXPECT_EQ(refusedAt([&] { requireReal(literal, report, 42); }), 42);
-    EXPECT_TRUE(checkValue(Value(0, 1), CheckFlags::NoZero));
-    EXPECT_FALSE(requireReal(Value(1, std::numeric_limits<Real>::quiet_NaN()), CheckFlags::None));
 }
 
 }  // namespace
