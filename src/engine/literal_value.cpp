@@ -72,7 +72,10 @@ constexpr std::array<Real, 28> powersOfTen = [] {
 /// base^exponent where the extended format holds it exactly.
 std::optional<Real> exactPower(std::uint32_t base, std::uint64_t exponent) {
     if (base == 10) {
-        return exponent < powersOfTen.size() ? std::optional(powersOfTen[exponent]) : std::nullopt;
+        if (exponent >= powersOfTen.size()) {
+            return std::nullopt;
+        }
+        return powersOfTen[static_cast<std::size_t>(exponent)];
     }
     const std::optional<std::uint64_t> power = wordPower(base, exponent);
     return power ? std::optional(static_cast<Real>(*power)) : std::nullopt;
