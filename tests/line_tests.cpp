@@ -56,11 +56,15 @@ const std::vector<LineFile>& lineFiles() {
     static const std::vector<LineFile> files = [] {
         std::vector<std::filesystem::path> paths;
         for (const auto& entry : std::filesystem::directory_iterator(CALQUO_TEST_LINES)) {
-            if (entry.path().extension() == ".txt") paths.push_back(entry.path());
+            if (entry.path().extension() == ".txt") {
+                paths.push_back(entry.path());
+            }
         }
         std::sort(paths.begin(), paths.end());
         std::vector<LineFile> all;
-        for (const auto& path : paths) all.push_back(readLineFile(path));
+        for (const auto& path : paths) {
+            all.push_back(readLineFile(path));
+        }
         return all;
     }();
     return files;
@@ -71,7 +75,9 @@ Options startRow(const Row& row) {
     std::vector<const char*> words = {"--decimal-mark", ".", "--group-mark", ","};
     applyToEngine(parseOptions(words));
     words = {"--record", "--position"};
-    for (const std::string& option : row.options) words.push_back(option.c_str());
+    for (const std::string& option : row.options) {
+        words.push_back(option.c_str());
+    }
     Options options = parseOptions(words);
     applyToEngine(options);
     return options;
@@ -82,7 +88,9 @@ std::string answerTo(const Row& row, const std::string& expression, std::size_t 
     const Options options = startRow(row);
     Answer answer;
     evaluateInto(answer, expression, options.format());
-    if (answer.failed) answer.position -= std::min(shift, answer.position);
+    if (answer.failed) {
+        answer.position -= std::min(shift, answer.position);
+    }
     std::string text;
     appendAnswer(text, answer, ErrorPlace::Shown);
     return text;
@@ -97,7 +105,9 @@ struct OutputBaseDirective {
 
 OutputBaseDirective directiveOf(const std::string& expression) {
     OutputBaseDirective directive;
-    if (expression.starts_with('\'')) directive.front = expression.substr(0, expression.find(' ') + 1);
+    if (expression.starts_with('\'')) {
+        directive.front = expression.substr(0, expression.find(' ') + 1);
+    }
     const std::size_t blank = expression.find_last_of(" \t");
     if (blank != std::string::npos && expression.compare(blank + 1, 1, "'") == 0) {
         directive.back = expression.substr(blank);
@@ -113,7 +123,9 @@ std::vector<Row> rowsOfPage(const std::filesystem::path& path) {
     std::string line;
     std::smatch cells;
     for (int number = 1; std::getline(stream, line); ++number) {
-        if (!std::regex_match(line, cells, tableRow)) continue;
+        if (!std::regex_match(line, cells, tableRow)) {
+            continue;
+        }
         rows.push_back(
             {path.filename().string() + ":" + std::to_string(number), cells.str(1) + " = " + cells.str(2), {}});
     }
@@ -153,7 +165,9 @@ TEST_P(Lines, MeanTheSameInCapitals) {
         const std::string expression = row.expression();
         std::string capitals = expression;
         for (char& character : capitals) {
-            if (character >= 'a' && character <= 'z') character = static_cast<char>(character - 'a' + 'A');
+            if (character >= 'a' && character <= 'z') {
+                character = static_cast<char>(character - 'a' + 'A');
+            }
         }
         EXPECT_EQ(answerTo(row, capitals), answerTo(row, expression)) << row.place;
     }
@@ -164,7 +178,9 @@ TEST_P(Lines, MeanTheSameInParentheses) {
         const std::string expression = row.expression();
         const std::string answer = answerTo(row, expression);
         const OutputBaseDirective directive = directiveOf(expression);
-        if (isError(answer) || !directive.front.empty() || !directive.back.empty()) continue;
+        if (isError(answer) || !directive.front.empty() || !directive.back.empty()) {
+            continue;
+        }
         EXPECT_EQ(answerTo(row, "(" + expression + ")"), answer) << row.place;
     }
 }
@@ -174,7 +190,9 @@ TEST_P(Lines, ResultsTypedBackStayTheSame) {
         const std::string expression = row.expression();
         const std::string answer = answerTo(row, expression);
         const bool isMixedFraction = answer.find(' ') != std::string::npos && answer.find('/') != std::string::npos;
-        if (isError(answer) || isMixedFraction) continue;
+        if (isError(answer) || isMixedFraction) {
+            continue;
+        }
         const OutputBaseDirective directive = directiveOf(expression);
         EXPECT_EQ(answerTo(row, directive.front + answer + directive.back), answer) << row.place;
     }
@@ -201,19 +219,25 @@ std::set<std::string> namesIn(const std::string& line) {
 
 std::string joined(const std::set<std::string>& words) {
     std::string text;
-    for (const std::string& word : words) text += word + " ";
+    for (const std::string& word : words) {
+        text += word + " ";
+    }
     return text;
 }
 
 TEST(LineCoverage, EveryNameOfTheLanguageStandsInSomeRow) {
     std::set<std::string> used;
     for (const LineFile& file : lineFiles()) {
-        for (const Row& row : file.rows) used.merge(namesIn(row.expression()));
+        for (const Row& row : file.rows) {
+            used.merge(namesIn(row.expression()));
+        }
     }
     std::set<std::string> unused;
     for (std::size_t index = 1; index <= keywordCount; ++index) {
         const std::set<std::string> name = namesIn(std::string(nameOf(index)));
-        if (!used.contains(*name.begin())) unused.insert(*name.begin());
+        if (!used.contains(*name.begin())) {
+            unused.insert(*name.begin());
+        }
     }
     EXPECT_TRUE(unused.empty()) << unused.size() << " names without a row: " << joined(unused);
 }
@@ -223,15 +247,21 @@ TEST(LineCoverage, EveryErrorOfTheEngineEndsSomeRow) {
     for (const LineFile& file : lineFiles()) {
         for (const Row& row : file.rows) {
             const std::string answer = answerTo(row, row.expression());
-            if (isError(answer)) seen.insert(answer.substr(0, answer.find(')') + 1));
+            if (isError(answer)) {
+                seen.insert(answer.substr(0, answer.find(')') + 1));
+            }
         }
     }
     std::set<std::string> unseen;
     for (std::uint32_t code = 1; code <= static_cast<std::uint32_t>(ErrorCode::DivisionByZero); ++code) {
         // Code 5 tells of a fault of the program itself; no line may lead there.
-        if (static_cast<ErrorCode>(code) == ErrorCode::InternalFault) continue;
+        if (static_cast<ErrorCode>(code) == ErrorCode::InternalFault) {
+            continue;
+        }
         const std::string answer = std::string("Error (") + errorMessage(code) + ")";
-        if (!seen.contains(answer)) unseen.insert(answer);
+        if (!seen.contains(answer)) {
+            unseen.insert(answer);
+        }
     }
     EXPECT_TRUE(unseen.empty()) << "errors without a row: " << joined(unseen);
 }

@@ -38,7 +38,9 @@ OutputStream::OutputStream(int outputFile) : file(outputFile), enough(isTerminal
 }
 
 void OutputStream::lineEnded() {
-    if (pending.size() >= enough) flush();
+    if (pending.size() >= enough) {
+        flush();
+    }
 }
 
 void OutputStream::flush() {
@@ -46,8 +48,12 @@ void OutputStream::flush() {
     while (written < pending.size()) {
         const std::size_t count = std::min(pending.size() - written, pieceSize);
         const auto result = ::write(file, pending.data() + written, static_cast<unsigned>(count));
-        if (result < 0 && errno != EINTR) fail("cannot write the answers");
-        if (result > 0) written += static_cast<std::size_t>(result);
+        if (result < 0 && errno != EINTR) {
+            fail("cannot write the answers");
+        }
+        if (result > 0) {
+            written += static_cast<std::size_t>(result);
+        }
     }
     pending.clear();
 }
@@ -64,15 +70,21 @@ bool LineReader::readMore() {
         start = 0;
     }
     if (end == buffer.size()) {
-        if (buffer.size() >= longestLine) throw StreamFault{"a line of " + name + " is longer than 64 MiB"};
+        if (buffer.size() >= longestLine) {
+            throw StreamFault{"a line of " + name + " is longer than 64 MiB"};
+        }
         buffer.resize(2 * buffer.size());
     }
     output.flush();
     for (;;) {
         const std::size_t room = std::min(buffer.size() - end, pieceSize);
         const auto result = ::read(file, buffer.data() + end, static_cast<unsigned>(room));
-        if (result < 0 && errno == EINTR) continue;
-        if (result < 0) fail("cannot read " + name);
+        if (result < 0 && errno == EINTR) {
+            continue;
+        }
+        if (result < 0) {
+            fail("cannot read " + name);
+        }
         end += static_cast<std::size_t>(result);
         return result > 0;
     }
@@ -84,21 +96,33 @@ bool LineReader::next(std::string_view& line) {
     for (;;) {
         const char* from = buffer.data() + start + length;
         lineEnd = static_cast<const char*>(std::memchr(from, '\n', end - start - length));
-        if (lineEnd != nullptr) break;
+        if (lineEnd != nullptr) {
+            break;
+        }
         length = end - start;
-        if (!readMore()) break;
+        if (!readMore()) {
+            break;
+        }
     }
-    if (lineEnd == nullptr && length == 0) return false;
+    if (lineEnd == nullptr && length == 0) {
+        return false;
+    }
     const char* lineStart = buffer.data() + start;
-    if (lineEnd != nullptr) length = static_cast<std::size_t>(lineEnd - lineStart);
+    if (lineEnd != nullptr) {
+        length = static_cast<std::size_t>(lineEnd - lineStart);
+    }
     start += length + (lineEnd != nullptr ? 1 : 0);
-    if (length > 0 && lineStart[length - 1] == '\r') --length;
+    if (length > 0 && lineStart[length - 1] == '\r') {
+        --length;
+    }
     line = std::string_view(lineStart, length);
     return true;
 }
 
 InputFile::InputFile(const std::string& path) : file(::open(path.c_str(), O_RDONLY)) {
-    if (file < 0) fail("cannot open " + path);
+    if (file < 0) {
+        fail("cannot open " + path);
+    }
 }
 
 InputFile::~InputFile() { ::close(file); }

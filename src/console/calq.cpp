@@ -15,8 +15,12 @@ constexpr int someFailed = 1;
 constexpr int notDone = 2;
 
 std::string_view withoutBlanksAround(std::string_view text) {
-    while (!text.empty() && static_cast<unsigned char>(text.front()) <= ' ') text.remove_prefix(1);
-    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
+    while (!text.empty() && static_cast<unsigned char>(text.front()) <= ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') {
+        text.remove_suffix(1);
+    }
     return text;
 }
 
@@ -26,9 +30,13 @@ void forEachLine(std::string_view text, TakeLine take) {
     for (;;) {
         const std::size_t lineEnd = text.find('\n');
         std::string_view line = text.substr(0, lineEnd);
-        if (line.ends_with('\r')) line.remove_suffix(1);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
         take(line);
-        if (lineEnd == std::string_view::npos || lineEnd + 1 == text.size()) return;
+        if (lineEnd == std::string_view::npos || lineEnd + 1 == text.size()) {
+            return;
+        }
         text.remove_prefix(lineEnd + 1);
     }
 }
@@ -41,7 +49,9 @@ int answerArguments(const Options& options, OutputStream& output) {
         forEachLine(argument, [&](std::string_view line) {
             const bool answered = answerer.answer(line, output.text());
             output.lineEnded();
-            if (answered) return;
+            if (answered) {
+                return;
+            }
             status = someFailed;
             if (showsCaret) {
                 output.flush();
@@ -69,7 +79,9 @@ bool checkFile(LineAnswerer& answerer, int file, const std::string& name, Output
     bool allSame = true;
     std::string_view line;
     for (std::size_t number = 1; reader.next(line); ++number) {
-        if (!answerer.check(line, name + ":" + std::to_string(number), output.text())) allSame = false;
+        if (!answerer.check(line, name + ":" + std::to_string(number), output.text())) {
+            allSame = false;
+        }
         output.lineEnded();
     }
     output.flush();
@@ -79,11 +91,15 @@ bool checkFile(LineAnswerer& answerer, int file, const std::string& name, Output
 int checkRecords(const Options& options, OutputStream& output) {
     LineAnswerer answerer(options);
     bool allSame = true;
-    if (options.operands.empty()) allSame = checkFile(answerer, standardInput, "standard input", output);
+    if (options.operands.empty()) {
+        allSame = checkFile(answerer, standardInput, "standard input", output);
+    }
     for (const std::string_view operand : options.operands) {
         const std::string path(operand);
         const InputFile file(path);
-        if (!checkFile(answerer, file.descriptor(), path, output)) allSame = false;
+        if (!checkFile(answerer, file.descriptor(), path, output)) {
+            allSame = false;
+        }
     }
     return allSame ? allWell : someFailed;
 }
@@ -108,7 +124,9 @@ int runWith(const Options& options, OutputStream& output) {
     applyToEngine(options);
     reportRefusedMark(options.decimalMark, TokenClass::DecimalMark, "decimal");
     reportRefusedMark(options.groupMark, TokenClass::GroupMark, "group");
-    if (options.check) return checkRecords(options, output);
+    if (options.check) {
+        return checkRecords(options, output);
+    }
     return options.operands.empty() ? answerStandardInput(options, output) : answerArguments(options, output);
 }
 
@@ -143,11 +161,15 @@ const std::string& LineAnswerer::answerText(ErrorPlace shownOrHidden) {
 bool LineAnswerer::check(std::string_view line, std::string_view recordPlace, std::string& output) {
     const std::size_t equals = line.find('=');
     const std::string_view expression = expressionOf(line);
-    if (equals == std::string_view::npos || expression.empty()) return true;
+    if (equals == std::string_view::npos || expression.empty()) {
+        return true;
+    }
     const std::string_view saved = withoutBlanksAround(line.substr(equals + 1));
 
     evaluateInto(latest, expression, format);
-    if (saved == answerText(ErrorPlace::Hidden) || saved == answerText(ErrorPlace::Shown)) return true;
+    if (saved == answerText(ErrorPlace::Hidden) || saved == answerText(ErrorPlace::Shown)) {
+        return true;
+    }
     output.append(recordPlace).append(": ").append(expression).append(" = ").append(saved);
     output.append(" (now ").append(answerText(place)).append(")\n");
     return false;
@@ -158,7 +180,9 @@ std::string lineWithCaret(std::string_view line, std::size_t position) {
     text += '\n';
     for (const char character : line.substr(0, position)) {
         const bool continuesCharacter = (static_cast<unsigned char>(character) & 0xC0) == 0x80;
-        if (!continuesCharacter) text += character == '\t' ? '\t' : ' ';
+        if (!continuesCharacter) {
+            text += character == '\t' ? '\t' : ' ';
+        }
     }
     text += "^\n";
     return text;

@@ -14,7 +14,9 @@ namespace {
 FormatKind readKind(std::string_view text) {
     const auto found = std::find_if(formatKinds.begin(), formatKinds.end(),
                                     [text](const FormatKindRow& row) { return row.optionName == text; });
-    if (found == formatKinds.end()) throw OptionFault{"there is no format \"" + std::string(text) + "\""};
+    if (found == formatKinds.end()) {
+        throw OptionFault{"there is no format \"" + std::string(text) + "\""};
+    }
     return static_cast<FormatKind>(found - formatKinds.begin());
 }
 
@@ -24,7 +26,9 @@ std::optional<Natural> readNatural(std::string_view text, int base) {
     Natural value{};
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value, base);
-    if (error != std::errc{} || stop != end) return std::nullopt;
+    if (error != std::errc{} || stop != end) {
+        return std::nullopt;
+    }
     return value;
 }
 
@@ -48,7 +52,9 @@ char readMark(std::string_view text) {
 
 std::uint64_t readSeed(std::string_view text) {
     const std::optional<std::uint64_t> seed = readNatural<std::uint64_t>(text, 10);
-    if (!seed) throw OptionFault{"a seed is a whole number below 2^64, not \"" + std::string(text) + "\""};
+    if (!seed) {
+        throw OptionFault{"a seed is a whole number below 2^64, not \"" + std::string(text) + "\""};
+    }
     return *seed;
 }
 
@@ -99,7 +105,9 @@ void setBothMarks(char decimalMark, char groupMark) {
     setMarkCharacter(TokenClass::DecimalMark, decimalMark);
     setMarkCharacter(TokenClass::GroupMark, groupMark);
     // A refused group mark goes back to what it was, and when the decimal mark has taken that, both do.
-    if (markCharacter(TokenClass::GroupMark) == waiting) setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    if (markCharacter(TokenClass::GroupMark) == waiting) {
+        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    }
     if (markCharacter(TokenClass::GroupMark) == waiting) {
         setMarkCharacter(TokenClass::DecimalMark, oldDecimal);
         setMarkCharacter(TokenClass::GroupMark, oldGroup);
@@ -127,7 +135,9 @@ Options parseOptions(std::span<const char* const> arguments) {
         const bool joined = equals != std::string_view::npos;
         const std::string_view spelling = word.substr(0, equals);
         const OptionRow& row = findOption(spelling.substr(2));
-        if (row.argument.empty() && joined) throw OptionFault{std::string(spelling) + " takes no argument"};
+        if (row.argument.empty() && joined) {
+            throw OptionFault{std::string(spelling) + " takes no argument"};
+        }
         std::string_view argument = joined ? word.substr(equals + 1) : std::string_view();
         if (!row.argument.empty() && !joined) {
             if (++index == arguments.size()) {
@@ -137,7 +147,9 @@ Options parseOptions(std::span<const char* const> arguments) {
         }
         row.apply(options, argument);
     }
-    if (options.check && options.record) throw OptionFault{"--check and --record exclude each other"};
+    if (options.check && options.record) {
+        throw OptionFault{"--check and --record exclude each other"};
+    }
     return options;
 }
 
@@ -151,17 +163,23 @@ std::string helpText() {
         "The text from the first \"=\" on is ignored, so that records can be evaluated again.\n\n";
     for (const OptionRow& row : optionTable) {
         std::string lead = "  --" + std::string(row.name);
-        if (!row.argument.empty()) lead += " " + std::string(row.argument);
+        if (!row.argument.empty()) {
+            lead += " " + std::string(row.argument);
+        }
         lead.resize(textColumn, ' ');
         text += lead;
         for (const char character : row.help) {
             text += character;
-            if (character == '\n') text.append(textColumn, ' ');
+            if (character == '\n') {
+                text.append(textColumn, ' ');
+            }
         }
         text += '\n';
     }
     text += "  --                  take everything that follows for LINEs\n\nKINDs:";
-    for (const FormatKindRow& kind : formatKinds) text.append(" ").append(kind.optionName);
+    for (const FormatKindRow& kind : formatKinds) {
+        text.append(" ").append(kind.optionName);
+    }
     text +=
         "\n\n"
         "Exit status: 0 when all went well; 1 when a LINE of the command line has an error, or\n"

@@ -40,7 +40,9 @@ struct MainWindow::Procedure {
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
         description.lpszClassName = name.c_str();
-        if (RegisterClassW(&description) == 0) raise(ErrorCode::InternalFault);
+        if (RegisterClassW(&description) == 0) {
+            raise(ErrorCode::InternalFault);
+        }
     }
 };
 
@@ -63,7 +65,9 @@ MainWindow::MainWindow() {
     window_ = WindowOwner(CreateWindowExW(
         WS_EX_APPWINDOW, title.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
-    if (!window_) raise(ErrorCode::InternalFault);
+    if (!window_) {
+        raise(ErrorCode::InternalFault);
+    }
     workArea_ = std::make_unique<WorkArea>(handle(), number(Command::WorkArea), number(Command::HelpContents));
     SetWindowLongPtrW(handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     layOut();
@@ -71,7 +75,9 @@ MainWindow::MainWindow() {
 
 MainWindow::~MainWindow() {
     // The last messages still need the handle; the final one gives it up.
-    if (window_) destroyWindow(handle());
+    if (window_) {
+        destroyWindow(handle());
+    }
     UnregisterClassW(programTitleWide().c_str(), GetModuleHandleW(nullptr));
 }
 
@@ -82,7 +88,9 @@ void MainWindow::show(int showCommand) {
 
 std::optional<MessageAnswer> MainWindow::hear(const Message& message) {
     for (const MessageRow& row : messageRows) {
-        if (row.code == message.code) return (this->*row.hear)(message);
+        if (row.code == message.code) {
+            return (this->*row.hear)(message);
+        }
     }
     return std::nullopt;
 }

@@ -11,9 +11,13 @@ namespace calquo {
 struct Component::Procedure {
     static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
         auto* const component = reinterpret_cast<Component*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-        if (component == nullptr) return DefWindowProcW(window, code, wide, extra);
+        if (component == nullptr) {
+            return DefWindowProcW(window, code, wide, extra);
+        }
         const Message message{code, wide, extra};
-        if (code == WM_NCDESTROY) return component->forgetWindow(message);
+        if (code == WM_NCDESTROY) {
+            return component->forgetWindow(message);
+        }
         // A message whose filter failed counts as dealt with.
         const auto answer = keepingExceptions(std::optional<MessageAnswer>(0), [&] {
             return component->filter_ ? component->filter_(message) : std::nullopt;
@@ -35,7 +39,9 @@ Component::Component(const Creation& creation, MessageFilter filter)
     window_ = WindowOwner(CreateWindowExW(creation.extendedStyle, creation.systemClass, L"",
                                           WS_CHILD | WS_VISIBLE | creation.style, 0, 0, 0, 0, parent_, identifier,
                                           GetModuleHandleW(nullptr), nullptr));
-    if (!window_) raise(ErrorCode::InternalFault);
+    if (!window_) {
+        raise(ErrorCode::InternalFault);
+    }
     Procedure::install(*this);
 }
 
@@ -43,7 +49,9 @@ Component::~Component() {
     // From here on the derived parts that the filter speaks to are gone.
     filter_ = nullptr;
     // The last messages still need the handle; the final one gives it up.
-    if (window_) destroyWindow(handle());
+    if (window_) {
+        destroyWindow(handle());
+    }
 }
 
 void Component::giveFocus() { SetFocus(handle()); }

@@ -33,7 +33,9 @@ public:
     Handle release() { return std::exchange(handle_, nullptr); }
     void reset(Handle handle = nullptr) {
         const Handle old = std::exchange(handle_, handle);
-        if (old != nullptr) dispose(old);
+        if (old != nullptr) {
+            dispose(old);
+        }
     }
 
 private:

@@ -32,7 +32,9 @@ constexpr int margin = 8;  // at 96 dots per inch
 bool prepareControl() {
     static const LibraryOwner library(LoadLibraryW(controlLibrary));
     WNDCLASSW description{};
-    if (!library || GetClassInfoW(nullptr, unicodeClass, &description) == 0) return false;
+    if (!library || GetClassInfoW(nullptr, unicodeClass, &description) == 0) {
+        return false;
+    }
     description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
     description.hInstance = GetModuleHandleW(nullptr);
     description.lpszClassName = controlClass;
@@ -42,7 +44,9 @@ bool prepareControl() {
 /// The name of the control's class, ready to be used.
 const wchar_t* preparedControl() {
     static const bool ready = prepareControl();
-    if (!ready) raise(ErrorCode::InternalFault);
+    if (!ready) {
+        raise(ErrorCode::InternalFault);
+    }
     return controlClass;
 }
 
@@ -164,20 +168,26 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
 
 std::optional<MessageAnswer> TextArea::hear(const Message& message) {
     for (const MessageRow& row : messageRows) {
-        if (row.code == message.code) return (this->*row.hear)(message);
+        if (row.code == message.code) {
+            return (this->*row.hear)(message);
+        }
     }
     return otherMessages_ ? otherMessages_(message) : std::nullopt;
 }
 
 std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
     const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
-    if (keys_ && keys_({static_cast<std::uint32_t>(message.wide), modified})) return 0;
+    if (keys_ && keys_({static_cast<std::uint32_t>(message.wide), modified})) {
+        return 0;
+    }
     return std::nullopt;
 }
 
 std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
     // The Enter key has done its work when it went down.
-    if (message.wide == L'\r' || message.wide == L'\n') return 0;
+    if (message.wide == L'\r' || message.wide == L'\n') {
+        return 0;
+    }
     typeInNormalStyle();
     return std::nullopt;
 }
@@ -195,7 +205,9 @@ void TextArea::chooseLook() {
 void TextArea::typeInNormalStyle() {
     // Typing takes the look of its neighbour, which may be a result. Selected text keeps its own.
     const TextRange selected = selection();
-    if (selected.begin != selected.end || styleAtCaret(handle()) == normal_) return;
+    if (selected.begin != selected.end || styleAtCaret(handle()) == normal_) {
+        return;
+    }
     CHARFORMAT2W format = formatOf(normal_);
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
@@ -214,7 +226,9 @@ TextRange TextArea::selection() const {
 }
 
 void TextArea::select(TextRange range) {
-    if (range == selection()) return;  // the control searches for a position from the text's start
+    if (range == selection()) {
+        return;  // the control searches for a position from the text's start
+    }
     CHARRANGE wanted{range.begin, range.end};
     SendMessageW(handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&wanted));
 }
@@ -238,7 +252,9 @@ Paragraph TextArea::paragraphAt(std::int32_t position) const {
         const std::size_t endBehind = around.find(L'\r', split);
         const bool reachesBack = endBefore != std::wstring::npos || begin == 0;
         const bool reachesOn = endBehind != std::wstring::npos || begin + std::ssize(around) < end;
-        if (!reachesBack || !reachesOn) continue;
+        if (!reachesBack || !reachesOn) {
+            continue;
+        }
         const std::size_t first = endBefore == std::wstring::npos ? 0 : endBefore + 1;
         const std::size_t last = std::min(endBehind, around.size());
         const auto start = static_cast<std::int32_t>(begin);

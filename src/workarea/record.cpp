@@ -16,7 +16,9 @@ constexpr std::string_view equalsJoint = " = ";
 /// `text` without its trailing blanks and control characters.
 std::string_view withoutTrailingBlanks(std::string_view text) {
     std::size_t length = text.size();
-    while (length > 0 && static_cast<unsigned char>(text[length - 1]) <= ' ') --length;
+    while (length > 0 && static_cast<unsigned char>(text[length - 1]) <= ' ') {
+        --length;
+    }
     return text.substr(0, length);
 }
 
@@ -62,7 +64,9 @@ std::string_view expressionOf(std::string_view line) {
         return expression.empty() ? line : expression;
     }
     // Deliberate: a single character in front of "=" is no expression either.
-    if (equals <= 1) return line.substr(0, 0);
+    if (equals <= 1) {
+        return line.substr(0, 0);
+    }
     return withoutTrailingBlanks(line.substr(0, equals));
 }
 
@@ -87,33 +91,49 @@ void appendAnswer(std::string& output, const Answer& answer, ErrorPlace place) {
     output += "Error (";
     output += errorMessage(answer.error);
     output += ')';
-    if (place == ErrorPlace::Shown) output += " at " + std::to_string(answer.position);
+    if (place == ErrorPlace::Shown) {
+        output += " at " + std::to_string(answer.position);
+    }
 }
 
 void appendRecord(std::string& output, std::string_view expression, const Answer& answer, ErrorPlace place) {
     output += expression;
-    if (!answer.failed && answer.text == expression) return;
+    if (!answer.failed && answer.text == expression) {
+        return;
+    }
     output += equalsJoint;
     appendAnswer(output, answer, place);
 }
 
 LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
-    if (line.empty()) return editForNewLine(line, 0);
+    if (line.empty()) {
+        return editForNewLine(line, 0);
+    }
     const std::string_view expression = expressionOf(line);
-    if (expression.empty()) return {};
+    if (expression.empty()) {
+        return {};
+    }
     Answer answer;
     evaluateInto(answer, expression, format);
-    if (answer.failed) return editForError(line, expression.size(), answer);
-    if (answer.text == expression) return editForNewLine(line, expression.size());
+    if (answer.failed) {
+        return editForError(line, expression.size(), answer);
+    }
+    if (answer.text == expression) {
+        return editForNewLine(line, expression.size());
+    }
     return editForResult(line, expression.size(), answer);
 }
 
 LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format) {
     const std::string_view expression = expressionOf(line);
-    if (expression.empty()) return {};
+    if (expression.empty()) {
+        return {};
+    }
     Answer answer;
     evaluateInto(answer, expression, format);
-    if (answer.failed) return editForError(line, expression.size(), answer);
+    if (answer.failed) {
+        return editForError(line, expression.size(), answer);
+    }
     const std::size_t caret = begin + answer.text.size();
     return {true, begin, end, {{std::move(answer.text), TextStyle::Normal}}, caret};
 }

@@ -77,7 +77,9 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t hel
 
 bool WorkArea::hearKey(const KeyPress& press) {
     for (const KeyRow& row : keyRows) {
-        if (row.key != press.key || !fits(row.modifiers, press.modified)) continue;
+        if (row.key != press.key || !fits(row.modifiers, press.modified)) {
+            continue;
+        }
         (this->*row.act)();
         return true;
     }
@@ -85,7 +87,9 @@ bool WorkArea::hearKey(const KeyPress& press) {
 }
 
 std::optional<MessageAnswer> WorkArea::hearQuery(const Message& message) const {
-    if (message.code != resultReplaceQuery) return std::nullopt;
+    if (message.code != resultReplaceQuery) {
+        return std::nullopt;
+    }
     return resultReplaces_ ? 1 : 0;
 }
 
@@ -109,7 +113,9 @@ void WorkArea::evaluateIntoSelection() {
 void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0); }
 
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
-    if (!edit.changes) return;
+    if (!edit.changes) {
+        return;
+    }
     std::vector<StyledRun> runs(edit.pieces.size());
     std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
     const auto place = [&](std::size_t offset) { return line.range.begin + static_cast<std::int32_t>(offset); };

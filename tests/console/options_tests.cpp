@@ -20,7 +20,9 @@ std::vector<std::string> split(const std::string& text) {
 /// The options of a command line that is written with blanks between its arguments; `arguments` keeps them alive.
 Options parse(const std::vector<std::string>& arguments) {
     std::vector<const char*> pointers;
-    for (const std::string& argument : arguments) pointers.push_back(argument.c_str());
+    for (const std::string& argument : arguments) {
+        pointers.push_back(argument.c_str());
+    }
     return parseOptions(pointers);
 }
 
@@ -54,7 +56,9 @@ TEST(Options, FormatWordsOverrideFormatsWhereverTheyStand) {
         {"--format=rational --word=4480200C", 0x4480200C},
         {"--word 0", 0},
     };
-    for (const Row& row : rows) EXPECT_EQ(parse(split(row.line)).format(), row.format) << row.line;
+    for (const Row& row : rows) {
+        EXPECT_EQ(parse(split(row.line)).format(), row.format) << row.line;
+    }
 }
 
 TEST(Options, WrongOnesAreNamed) {
@@ -80,7 +84,9 @@ TEST(Options, WrongOnesAreNamed) {
         {"--seed 18446744073709551616", "below 2^64"},
         {"--check --record", "exclude"},
     };
-    for (const Row& row : rows) EXPECT_NE(faultOf(row.line).find(row.part), std::string::npos) << row.line;
+    for (const Row& row : rows) {
+        EXPECT_NE(faultOf(row.line).find(row.part), std::string::npos) << row.line;
+    }
     EXPECT_EQ(faultOf("--seed 18446744073709551615"), "none");
 }
 
@@ -112,7 +118,9 @@ TEST(Options, MarksTakeFreeCharactersAndMayChangePlaces) {
         {"--decimal-mark + --group-mark #", ".#"},
         {"--decimal-mark # --group-mark #", "#,"},
     };
-    for (const Row& row : rows) EXPECT_EQ(marksAfter(row.line), row.marks) << row.line;
+    for (const Row& row : rows) {
+        EXPECT_EQ(marksAfter(row.line), row.marks) << row.line;
+    }
 }
 
 TEST(Options, CaretStandsUnderTheMistakeWhateverTheWidthOfWhatPrecedes) {

@@ -16,7 +16,9 @@ struct Outcome {
 /// `text` as one word of a shell.
 std::string quoted(const std::string& text) {
     std::string word = "'";
-    for (const char character : text) word += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    for (const char character : text) {
+        word += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    }
     return word + "'";
 }
 
@@ -24,10 +26,14 @@ std::string quoted(const std::string& text) {
 Outcome run(const std::string& command) {
     const std::string line = "CALQ=" + quoted(CALQUO_PROGRAM) + " bash -c " + quoted(command);
     std::FILE* pipe = popen(line.c_str(), "r");
-    if (pipe == nullptr) return {-1, "bash did not start"};
+    if (pipe == nullptr) {
+        return {-1, "bash did not start"};
+    }
     std::string output;
     char piece[4096];
-    for (std::size_t count; (count = std::fread(piece, 1, sizeof piece, pipe)) > 0;) output.append(piece, count);
+    for (std::size_t count; (count = std::fread(piece, 1, sizeof piece, pipe)) > 0;) {
+        output.append(piece, count);
+    }
     const int status = pclose(pipe);
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
 }

@@ -28,45 +28,60 @@ constexpr std::uint64_t largePrimes[] = {4294967291U, 4294967279U};
 
 std::vector<Value> toValues(const Words& words) {
     std::vector<Value> values;
-    for (const std::uint64_t word : words) values.emplace_back(static_cast<Real>(word));
+    for (const std::uint64_t word : words) {
+        values.emplace_back(static_cast<Real>(word));
+    }
     return values;
 }
 
 std::string show(const Words& words) {
     std::string text;
-    for (const std::uint64_t word : words) text += std::to_string(word) + ' ';
+    for (const std::uint64_t word : words) {
+        text += std::to_string(word) + ' ';
+    }
     return text;
 }
 
 bool isPrimeByTrial(std::uint64_t n) {
-    if (n < 2) return false;
+    if (n < 2) {
+        return false;
+    }
     for (std::uint64_t divisor = 2; divisor * divisor <= n; ++divisor) {
-        if (n % divisor == 0) return false;
+        if (n % divisor == 0) {
+            return false;
+        }
     }
     return true;
 }
 
 std::uint64_t nextByTrial(std::uint64_t n) {
-    do ++n;
-    while (!isPrimeByTrial(n));
+    do {
+        ++n;
+    } while (!isPrimeByTrial(n));
     return n;
 }
 
 /// The search that gcf abridges: divide by one prime after another until an item is not above the prime.
 std::uint64_t walkedFactor(Words items) {
-    if (items.empty()) return 0;
+    if (items.empty()) {
+        return 0;
+    }
     std::uint64_t result = 1;
     std::uint64_t prime = 2;
     for (bool done = false; !done;) {
         bool divisible = true;
         for (std::size_t index = 0; divisible && index < items.size(); ++index) {
-            if (items[index] <= prime) done = true;
+            if (items[index] <= prime) {
+                done = true;
+            }
             divisible = items[index] % prime == 0;
         }
         if (divisible) {
             result *= prime;
             if (!done) {
-                for (std::uint64_t& item : items) item /= prime;
+                for (std::uint64_t& item : items) {
+                    item /= prime;
+                }
             }
         } else if (!done) {
             prime = nextByTrial(prime);
@@ -77,7 +92,9 @@ std::uint64_t walkedFactor(Words items) {
 
 /// The search that lcm abridges: strip one prime after another from all items, until only 0 and 1 are left.
 std::uint64_t walkedMultiple(Words items) {
-    if (items.empty()) return 0;
+    if (items.empty()) {
+        return 0;
+    }
     std::uint64_t result = 1;
     std::uint64_t prime = 2;
     while (std::ranges::any_of(items, [](std::uint64_t item) { return item >= 2; })) {
@@ -109,12 +126,16 @@ TEST(Divisors, FewSmallItemsInEveryOrderAgreeWithTheWalk) {
     constexpr std::uint64_t pairLimit = 130;
     for (std::uint64_t a = 0; a < pairLimit; ++a) {
         expectAsWalked({a});
-        for (std::uint64_t b = 0; b < pairLimit; ++b) expectAsWalked({a, b});
+        for (std::uint64_t b = 0; b < pairLimit; ++b) {
+            expectAsWalked({a, b});
+        }
     }
     constexpr std::uint64_t tripleLimit = 31;
     for (std::uint64_t a = 0; a < tripleLimit; ++a) {
         for (std::uint64_t b = 0; b < tripleLimit; ++b) {
-            for (std::uint64_t c = 0; c < tripleLimit; ++c) expectAsWalked({a, b, c});
+            for (std::uint64_t c = 0; c < tripleLimit; ++c) {
+                expectAsWalked({a, b, c});
+            }
         }
     }
 }
@@ -125,7 +146,9 @@ TEST(Divisors, LongerListsAgreeWithTheWalk) {
         const std::uint64_t common = 1 + generator() % 60;
         Words words(static_cast<std::size_t>(1 + generator() % 7));
         // Now and then a zero, whose place decides what gcf answers.
-        for (std::uint64_t& word : words) word = generator() % 6 == 0 ? 0 : common * (1 + generator() % 500);
+        for (std::uint64_t& word : words) {
+            word = generator() % 6 == 0 ? 0 : common * (1 + generator() % 500);
+        }
         expectAsWalked(words);
     }
 }
@@ -139,7 +162,9 @@ TEST(Divisors, MultiplesBeyondAWordWrapAsTheWalkDoes) {
     std::mt19937_64 generator(7);
     for (int list = 0; list < 200; ++list) {
         Words sample(static_cast<std::size_t>(2 + generator() % 20));
-        for (std::uint64_t& word : sample) word = generator() % 5000;
+        for (std::uint64_t& word : sample) {
+            word = generator() % 5000;
+        }
         expectAsWalked(sample);
     }
 }
@@ -159,7 +184,9 @@ TEST(Divisors, ProductOfDivisorAndMultipleIsTheProductOfBoth) {
 }
 
 TEST(Divisors, PrimesOfAllSizesAreFoundAndComposedNumbersTakenApart) {
-    for (std::uint64_t n = 0; n < 20000; ++n) ASSERT_EQ(isPrime(n), isPrimeByTrial(n)) << n;
+    for (std::uint64_t n = 0; n < 20000; ++n) {
+        ASSERT_EQ(isPrime(n), isPrimeByTrial(n)) << n;
+    }
     for (std::uint64_t n = 2; n < 70000; ++n) {
         const std::uint64_t factor = smallestPrimeFactor(n);
         ASSERT_EQ(n % factor, 0U) << n;
@@ -188,7 +215,9 @@ TEST(Divisors, NeighboursOfPrimesLeadBackToThem) {
         const std::uint64_t p = nextPrime(n);
         ASSERT_TRUE(p > n && isPrime(p)) << n;
         ASSERT_EQ(nextPrime(previousPrime(p)), p) << n;
-        for (std::uint64_t between = n + 1; between < p; ++between) ASSERT_FALSE(isPrime(between)) << between;
+        for (std::uint64_t between = n + 1; between < p; ++between) {
+            ASSERT_FALSE(isPrime(between)) << between;
+        }
     }
 }
 
@@ -198,13 +227,17 @@ TEST(Divisors, MontgomeryAgreesWithShiftAndAdd) {
         std::uint64_t sum = 0;
         for (int bit = 63; bit >= 0; --bit) {
             sum = sum >= modulus - sum ? sum - (modulus - sum) : sum + sum;
-            if ((b >> bit & 1) != 0) sum = sum >= modulus - a ? sum - (modulus - a) : sum + a;
+            if ((b >> bit & 1) != 0) {
+                sum = sum >= modulus - a ? sum - (modulus - a) : sum + a;
+            }
         }
         return sum;
     };
     for (int sample = 0; sample < 20000; ++sample) {
         const std::uint64_t modulus = (sample % 2 == 0 ? ~generator() % 1000 : generator()) | 1;
-        if (modulus == 1) continue;
+        if (modulus == 1) {
+            continue;
+        }
         const std::uint64_t a = generator() % modulus;
         const std::uint64_t b = generator() % modulus;
         const Montgomery field(modulus);

@@ -74,7 +74,9 @@ public:
         plan.payment = chance(4) ? 0 : uniform(-100, 100);
         plan.period =
             chance(3) ? plan.duration / std::floor(uniform(1, 60)) : day * std::exp(uniform(0, std::log(Real{800})));
-        if (plan.period < day) plan.period = day;
+        if (plan.period < day) {
+            plan.period = day;
+        }
         plan.timing = chance(2) ? 1 : 0;
         return plan;
     }
@@ -98,14 +100,22 @@ TEST(Finance, BalanceIsWhatIsBookedPeriodByPeriod) {
         const int periods = 1 + count % 40;
         plan.compounding = plan.period;
         plan.duration = static_cast<Real>(periods) * plan.period;
-        if (plan.annualRate * plan.period / year <= -1) continue;
+        if (plan.annualRate * plan.period / year <= -1) {
+            continue;
+        }
         Real account = plan.first;
         for (int period = 0; period < periods; ++period) {
-            if (plan.timing == 1) account += plan.payment;
+            if (plan.timing == 1) {
+                account += plan.payment;
+            }
             account += account * plan.annualRate * plan.period / year;
-            if (plan.timing == 0) account += plan.payment;
+            if (plan.timing == 0) {
+                account += plan.payment;
+            }
         }
-        if (plan.first == 0 && plan.payment == 0) continue;
+        if (plan.first == 0 && plan.payment == 0) {
+            continue;
+        }
         ASSERT_LT(plan.deviation(account), tolerance) << plan;
     }
 }
@@ -114,7 +124,9 @@ TEST(Finance, EachFunctionUndoesTheFutureValue) {
     Plans plans(1);
     for (int count = 0; count < sweepSize; ++count) {
         const Plan plan = plans.next();
-        if (plan.first == 0 && plan.payment == 0) continue;
+        if (plan.first == 0 && plan.payment == 0) {
+            continue;
+        }
         const Real second = plan.second();
         Plan found = plan;
         found.first = plan.firstFrom(second);
@@ -133,7 +145,9 @@ TEST(Finance, RateIsFoundAgain) {
     for (int count = 0; count < sweepSize; ++count) {
         const Plan plan = plans.next();
         // Without a first value a single payment at its end, or none, says nothing about the rate.
-        if (plan.first == 0 && (plan.payment == 0 || plan.duration == plan.period)) continue;
+        if (plan.first == 0 && (plan.payment == 0 || plan.duration == plan.period)) {
+            continue;
+        }
         const Real second = plan.second();
         Plan found = plan;
         ASSERT_NO_THROW(found.annualRate = plan.rateFrom(second)) << plan;
@@ -150,7 +164,9 @@ TEST(Finance, RateIsMissingOnlyWhereTheBalanceCrossesNowhere) {
     for (int count = 0; count < sweepSize; ++count) {
         Plan plan = plans.next();
         plan.compounding = 0;
-        if (plan.payment == 0) continue;
+        if (plan.payment == 0) {
+            continue;
+        }
         // Any second value, reached or not.
         const Real second = plan.first + (plan.payment - plan.first) * std::sin(static_cast<Real>(count));
         const auto misses = [&](Real annualRate) {
@@ -199,7 +215,9 @@ TEST(Finance, RatesWhereSolversGoAstray) {
     };
     for (const RateRow& row : rows) {
         Real second = row.second;
-        if (row.payment == 0) second = row.first * std::pow(1 + row.wanted, row.duration);
+        if (row.payment == 0) {
+            second = row.first * std::pow(1 + row.wanted, row.duration);
+        }
         const Real period = row.period * month;
         const Real annualRate =
             call(rate, {row.first, second, row.duration * month, period, row.payment, period, row.timing});

@@ -36,7 +36,9 @@ TEST(Random, WordIsSixDrawsThatOverlapByTwoBits) {
     for (const int place : {65, 52, 39, 26, 13, 0}) {
         const std::uint64_t bits = static_cast<std::uint64_t>(std::rand()) & 0x7FFF;
         // The first draw has its place above the word: its lowest bit stands at 65.
-        if (place < 64) wanted ^= bits << place;
+        if (place < 64) {
+            wanted ^= bits << place;
+        }
     }
     seedRandom(7);
     EXPECT_EQ(randomWord(), wanted);

@@ -33,7 +33,9 @@ std::string utf8(const std::wstring& text) {
 int main() {
     const HWND window = FindWindowA(calquo::programTitle, nullptr);
     const HWND workArea = FindWindowExA(window, nullptr, "RichEdit20A", nullptr);
-    if (window == nullptr || workArea == nullptr) return 1;
+    if (window == nullptr || workArea == nullptr) {
+        return 1;
+    }
     const std::string text = utf8(textOf(workArea));
     _setmode(_fileno(stdout), _O_BINARY);
     return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() ? 0 : 2;

@@ -16,7 +16,9 @@ TEST(Units, ConversionThereAndBackIsTheSameNumber) {
     constexpr Real number = 37;
     for (const Unit& from : unitTable) {
         for (const Unit& to : unitTable) {
-            if (from.dimension != to.dimension) continue;
+            if (from.dimension != to.dimension) {
+                continue;
+            }
             const Value there = convert(Value(number), from.value(), to.value());
             const Value back = convert(there, to.value(), from.value());
             EXPECT_NEAR(static_cast<double>(back.re - number), 0, 1e-15) << from.name << " to " << to.name;
@@ -29,7 +31,9 @@ TEST(Units, ConversionThereAndBackIsTheSameNumber) {
 TEST(Units, SpecialValuesAreStoredBitForBit) {
     // A copy through arithmetic would make the signalling one quiet.
     for (const NamedConstant& constant : namedConstants) {
-        if (!std::isnan(constant.value.re)) continue;
+        if (!std::isnan(constant.value.re)) {
+            continue;
+        }
         const ExtendedBits bits = bitsOf(constant.value.re);
         EXPECT_EQ(bits.mantissa, constant.name == "sNaN" ? 0xA000000000000000U : 0xC000000000000000U) << constant.name;
         EXPECT_EQ(bits.signExponent, 0x7FFF) << constant.name;

@@ -11,7 +11,9 @@ constexpr wchar_t className[] = L"Desk of a test";
 
 LRESULT CALLBACK receive(HWND window, UINT code, WPARAM first, LPARAM second) {
     auto* const commands = reinterpret_cast<std::vector<unsigned>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (code == WM_COMMAND && second == 0 && commands != nullptr) commands->push_back(LOWORD(first));
+    if (code == WM_COMMAND && second == 0 && commands != nullptr) {
+        commands->push_back(LOWORD(first));
+    }
     return DefWindowProcW(window, code, first, second);
 }
 
@@ -23,7 +25,9 @@ public:
 
 private:
     void hold(BYTE state) const {
-        if (key_ == 0) return;
+        if (key_ == 0) {
+            return;
+        }
         std::array<BYTE, 256> keys{};
         GetKeyboardState(keys.data());
         keys[static_cast<std::size_t>(key_)] = state;
@@ -39,7 +43,9 @@ char styleOfSelection(HWND control) {
     format.cbSize = sizeof format;
     SendMessageW(control, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
     const bool bold = (format.dwEffects & CFE_BOLD) != 0;
-    if (!bold && format.crTextColor == RGB(0, 0, 0)) return 'n';
+    if (!bold && format.crTextColor == RGB(0, 0, 0)) {
+        return 'n';
+    }
     return bold && format.crTextColor == RGB(0, 0, 139) ? 'r' : '?';
 }
 
@@ -47,7 +53,9 @@ char styleOfSelection(HWND control) {
 
 std::wstring wide(std::string_view text) {
     std::wstring units;
-    for (const char character : text) units += static_cast<unsigned char>(character);
+    for (const char character : text) {
+        units += static_cast<unsigned char>(character);
+    }
     return units;
 }
 
@@ -83,7 +91,9 @@ void Desk::press(int key, int modifier) {
     const bool alt = modifier == VK_MENU;
     SendMessageW(control(), alt ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(key), 1);
     const wchar_t character = modifier == VK_CONTROL ? L'\n' : L'\r';
-    if (key == VK_RETURN) SendMessageW(control(), alt ? WM_SYSCHAR : WM_CHAR, character, 1);
+    if (key == VK_RETURN) {
+        SendMessageW(control(), alt ? WM_SYSCHAR : WM_CHAR, character, 1);
+    }
     SendMessageW(control(), alt ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(key), 1);
 }
 
@@ -117,12 +127,22 @@ std::wstring Desk::picture() {
     for (std::size_t index = 0; index <= units.size(); ++index) {
         select(index, index + 1);
         const char style = index < units.size() ? styleOfSelection(control()) : 'n';
-        if (result && style != 'r') drawn += L'>';
-        if (index == place) drawn += L'|';
-        if (!result && style == 'r') drawn += L'<';
+        if (result && style != 'r') {
+            drawn += L'>';
+        }
+        if (index == place) {
+            drawn += L'|';
+        }
+        if (!result && style == 'r') {
+            drawn += L'<';
+        }
         result = style == 'r';
-        if (index < units.size()) drawn += units[index];
-        if (style == '?') drawn += L'?';
+        if (index < units.size()) {
+            drawn += units[index];
+        }
+        if (style == '?') {
+            drawn += L'?';
+        }
     }
     select(place, place);
     return drawn;

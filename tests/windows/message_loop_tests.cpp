@@ -18,13 +18,21 @@ TEST(MessageLoop, ReportsAnExceptionOfOneMessageAndGoesOn) {
         CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr));
     std::string heard;
     const auto fail = [&](const Message& message) -> std::optional<MessageAnswer> {
-        if (message.code == WM_APP) throw Except{ErrorCode::NoSolution};
-        if (message.code == WM_APP + 1) throw std::runtime_error("second");
-        if (message.code == WM_APP + 2) heard += "went on; ";
+        if (message.code == WM_APP) {
+            throw Except{ErrorCode::NoSolution};
+        }
+        if (message.code == WM_APP + 1) {
+            throw std::runtime_error("second");
+        }
+        if (message.code == WM_APP + 2) {
+            heard += "went on; ";
+        }
         return std::nullopt;
     };
     const TextArea area(top.get(), 1, {}, nullptr, fail);
-    for (const UINT code : {WM_APP, WM_APP + 1, WM_APP + 2}) PostMessageW(area.handle(), code, 0, 0);
+    for (const UINT code : {WM_APP, WM_APP + 1, WM_APP + 2}) {
+        PostMessageW(area.handle(), code, 0, 0);
+    }
     PostQuitMessage(7);
 
     const int status = runMessageLoop([&] {

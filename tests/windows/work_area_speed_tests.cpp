@@ -27,7 +27,9 @@ DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) 
 void settle(const Desk& desk) {
     UpdateWindow(desk.control());
     MSG message{};
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageW(&message);
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+        DispatchMessageW(&message);
+    }
 }
 
 Milliseconds timeOf(const Desk& desk, const std::function<void()>& action) {
@@ -51,7 +53,9 @@ double median(std::vector<Milliseconds> times) {
 struct LongDesk {
     explicit LongDesk(std::size_t lines) {
         std::string text;
-        for (std::size_t line = 0; line < lines; ++line) text += "2+3*4 = 14\r\n";
+        for (std::size_t line = 0; line < lines; ++line) {
+            text += "2+3*4 = 14\r\n";
+        }
         std::string_view rest = text;
         EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, readPiece};
         SendMessageW(desk.control(), EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
@@ -72,13 +76,19 @@ struct LongDesk {
 /// Measures desks in turns, so that a change of the machine's speed meets all alike.
 std::vector<Times> measured(const std::vector<std::size_t>& lineCounts) {
     std::vector<std::unique_ptr<LongDesk>> desks;
-    for (const std::size_t lines : lineCounts) desks.push_back(std::make_unique<LongDesk>(lines));
+    for (const std::size_t lines : lineCounts) {
+        desks.push_back(std::make_unique<LongDesk>(lines));
+    }
     constexpr int rounds = 31;
     for (int round = 0; round < rounds; ++round) {
-        for (const auto& desk : desks) desk->measure();
+        for (const auto& desk : desks) {
+            desk->measure();
+        }
     }
     std::vector<Times> times;
-    for (const auto& desk : desks) times.push_back(desk->times);
+    for (const auto& desk : desks) {
+        times.push_back(desk->times);
+    }
     return times;
 }
 

@@ -18,7 +18,9 @@ TEST(WorkArea, EnterRewritesTheLineInOneStepForUndo) {
         desk.type(row.line);
         desk.press(VK_RETURN);
         EXPECT_EQ(desk.picture(), wide(row.after));
-        if (desk.text() == wide(row.line)) continue;
+        if (desk.text() == wide(row.line)) {
+            continue;
+        }
         const std::wstring after = desk.text();
         desk.undo();
         EXPECT_EQ(desk.text(), wide(row.line));
@@ -35,7 +37,9 @@ TEST(WorkArea, EvaluationIntoTheSelectionReplacesNothingElse) {
         desk.select(row.begin, row.end);
         desk.press(VK_F9);
         EXPECT_EQ(desk.picture(), wide(row.after));
-        if (desk.text() != wide(row.line)) desk.undo();
+        if (desk.text() != wide(row.line)) {
+            desk.undo();
+        }
         EXPECT_EQ(desk.text(), wide(row.line));
     }
 }
@@ -136,7 +140,9 @@ TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
 
 TEST(WorkArea, ALongLineIsEvaluatedWhole) {
     std::wstring sum = L"1";
-    for (int count = 1; count < 2000; ++count) sum += L"+1";
+    for (int count = 1; count < 2000; ++count) {
+        sum += L"+1";
+    }
     for (const std::size_t place : {std::size_t{0}, std::size_t{1000}, sum.size()}) {
         SCOPED_TRACE(place);
         Desk desk;
@@ -162,7 +168,9 @@ TEST(WorkArea, TheHelpKeyIsTheMainWindowsCommand) {
 WNDPROC beforeReplacing;
 
 LRESULT CALLBACK answerThatResultsReplace(HWND window, UINT code, WPARAM first, LPARAM second) {
-    if (code == WorkArea::resultReplaceQuery) return 1;
+    if (code == WorkArea::resultReplaceQuery) {
+        return 1;
+    }
     return CallWindowProcW(beforeReplacing, window, code, first, second);
 }
 
@@ -184,8 +192,12 @@ std::vector<std::string> plainRows() {
         std::ifstream file(entry.path(), std::ios::binary);
         bool plain = true;
         for (std::string line; std::getline(file, line);) {
-            if (line.starts_with("#:")) plain = line.find("--") == std::string::npos;
-            if (plain && !line.empty() && line.front() != '#') rows.push_back(line);
+            if (line.starts_with("#:")) {
+                plain = line.find("--") == std::string::npos;
+            }
+            if (plain && !line.empty() && line.front() != '#') {
+                rows.push_back(line);
+            }
         }
     }
     return rows;
@@ -194,7 +206,9 @@ std::vector<std::string> plainRows() {
 /// The row's record as the work area shows it, with the caret where the row says that the error lies.
 std::wstring expectedPicture(const std::string& row, std::string_view expression) {
     const std::string_view rest = std::string_view(row).substr(expression.size());
-    if (rest.empty()) return wide(row) + L"\n|";
+    if (rest.empty()) {
+        return wide(row) + L"\n|";
+    }
     const std::size_t place = rest.rfind(") at ");
     if (!rest.starts_with(" = Error (") || place == std::string_view::npos) {
         return wide(expression) + L"<" + wide(rest) + L">\n\n" + wide(rest.substr(3)) + L"|";

@@ -35,13 +35,17 @@ TEST(Record, ExpressionEndsAtTheFirstEqualsSign) {
         {"2+\xE9 ", "2+\xE9"},
         {std::string_view("2+3\0", 4), "2+3"},
     };
-    for (const ExpressionRow& row : rows) EXPECT_EQ(expressionOf(row.line), row.expression) << row.line;
+    for (const ExpressionRow& row : rows) {
+        EXPECT_EQ(expressionOf(row.line), row.expression) << row.line;
+    }
 }
 
 /// `edit` applied to `line`, with "<...>" around result style and "|" for the caret; one that changes nothing leaves
 /// the caret behind.
 std::string picture(std::string_view line, const LineEdit& edit) {
-    if (!edit.changes) return std::string(line) + '|';
+    if (!edit.changes) {
+        return std::string(line) + '|';
+    }
     std::string text(line.substr(0, edit.begin));
     std::string styles(edit.begin, 'n');
     for (const StyledText& piece : edit.pieces) {
@@ -53,10 +57,18 @@ std::string picture(std::string_view line, const LineEdit& edit) {
     for (std::size_t index = 0; index <= text.size(); ++index) {
         const bool result = index < styles.size() && styles[index] == 'r';
         const bool resultBefore = index > 0 && index <= styles.size() && styles[index - 1] == 'r';
-        if (resultBefore && !result) drawn += '>';
-        if (index == edit.caret) drawn += '|';
-        if (result && !resultBefore) drawn += '<';
-        if (index < text.size()) drawn += text[index];
+        if (resultBefore && !result) {
+            drawn += '>';
+        }
+        if (index == edit.caret) {
+            drawn += '|';
+        }
+        if (result && !resultBefore) {
+            drawn += '<';
+        }
+        if (index < text.size()) {
+            drawn += text[index];
+        }
     }
     return drawn;
 }
