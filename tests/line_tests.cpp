@@ -123,11 +123,11 @@ std::vector<Row> rowsOfPage(const std::filesystem::path& path) {
     std::string line;
     for (int number = 1; std::getline(stream, line); ++number) {
         const std::size_t joint = line.find(middle);
-        const std::size_t closing = line.rfind("` |");
-        if (!line.starts_with(opening) || joint == std::string::npos || closing <= joint) {
+        if (!line.starts_with(opening) || joint == std::string::npos) {
             continue;
         }
         const std::size_t result = joint + middle.size();
+        const std::size_t closing = line.find('`', result);
         const std::string record =
             line.substr(opening.size(), joint - opening.size()) + " = " + line.substr(result, closing - result);
         rows.push_back({path.filename().string() + ":" + std::to_string(number), record, {}});
