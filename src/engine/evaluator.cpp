@@ -17,6 +17,7 @@
 #include "numeric/factorial.h"
 #include "units/conversion.h"
 #include "values/errors.h"
+#include "values/precision.h"
 
 namespace calquo {
 namespace {
@@ -499,6 +500,9 @@ Value Evaluator::complexNumber(std::size_t start, std::size_t end, const Value& 
 
 }  // namespace
 
-Evaluation evaluateLine(std::string_view line, int nestingLimit) { return Evaluator(line, nestingLimit).evaluate(); }
+Evaluation evaluateLine(std::string_view line, int nestingLimit) {
+    const FullPrecision precision;
+    return Evaluator(line, nestingLimit).evaluate();
+}
 
 }  // namespace calquo

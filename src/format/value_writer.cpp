@@ -11,6 +11,7 @@
 #include "format/fraction.h"
 #include "numeric/rounding.h"
 #include "values/extended.h"
+#include "values/precision.h"
 
 namespace calquo {
 namespace {
@@ -315,6 +316,7 @@ void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::strin
 }
 
 void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text) {
+    const FullPrecision precision;
     const std::uint32_t base = outputBase == 0 ? 10 : static_cast<std::uint32_t>(outputBase);
     if (value.im == 0 || zeroedOut(value.im, word)) {
         FormatReal(value.re, word, base, text);

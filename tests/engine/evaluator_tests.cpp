@@ -50,6 +50,23 @@ TEST(Evaluator, PositionsTellWhereTheLiteralStands) {
     }
 }
 
+TEST(Evaluator, ComputesInFullPrecisionWhateverTheProcessorIsSetTo) {
+    const std::uint16_t doublesRoundedUp = 0x0A7F;
+    std::uint16_t usual = 0;
+    asm volatile("fnstcw %0" : "=m"(usual));
+    asm volatile("fldcw %0" : : "m"(doublesRoundedUp));
+    const Value third = evaluateLine("1/3").value;
+    const Value sum = evaluateLine("1+2^-63").value;
+    const std::string text = FormatValue(third, 0x1307C000, 10);
+    std::uint16_t after = 0;
+    asm volatile("fnstcw %0" : "=m"(after));
+    asm volatile("fldcw %0" : : "m"(usual));
+    EXPECT_EQ(third.re, Real(1) / 3);
+    EXPECT_EQ(sum.re, 1 + 0x1p-63L);
+    EXPECT_EQ(text, "3.333333333333333333423683514374e-1");
+    EXPECT_EQ(after, doublesRoundedUp);
+}
+
 TEST(Evaluator, NestingIsBoundedWhateverItsShape) {
     for (const char* piece : {"(", "sin(", "2^", "sin ", "avg(", "2(", "-("}) {
         const std::string line = repeated(piece, 100000) + "1";
