@@ -26,8 +26,9 @@ struct FunctionRow {
     std::string_view name;
     Binding binding;
     std::string_view description;
-    std::string_view arguments = {};  ///< what stands between the parentheses, for functions of two and more
+    std::string_view arguments = {};  ///< what stands between the parentheses; empty for names without any
     std::string_view example = {};    ///< a line to try
+    std::string_view otherName = {};  ///< a second name of the same function
 };
 
 inline constexpr std::array functionTable = std::to_array<FunctionRow>({
@@ -42,8 +43,7 @@ inline constexpr std::array functionTable = std::to_array<FunctionRow>({
     {"rem", rem, "Remainder of a modulo division", "x; y", "rem(7; 2)"},
     {"abs", abs, "Absolute value (magnitude)", "x", "abs(-7)"},
     {"neg", neg, "Negative of a value (-x)", "x", "neg(7)"},
-    {"sign", sign, "Signum (-1, 0, +1)", "x", "sign(-7)"},
-    {"signum", sign, "Signum (-1, 0, +1)", "x", "signum(7)"},
+    {"sign", sign, "Signum (-1, 0, +1)", "x", "sign(-7)", "signum"},
 
     // Complex numbers
     {"real", real, "Real part of a complex value", "z", "real(3; 4)"},
@@ -59,11 +59,9 @@ inline constexpr std::array functionTable = std::to_array<FunctionRow>({
     {"pow", pow, "Power of one value to another value", "x; y", "pow(2; 10)"},
     {"root", root, "Root x of a value", "value; degree", "root(27; 3)"},
     {"fact", fact, "Factorial of a number", "n", "fact(5)"},
-    {"lg", log2, "Base-2 logarithm (log2)", "x", "lg(1024)"},
-    {"log2", log2, "Base-2 logarithm (log2)", "x", "log2(1024)"},
+    {"lg", log2, "Base-2 logarithm (log2)", "x", "lg(1024)", "log2"},
     {"ln", ln, "Natural (base-e) logarighm", "x", "ln 10"},
-    {"log", log10, "Base-10 logarithm (log10)", "x", "log 1000"},
-    {"log10", log10, "Base-10 logarithm (log10)", "x", "log10(1000)"},
+    {"log", log10, "Base-10 logarithm (log10)", "x", "log 1000", "log10"},
     {"logB", logB, "Base-B logarithm", "value; base", "logB(81; 3)"},
     {"sqr", sqr, "Square of a value", "x", "sqr(12)"},
     {"sqrt", sqrt, "Square root of a value", "x", "sqrt 81"},
@@ -101,8 +99,7 @@ inline constexpr std::array functionTable = std::to_array<FunctionRow>({
     {"gcd", ListFunction{gcd}, "Greatest Common Denominator", "n; m; ...", "gcd(12; 18)"},
     {"gcf", ListFunction{gcf}, "Greatest common factor", "n; m; ...", "gcf(12; 18)"},
     {"lcm", ListFunction{lcm}, "Least Common Multiple", "n; m; ...", "lcm(4; 6)"},
-    {"avg", ListFunction{avg}, "Average value (mean)", "x; y; ...", "avg(1; 2; 3; 4)"},
-    {"mean", ListFunction{avg}, "Average value (mean)", "x; y; ...", "mean(1; 2; 3; 4)"},
+    {"avg", ListFunction{avg}, "Average value (mean)", "x; y; ...", "avg(1; 2; 3; 4)", "mean"},
     {"avgG", ListFunction{avgG}, "Geometric average", "x; y; ...", "avgG(2; 8)"},
     {"median", ListFunction{median}, "Median value", "x; y; ...", "median(4; 1; 3; 2)"},
     {"sd", ListFunction{sd}, "Standard deviation (sample)", "x; y; ...", "sd(2; 4; 4; 4; 5; 5; 7; 9)"},

@@ -48,6 +48,9 @@ inline constexpr std::array<Keyword, keywordCount + 2> keywordTable = [] {
     };
     for (const FunctionRow& row : functionTable) {
         append(row.name, row.binding, row.description);
+        if (!row.otherName.empty()) {
+            append(row.otherName, row.binding, row.description);
+        }
     }
     for (const Unit& unit : unitTable) {
         append(unit.name, unit.value(), unit.description);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engine/evaluator.h"
+#include "engine/function_table.h"
 #include "engine/keywords.h"
 #include "format/value_writer.h"
 #include "support/hostile_calls.h"
@@ -26,6 +27,19 @@ TEST_P(Names, AnswerHostileArguments) {
             EXPECT_GE(errorPosition(), 0) << line.substr(0, 200);
             EXPECT_LE(errorPosition(), static_cast<std::int32_t>(line.size())) << line.substr(0, 200);
         }
+    }
+}
+
+TEST(NameTable, EveryNameIsDescribedAndEveryExampleWorks) {
+    for (std::size_t keyword = 1; keyword <= keywordCount; ++keyword) {
+        EXPECT_FALSE(descriptionOf(keyword).empty()) << nameOf(keyword);
+    }
+    for (const FunctionRow& row : functionTable) {
+        if (row.binding.as<ReservedName>() != nullptr) {
+            continue;
+        }
+        EXPECT_NE(row.example.find(row.name), std::string_view::npos) << row.name;
+        EXPECT_NO_THROW(evaluateLine(row.example)) << row.example;
     }
 }
 
