@@ -35,6 +35,8 @@ struct LineFile {
     std::vector<Row> rows;
 };
 
+void PrintTo(const LineFile& file, std::ostream* stream) { *stream << file.name; }
+
 LineFile readLineFile(const std::filesystem::path& path) {
     LineFile file{path.stem().string(), {}};
     std::ifstream stream(path, std::ios::binary);
