@@ -1,10 +1,12 @@
 // Streaming lines through the engine; see calq.h.
 #include "console/calq.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "console/byte_streams.h"
 #include "engine/characters.h"
+#include "engine/keywords.h"
 #include "values/program.h"
 
 namespace calquo {
@@ -105,14 +107,33 @@ int checkRecords(const Options& options, OutputStream& output) {
 }
 
 /// Says on standard error when the engine has kept another mark than the one that was asked for.
-void reportRefusedMark(std::optional<char> wanted, TokenClass mark, const char* name) {
+void reportRefusedMark(std::optional<char> wanted, TokenClass mark, TokenClass otherMark, const char* name) {
     const char kept = markCharacter(mark);
     if (wanted && *wanted != kept) {
-        std::fprintf(stderr, "calq: \"%c\" has a meaning of its own; the %s mark stays \"%c\"\n", *wanted, name, kept);
+        const bool taken = *wanted == markCharacter(otherMark);
+        std::fprintf(stderr, "calq: \"%c\" %s; the %s mark stays \"%c\"\n", *wanted,
+                     taken ? "is the other mark (give both to exchange them)" : "has a meaning of its own", name, kept);
+    }
+}
+
+/// Every name with its arguments and what it means, a line each.
+void appendNames(std::string& text) {
+    constexpr std::size_t column = 24;
+    for (std::size_t index = 1; index <= keywordCount; ++index) {
+        std::string name(nameOf(index));
+        if (!argumentsOf(index).empty()) {
+            name.append("(").append(argumentsOf(index)).append(")");
+        }
+        name.resize(std::max(column, name.size() + 2), ' ');
+        text.append(name).append(descriptionOf(index)).append("\n");
     }
 }
 
 int runWith(const Options& options, OutputStream& output) {
+    if (options.names) {
+        appendNames(output.text());
+        return allWell;
+    }
     if (options.help) {
         output.text() += helpText();
         return allWell;
@@ -122,8 +143,8 @@ int runWith(const Options& options, OutputStream& output) {
         return allWell;
     }
     applyToEngine(options);
-    reportRefusedMark(options.decimalMark, TokenClass::DecimalMark, "decimal");
-    reportRefusedMark(options.groupMark, TokenClass::GroupMark, "group");
+    reportRefusedMark(options.decimalMark, TokenClass::DecimalMark, TokenClass::GroupMark, "decimal");
+    reportRefusedMark(options.groupMark, TokenClass::GroupMark, TokenClass::DecimalMark, "group");
     if (options.check) {
         return checkRecords(options, output);
     }
@@ -140,7 +161,12 @@ LineAnswerer::LineAnswerer(const Options& options)
 bool LineAnswerer::answer(std::string_view line, std::string& output) {
     const std::string_view expression = expressionOf(line);
     latest.failed = false;
-    if (!expression.empty()) {
+    if (expression.empty()) {
+        // The work area leaves such a line as it is, and so does its record.
+        if (writesRecords) {
+            output += line;
+        }
+    } else {
         evaluateInto(latest, expression, format);
         if (writesRecords) {
             appendRecord(output, expression, latest, place);

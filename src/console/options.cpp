@@ -83,6 +83,8 @@ constexpr OptionRow optionTable[] = {
      [](Options& options, std::string_view argument) { options.groupMark = readMark(argument); }},
     {"seed", "N", "start the random numbers at N instead of at the clock",
      [](Options& options, std::string_view argument) { options.seed = readSeed(argument); }},
+    {"names", "", "list every function, constant, unit and prefix, and end",
+     [](Options& options, std::string_view) { options.names = true; }},
     {"help", "", "explain the program and end", [](Options& options, std::string_view) { options.help = true; }},
     {"version", "", "show the version and end", [](Options& options, std::string_view) { options.version = true; }},
 };

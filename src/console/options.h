@@ -17,6 +17,7 @@ struct Options {
     bool record = false;
     bool position = false;
     bool check = false;
+    bool names = false;
     bool help = false;
     bool version = false;
     FormatKind kind = FormatKind::Automatic;

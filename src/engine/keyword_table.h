@@ -20,6 +20,7 @@ struct Keyword {
     std::string_view name;
     Binding binding;
     std::string_view description;
+    std::string_view arguments = {};  ///< as the function's row says
 };
 
 /// Compares two names letter by letter and digit by digit without regard to case; each ends at its first character that
@@ -42,14 +43,15 @@ inline constexpr std::array<Keyword, keywordCount + 2> keywordTable = [] {
     std::array<Keyword, keywordCount + 2> table;
     std::size_t count = 0;
     // Writing past the table would not compile.
-    const auto append = [&](std::string_view name, const Binding& binding, std::string_view description) {
+    const auto append = [&](std::string_view name, const Binding& binding, std::string_view description,
+                            std::string_view arguments = {}) {
         ++count;
-        table.at(count) = {name, binding, description};
+        table.at(count) = {name, binding, description, arguments};
     };
     for (const FunctionRow& row : functionTable) {
-        append(row.name, row.binding, row.description);
+        append(row.name, row.binding, row.description, row.arguments);
         if (!row.otherName.empty()) {
-            append(row.otherName, row.binding, row.description);
+            append(row.otherName, row.binding, row.description, row.arguments);
         }
     }
     for (const Unit& unit : unitTable) {

@@ -43,6 +43,8 @@ ArgumentClass classOf(std::size_t index) { return row(index).binding.argumentCla
 
 std::string_view descriptionOf(std::size_t index) { return row(index).description; }
 
+std::string_view argumentsOf(std::size_t index) { return row(index).arguments; }
+
 const Binding& bindingOf(std::size_t index) { return keywordTable[index].binding; }
 
 }  // namespace calquo

@@ -21,6 +21,8 @@ bool keywordAt(std::string_view line, std::size_t index);
 std::string_view nameOf(std::size_t index);
 ArgumentClass classOf(std::size_t index);
 std::string_view descriptionOf(std::size_t index);
+/// What stands between a function's parentheses; empty for other names.
+std::string_view argumentsOf(std::size_t index);
 
 /// What an index of 1 to keywordCount stands for.
 const Binding& bindingOf(std::size_t index);
