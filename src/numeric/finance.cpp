@@ -5,19 +5,22 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <optional>
+#include <vector>
 
 #include "numeric/checks.h"
+#include "values/durations.h"
 #include "values/errors.h"
 #include "values/extended.h"
 
 namespace calquo {
 namespace {
 
-constexpr Real day = 86400;
-constexpr Real year = 31556952;
-constexpr Real month = year / 12;
+constexpr Real day = secondsOfDay;
+constexpr Real year = secondsOfYear;
+constexpr Real month = secondsOfMonth;
 
 constexpr std::size_t paymentPeriodPosition = 5;
 constexpr std::size_t timingPosition = 6;
@@ -62,6 +65,16 @@ Real signOf(Real x) { return x > 0 ? Real{1} : x < 0 ? Real{-1} : Real{0}; }
 /// amount * factor, where an amount of 0 stays 0 however large the factor has grown.
 Real scaled(Real amount, Real factor) { return amount == 0 ? 0 : amount * factor; }
 
+/// amount * e^z, also where e^z alone leaves the range of numbers.
+Real grown(Real amount, Real z) {
+    const Real factor = std::exp(z);
+    if (std::isnormal(factor)) {
+        return amount * factor;
+    }
+    const Real root = std::exp(z / 2);
+    return scaled(scaled(amount, root), root);
+}
+
 /// ln(a / b) without loss where a and b lie close together; their difference is given, since it may be known better.
 Real logarithmOfRatio(Real a, Real b, Real difference) {
     const Real ratio = a / b;
@@ -69,7 +82,7 @@ Real logarithmOfRatio(Real a, Real b, Real difference) {
         return std::log1p(difference / b);
     }
     // A quotient beyond the range of numbers still has a logarithm.
-    const bool beyond = signOf(a) * signOf(b) > 0 && (ratio == 0 || std::isinf(ratio));
+    const bool beyond = signOf(a) * signOf(b) > 0 && !std::isnormal(ratio);
     return beyond ? std::log(std::fabs(a)) - std::log(std::fabs(b)) : std::log(ratio);
 }
 
@@ -82,10 +95,10 @@ Real growthOf(Real annualRate, Real compoundingPeriod) {
     return annualRate / year * (perPeriod == 0 ? 1 : std::log1p(perPeriod) / perPeriod);
 }
 
-/// The nominal annual rate of a growth.
+/// The nominal annual rate of a growth; a NaN where all is lost at once and no period of compounding bounds the rate.
 Real rateOf(Real growth, Real compoundingPeriod) {
     const Real perPeriod = growth * compoundingPeriod;
-    return growth * year * (perPeriod == 0 ? 1 : std::expm1(perPeriod) / perPeriod);
+    return perPeriod == 0 ? growth * year : std::expm1(perPeriod) / compoundingPeriod * year;
 }
 
 /// When payments are made.
@@ -98,28 +111,36 @@ struct Schedule {
     [[nodiscard]] Schedule reversed() const { return {duration, period, !atStart}; }
 };
 
-/// s: what payments of 1 have grown to at the end.
-Real accumulated(const Schedule& schedule, Real growth) {
+/// payment * s: what the payments have grown to at the end.
+Real accumulated(Real payment, const Schedule& schedule, Real growth) {
     const Real falling = -std::fabs(growth);
     const Real perPeriod = std::expm1(falling * schedule.period);
     if (perPeriod == 0) {
-        return schedule.duration / schedule.period;
+        return payment * (schedule.duration / schedule.period);
     }
     // (G - 1) / (g - 1) or, for a positive growth, the same over G / g.
     const Real ratio = std::expm1(falling * schedule.duration) / perPeriod;
     const Real shift =
         (growth > 0 ? schedule.duration - schedule.period : 0) + (schedule.atStart ? schedule.period : 0);
-    return shift == 0 ? ratio : ratio * std::exp(growth * shift);
+    return shift == 0 ? payment * ratio : grown(payment * ratio, growth * shift);
 }
 
-/// s / G: what payments of 1 are worth at the beginning.
-Real discounted(const Schedule& schedule, Real growth) { return accumulated(schedule.reversed(), -growth); }
+/// payment * s / G: what the payments are worth at the beginning.
+Real discounted(Real payment, const Schedule& schedule, Real growth) {
+    return accumulated(payment, schedule.reversed(), -growth);
+}
 
-/// The zero of a function that has opposite signs at the two ends; low < high. Halves the interval until two
-/// neighbouring numbers are left, by orders of magnitude first: some 100 evaluations at most.
+/// later - earlier e^z for z <= 0.
+Real difference(Real later, Real earlier, Real z) {
+    // Near z = 0 the amounts' own difference has to be kept, far from it the smaller of the two.
+    return z > -1 ? later - earlier - earlier * std::expm1(z) : later - grown(earlier, z);
+}
+
+/// The zero of a function of which the sign at the upper end is known and that at the lower end is the other one;
+/// low < high. Halves the interval until two neighbouring numbers are left, by orders of magnitude first: some 100
+/// evaluations at most.
 template <typename Function>
-Real zeroBetween(Real low, Real high, Function function) {
-    const bool positiveAtHigh = function(high) > 0;
+Real zeroBetween(Real low, Real high, bool positiveAtHigh, Function function) {
     if (low < 0 && high > 0) {
         const Real middle = function(0);
         if (middle == 0) {
@@ -142,99 +163,212 @@ Real zeroBetween(Real low, Real high, Function function) {
     }
 }
 
-/// The balance with payments at the end of each period, as a function of the growth whose zero is sought:
-/// f(x) = first e^(xT) + payment (e^(xT) - 1) / (e^(xp) - 1) - second.
+/// What rounding takes from a product (Dekker): a b = fl(a b) + productError(a, b).
+Real productError(Real a, Real b) {
+    const auto upperHalf = [](Real x) {
+        const Real shifted = x * (0x1p32L + 1);
+        return shifted - (shifted - x);
+    };
+    const Real a1 = upperHalf(a);
+    const Real a2 = a - a1;
+    const Real b1 = upperHalf(b);
+    const Real b2 = b - b1;
+    return a2 * b2 - (((a * b - a1 * b1) - a2 * b1) - a1 * b2);
+}
+
+/// The sum with twice the precision of its terms (Neumaier).
+Real compensatedSum(std::span<const Real> terms) {
+    Real sum = 0;
+    Real lost = 0;
+    for (const Real term : terms) {
+        const Real next = sum + term;
+        lost += std::fabs(sum) >= std::fabs(term) ? (sum - next) + term : (term - next) + sum;
+        sum = next;
+    }
+    return sum + lost;
+}
+
+/// e^(xT) - 1 - T/p (e^(xp) - 1) for |xT| and |xp| up to 1. With v = e^(xp) and n = T/p it is v^n - 1 - n (v - 1), how
+/// far a power lies above its tangent at 1: positive for n > 1, negative for n < 1.
+Real aboveTangentNearby(Real duration, Real period, Real x) {
+    const Real t = x * duration;
+    const Real q = x * period;
+    // t (t - q) (1/2! + (t + q)/3! + (t^2 + t q + q^2)/4! + ...), without the cancellation of the terms in t.
+    Real sum = 0;
+    Real numerator = 1;
+    Real powerOfQ = 1;
+    Real factorial = 2;
+    for (int k = 3; k < 26; ++k) {
+        sum += numerator / factorial;
+        powerOfQ *= q;
+        numerator = numerator * t + powerOfQ;
+        factorial *= static_cast<Real>(k);
+    }
+    return t * x * (duration - period) * sum;
+}
+
+/// The same for all x, divided by e^(xT) or e^(xp) where these are above 1.
+Real aboveTangent(Real duration, Real period, Real x) {
+    const Real t = x * duration;
+    const Real q = x * period;
+    const Real top = std::max({Real{0}, t, q});
+    if (std::max(std::fabs(t), std::fabs(q)) <= 1) {
+        return aboveTangentNearby(duration, period, x) * std::exp(-top);
+    }
+    const auto gain = [top](Real z) {
+        return z > 0 ? -std::exp(z - top) * std::expm1(-z) : std::exp(-top) * std::expm1(z);
+    };
+    return gain(t) - duration / period * gain(q);
+}
+
+/// The balance with payments at the end of each period, as a function of the growth whose zeros are sought:
+/// f(x) = first e^(xT) + payment (e^(xT) - 1) / (e^(xp) - 1) - second, with a payment other than 0.
 ///
 /// f has two zeros at most. As a function of u = e^(xp) - 1, f / s is payment + first u - (second - first) A(u) with
-/// A(u) = u / ((1 + u)^(T/p) - 1), which is convex for T > p, concave for T < p and constant for T = p: a straight line
-/// meets such a curve twice at most, and between the two meetings lies the one place where their slopes agree.
-struct Equation {
-    Real first;
-    Real second;
-    Real payment;
-    Real duration;
-    Real period;
+/// A(u) = u / ((1 + u)^n - 1), n = T/p, which is convex for n > 1, concave for n < 1 and constant for n = 1: a straight
+/// line meets such a curve twice at most, and between the two meetings lies the one place where their slopes agree.
+class Equation {
+public:
+    Equation(Real first, Real second, Real payment, Real duration, Real period)
+        : first_(first), second_(second), payment_(payment), duration_(duration), period_(period) {
+        const Real terms[] = {period * first,     productError(period, first),
+                              -period * second,   -productError(period, second),
+                              duration * payment, productError(duration, payment)};
+        atZero_ = compensatedSum(terms) / period;
+    }
 
-    /// Something of the sign of f(x) that does not overflow: f for x <= 0, f / G for x > 0. The constants to which the
-    /// terms tend far from 0 are taken together, so that what remains beside them is not lost.
-    [[nodiscard]] Real balance(Real x) const {
-        if (x <= 0) {
-            return scaled(first, std::exp(x * duration)) + scaled(payment, decaying(x, duration - period)) +
-                   (payment - second);
+    /// The growths at which the balance holds, in ascending order.
+    [[nodiscard]] std::vector<Real> zeros() const {
+        if (!std::isfinite(atZero_)) {
+            return {};
         }
-        return first + scaled(payment, decaying(-x, duration)) - scaled(second, std::exp(-x * duration));
+        if (atZero_ == 0) {
+            return {0};
+        }
+        // Beyond, even the slower of the two exponentials has left the range of numbers.
+        const Real reach = 25000 / std::min(duration_, period_);
+        const auto balance = [this](Real x) {
+            const auto [a, b, c] = terms(x);
+            return a + b + c;
+        };
+        const bool positiveAtHigh = signAtHigh() > 0;
+        if (signAtLow() != signAtHigh()) {
+            return {zeroBetween(-reach, reach, positiveAtHigh, balance)};
+        }
+        // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
+        if (!turns()) {
+            return {};
+        }
+        const Real turn = zeroBetween(-reach, reach, first_ > 0, [this](Real x) { return slope(x); });
+        // Where the two zeros are one, rounding may leave the balance on either side of it.
+        constexpr Real rounding = 16 * std::numeric_limits<Real>::epsilon();
+        const auto [a, b, c] = terms(turn);
+        if (std::fabs(a + b + c) <= rounding * (std::fabs(a) + std::fabs(b) + std::fabs(c))) {
+            return {turn};
+        }
+        if ((a + b + c > 0) == positiveAtHigh) {
+            return {};
+        }
+        return {zeroBetween(-reach, turn, !positiveAtHigh, balance), zeroBetween(turn, reach, positiveAtHigh, balance)};
     }
-
-    /// The size of the terms that balance adds up.
-    [[nodiscard]] Real scale(Real x) const {
-        const Real fading = std::exp(-std::fabs(x) * duration);
-        const Real payments = std::fabs(payment) * (1 + decaying(-std::fabs(x), duration));
-        return std::fabs(first) * (x <= 0 ? fading : 1) + payments + std::fabs(second) * (x <= 0 ? 1 : fading);
-    }
-
-    /// The slope of f / s in u.
-    [[nodiscard]] Real slope(Real x) const { return first - scaled(second - first, curveSlope(x)); }
 
 private:
-    /// e^(xp) (e^(xd) - 1) / (e^(xp) - 1) for x <= 0: what the payments of a span d amount to.
-    [[nodiscard]] Real decaying(Real x, Real span) const {
-        const Real perPeriod = std::expm1(x * period);
-        if (perPeriod == 0) {
-            return span / period;
+    /// Terms whose sum has the sign of f(x) and neither overflows nor loses more than their own roundings.
+    [[nodiscard]] std::array<Real, 3> terms(Real x) const {
+        const Real t = x * duration_;
+        const Real q = x * period_;
+        if (x == 0) {
+            return {atZero_, 0, 0};
         }
-        return span >= 0 ? std::exp(x * period) * std::expm1(x * span) / perPeriod
-                         : -std::exp(x * (period + span)) * std::expm1(-x * span) / perPeriod;
-    }
-
-    /// dA/du = A (w(xp) - w(xT)) / (x p e^(xp)) with w(z) = z / (1 - e^-z) = 1 + z/2 + z^2/12 - z^4/720 + ...
-    [[nodiscard]] Real curveSlope(Real x) const {
-        constexpr Real seriesLimit = 1e-3L;
-        const Real p = x * period;
-        const Real t = x * duration;
-        if (std::max(std::fabs(p), std::fabs(t)) < seriesLimit) {
-            const Real difference = (period - duration) * (0.5L + (p + t) / 12 - (p + t) * (p * p + t * t) / 720);
-            const Real curve = p == 0 || t == 0 ? period / duration : std::expm1(p) / std::expm1(t);
-            return curve * difference / (period * std::exp(p));
+        if (std::max(std::fabs(t), std::fabs(q)) <= 1) {
+            // With what is left at x = 0 known better than its terms: s = n + (v^n - 1 - n (v - 1)) / (v - 1).
+            const Real gain = aboveTangentNearby(duration_, period_, x) / std::expm1(q);
+            return {first_ * std::expm1(t), payment_ * gain, atZero_};
+        }
+        if (std::fabs(t) <= 1) {
+            return {first_ * std::expm1(t), payment_ * (std::expm1(t) / std::expm1(q)), first_ - second_};
         }
         if (x < 0) {
-            const Real shifted = std::exp(x * (duration - period));
-            return std::expm1(p) / std::expm1(t) * (p / std::expm1(p) - t * shifted / std::expm1(t)) / p;
+            // The last payment has not grown; all others have to s - 1.
+            const Real others =
+                (t < q ? std::exp(q) * std::expm1(t - q) : -std::exp(t) * std::expm1(q - t)) / std::expm1(q);
+            return {first_ * std::exp(t), payment_ * others, payment_ - second_};
         }
-        return std::exp(-t) * std::expm1(-p) / std::expm1(-t) * (t / std::expm1(-t) - p / std::expm1(-p)) / p;
+        return {first_, payment_ * (-std::expm1(-t) / std::expm1(q)), -second_ * std::exp(-t)};
     }
+
+    /// The sign of f for x towards minus infinity: f = payment - second + (first - payment) G + payment g + ...
+    [[nodiscard]] Real signAtLow() const {
+        if (payment_ != second_) {
+            return signOf(payment_ - second_);
+        }
+        return signOf(duration_ < period_ && first_ != payment_ ? first_ - payment_
+                      : duration_ == period_                    ? first_
+                                                                : payment_);
+    }
+
+    /// The sign of f for x towards infinity: f / G = first + payment / g - second / G + ...
+    [[nodiscard]] Real signAtHigh() const {
+        if (first_ != 0) {
+            return signOf(first_);
+        }
+        return signOf(duration_ < period_ && second_ != 0 ? -second_
+                      : duration_ == period_              ? payment_ - second_
+                                                          : payment_);
+    }
+
+    /// Whether the slope of f / s in u has a zero: it lies between second and first for n > 1, between infinity of the
+    /// sign of first - second and first for n < 1.
+    [[nodiscard]] bool turns() const {
+        return duration_ > period_   ? signOf(first_) * signOf(second_) < 0
+               : duration_ < period_ ? signOf(first_) * signOf(second_ - first_) > 0
+                                     : false;
+    }
+
+    /// The sign of the slope of f / s in u, first - (second - first) A'(u), where it has a zero. With v = 1 + u,
+    ///     -A' (v^n - 1)^2 = v^n (v^-n - 1 - n (1/v - 1)),
+    ///     (1 + A') (v^n - 1)^2 = v^(n - 1) (v^(n + 1) - 1 - (n + 1) (v - 1)).
+    /// Of the two that one is taken which leaves no cancellation but that of two terms of opposite signs.
+    [[nodiscard]] Real slope(Real x) const {
+        const Real t = x * duration_;
+        const Real q = x * period_;
+        if (x == 0) {
+            return first_ * (duration_ + period_) + second_ * (duration_ - period_);
+        }
+        const Real square = std::expm1(-std::fabs(t)) * std::expm1(-std::fabs(t));
+        if (x < 0 && duration_ > period_) {
+            return second_ * square +
+                   (first_ - second_) * std::exp(t - q) * aboveTangent(duration_ + period_, period_, x);
+        }
+        const Real above = (second_ - first_) * aboveTangent(duration_, period_, -x);
+        return x < 0 ? first_ * square * std::exp(q - t) + above : first_ * square + above * std::exp(-t);
+    }
+
+    Real first_;
+    Real second_;
+    Real payment_;
+    Real duration_;
+    Real period_;
+    Real atZero_ = 0;  ///< f(0) = first + n payment - second
 };
 
-/// The growth nearest to 0 at which the balance holds; 18 if there is none.
-Real solveGrowth(const Equation& equation) {
-    // Beyond, even the slower of the two exponentials leaves the range of numbers.
-    const Real reach = 10000 / std::min(equation.duration, equation.period);
-    const auto balance = [&](Real x) { return equation.balance(x); };
-    const auto slope = [&](Real x) { return equation.slope(x); };
-    if (balance(0) == 0) {
-        return 0;
+/// The growths at which first becomes second with the payments of the schedule; 0 where every growth fits.
+std::vector<Real> growthsOf(Real first, Real second, Real payment, const Schedule& schedule) {
+    if (payment == 0) {
+        return {logarithmOfRatio(second, first, second - first) / schedule.duration};
     }
-    const Real atLow = balance(-reach);
-    const Real atHigh = balance(reach);
-    if (signOf(atLow) * signOf(atHigh) < 0) {
-        return zeroBetween(-reach, reach, balance);
+    if (schedule.atStart) {
+        // Backwards in time, payments at the start stand at the end.
+        std::vector<Real> growths = growthsOf(second, first, -payment, schedule.reversed());
+        std::transform(growths.begin(), growths.end(), growths.begin(), std::negate());
+        return growths;
     }
-    // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
-    if (!(signOf(slope(-reach)) * signOf(slope(reach)) < 0)) {
-        raise(ErrorCode::NoSolution);
-    }
-    const Real turn = zeroBetween(-reach, reach, slope);
-    const Real atTurn = balance(turn);
-    // Where the two zeros are one, rounding may leave the balance on either side of it.
-    constexpr Real rounding = 16 * std::numeric_limits<Real>::epsilon();
-    if (std::fabs(atTurn) <= rounding * equation.scale(turn)) {
-        return turn;
-    }
-    if (!(signOf(atTurn) * signOf(atLow + atHigh) < 0)) {
-        raise(ErrorCode::NoSolution);
-    }
-    const Real lower = zeroBetween(-reach, turn, balance);
-    const Real upper = zeroBetween(turn, reach, balance);
-    return std::fabs(lower) < std::fabs(upper) ? lower : upper;
+    // A power of two brings the amounts near the upper end of the range, where the smallest of them keep their digits.
+    constexpr int largestExponent = 12000;
+    int exponent = 0;
+    std::frexp(std::max({std::fabs(first), std::fabs(second), std::fabs(payment)}), &exponent);
+    const auto fitted = [&](Real amount) { return std::scalbn(amount, largestExponent - exponent); };
+    return Equation(fitted(first), fitted(second), fitted(payment), schedule.duration, schedule.period).zeros();
 }
 
 }  // namespace
@@ -243,14 +377,21 @@ Value fv(std::span<const Value> arguments) {
     const auto [first, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
     const Real growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    return finite(scaled(first, std::exp(growth * duration)) + scaled(payment, accumulated(schedule, growth)));
+    // Where amounts cancel, both have to have lost or gained by the same rounded growth.
+    if (growth <= 0) {
+        return finite(grown(first, growth * duration) + accumulated(payment, schedule, growth));
+    }
+    return finite(grown(first + discounted(payment, schedule, growth), growth * duration));
 }
 
 Value pv(std::span<const Value> arguments) {
     const auto [second, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
     const Real growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    return finite(scaled(second, std::exp(-growth * duration)) - scaled(payment, discounted(schedule, growth)));
+    if (growth >= 0) {
+        return finite(grown(second, -growth * duration) - discounted(payment, schedule, growth));
+    }
+    return finite(grown(second - accumulated(payment, schedule, growth), -growth * duration));
 }
 
 Value pmt(std::span<const Value> arguments) {
@@ -259,20 +400,20 @@ Value pmt(std::span<const Value> arguments) {
     const Schedule schedule = {duration, period, timing == 1};
     // Seen from the side on which nothing overflows.
     if (growth <= 0) {
-        return finite((second - first - scaled(first, std::expm1(growth * duration))) / accumulated(schedule, growth));
+        return finite(difference(second, first, growth * duration) / accumulated(1, schedule, growth));
     }
-    return finite((second - first + scaled(second, std::expm1(-growth * duration))) / discounted(schedule, growth));
+    return finite(-difference(first, second, -growth * duration) / discounted(1, schedule, growth));
 }
 
 Value dur(std::span<const Value> arguments) {
     const auto [first, second, annualRate, compounding, payment, period, timing] =
         readArguments(arguments, std::nullopt, 3);
+    if (first == second) {
+        return {0};
+    }
     const Real growth = growthOf(annualRate, compounding);
     if (!std::isfinite(growth)) {
         raise(ErrorCode::NoSolution);
-    }
-    if (first == second) {
-        return {0};
     }
     // With the value a of endless payments, (second + a) = (first + a) e^(xT).
     const Real perPeriod = timing == 1 ? -std::expm1(-growth * period) : std::expm1(growth * period);
@@ -288,17 +429,20 @@ Value dur(std::span<const Value> arguments) {
 
 Value rate(std::span<const Value> arguments) {
     const auto [first, second, duration, compounding, payment, period, timing] = readArguments(arguments, 2, 3);
-    const Real size = std::max({std::fabs(first), std::fabs(second), std::fabs(payment)});
-    Real growth = 0;
-    if (payment == 0) {
-        growth = logarithmOfRatio(second, first, second - first) / duration;
-    } else if (timing == 1) {
-        // Backwards in time, payments at the start stand at the end.
-        growth = -solveGrowth({second / size, first / size, -payment / size, duration, period});
-    } else {
-        growth = solveGrowth({first / size, second / size, payment / size, duration, period});
+    const Schedule schedule = {duration, period, timing == 1};
+    std::vector<Real> growths = growthsOf(first, second, payment, schedule);
+    // Where all is lost, the last payment is left if it comes at the end.
+    if (payment != 0 && second == (schedule.atStart ? 0 : payment)) {
+        growths.push_back(-positiveInfinity);
     }
-    return finite(rateOf(growth, compounding));
+    Real nearest = positiveInfinity;
+    for (const Real growth : growths) {
+        const Real annualRate = rateOf(growth, compounding);
+        if (std::fabs(annualRate) < std::fabs(nearest)) {
+            nearest = annualRate;
+        }
+    }
+    return finite(nearest);
 }
 
 }  // namespace calquo

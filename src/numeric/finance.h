@@ -12,7 +12,7 @@
 // period of payment or compounding defaults to a month, a twelfth of Y, a payment and a timing to 0. A duration and a
 // payment period must be at least 86400 seconds (16), a compounding period not negative (13), a timing 0 or 1 (2).
 // These errors point at the end of the argument's literal. 18 ("no solution") where there is no finite answer, or only
-// a negative duration.
+// a negative duration, and for a rate below -Y / c, at which more than all would be lost every c seconds.
 #pragma once
 
 #include <span>
@@ -35,7 +35,8 @@ Value pmt(std::span<const Value> arguments);
 Value dur(std::span<const Value> arguments);
 
 /// The nominal annual rate. Arguments: first value, second value, duration, compounding period, payment, payment
-/// period, timing. Where two rates satisfy the balance, the one nearer to 0.
+/// period, timing. Where two rates satisfy the balance, the one nearer to 0; -Y / c, the rate that takes everything, is
+/// one of them for c > 0.
 Value rate(std::span<const Value> arguments);
 
 }  // namespace calquo

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "values/durations.h"
 #include "values/extended.h"
 #include "values/value.h"
 
@@ -71,9 +72,6 @@ struct Unit {
 /// A decimal constant as the table means it: rounded to a double and widened. Going through a parameter takes away the
 /// excess precision that a compiler may keep in a literal.
 constexpr Real decimal(double literal) { return literal; }
-
-/// The mean year of the Gregorian calendar, 365.2425 days, in seconds.
-constexpr Real gregorianYear = 31556952;
 
 /// The units in the order of their dimensions.
 inline constexpr std::array unitTable = {
@@ -213,17 +211,17 @@ inline constexpr std::array unitTable = {
     Unit{Dimension::Temperature, "R", {"rankine"}, 5.0L / 9, "Rankine scale, (5/9; 0)"},
     Unit{Dimension::Temperature, "reaumur", {}, decimal(1.25), "Reaumur scale: (1.25; -218.52))", decimal(-218.52)},
 
-    Unit{Dimension::Time, "dy", {"day"}, 86400, "Day"},
+    Unit{Dimension::Time, "dy", {"day"}, secondsOfDay, "Day"},
     Unit{Dimension::Time, "wk", {"week"}, 604800, "Week"},
-    Unit{Dimension::Time, "mo", {"month"}, gregorianYear / 12, "Average Gregorian month (yr/12)"},
-    Unit{Dimension::Time, "yr", {"year"}, gregorianYear, "Gregorian year (365.2425 days)"},
+    Unit{Dimension::Time, "mo", {"month"}, secondsOfMonth, "Average Gregorian month (yr/12)"},
+    Unit{Dimension::Time, "yr", {"year"}, secondsOfYear, "Gregorian year (365.2425 days)"},
     Unit{Dimension::Time, "s", {"sc", "second"}, 1, "Second (basic unit)"},
     Unit{Dimension::Time, "mn", {"minute"}, 60, "Minute"},
     Unit{Dimension::Time, "hr", {"hour"}, 3600, "Hour"},
     Unit{Dimension::Time, "yrTrop", {}, decimal(31556925.97474), "Tropical (astronomical) year"},
-    Unit{Dimension::Time, "decade", {}, 10 * gregorianYear, "Decade"},
-    Unit{Dimension::Time, "century", {}, 100 * gregorianYear, "Century"},
-    Unit{Dimension::Time, "millenium", {}, 1000 * gregorianYear, "Millenium"},
+    Unit{Dimension::Time, "decade", {}, 10 * secondsOfYear, "Decade"},
+    Unit{Dimension::Time, "century", {}, 100 * secondsOfYear, "Century"},
+    Unit{Dimension::Time, "millenium", {}, 1000 * secondsOfYear, "Millenium"},
     Unit{Dimension::Time, "plkt", {}, decimal(5.39121e-44), "Plank time"},
 
     Unit{Dimension::Volume, "m3", {}, 1, "Cubic metre (basic unit)"},

@@ -10,14 +10,15 @@
 #include <random>
 #include <vector>
 
+#include "values/durations.h"
 #include "values/errors.h"
 
 namespace calquo {
 namespace {
 
-constexpr Real day = 86400;
-constexpr Real year = 31556952;
-constexpr Real month = year / 12;
+constexpr Real day = secondsOfDay;
+constexpr Real year = secondsOfYear;
+constexpr Real month = secondsOfMonth;
 
 using Function = Value (*)(std::span<const Value>);
 
