@@ -292,9 +292,9 @@ private:
             // The last payment has not grown; all others have to s - 1.
             const Real others =
                 (t < q ? std::exp(q) * std::expm1(t - q) : -std::exp(t) * std::expm1(q - t)) / std::expm1(q);
-            return {first_ * std::exp(t), payment_ * others, payment_ - second_};
+            return {grown(first_, t), payment_ * others, payment_ - second_};
         }
-        return {first_, payment_ * (-std::expm1(-t) / std::expm1(q)), -second_ * std::exp(-t)};
+        return {first_, payment_ * (-std::expm1(-t) / std::expm1(q)), -grown(second_, -t)};
     }
 
     /// The sign of f for x towards minus infinity: f = payment - second + (first - payment) G + payment g + ...
@@ -432,7 +432,7 @@ Value rate(std::span<const Value> arguments) {
     const Schedule schedule = {duration, period, timing == 1};
     std::vector<Real> growths = growthsOf(first, second, payment, schedule);
     // Where all is lost, the last payment is left if it comes at the end.
-    if (payment != 0 && second == (schedule.atStart ? 0 : payment)) {
+    if (payment != 0 && second == (schedule.atStart ? 0 : payment) && !std::isnan(first)) {
         growths.push_back(-positiveInfinity);
     }
     Real nearest = positiveInfinity;

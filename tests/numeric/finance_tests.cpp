@@ -62,15 +62,15 @@ std::ostream& operator<<(std::ostream& out, const Plan& plan) {
 /// Plans of all sizes: days to a century, falling and rising, with and without payments, whole and broken periods.
 class Plans {
 public:
-    explicit Plans(unsigned seed) : generator_(seed) {}
+    explicit Plans(unsigned seed, Real steepest = 4) : generator_(seed), steepest_(steepest) {}
 
     Plan next() {
         Plan plan = {};
         plan.first = chance(8) ? 0 : uniform(-1000, 1000);
         plan.duration = day * std::exp(uniform(0, std::log(Real{36525})));
         // Neither so steep that everything vanishes nor so flat that nothing happens.
-        plan.annualRate =
-            std::copysign(std::exp(uniform(-7, 0)), uniform(-1, 1)) * std::min<Real>(1, 4 * year / plan.duration);
+        plan.annualRate = std::copysign(std::exp(uniform(-7, 0)), uniform(-1, 1)) *
+                          std::min<Real>(1, steepest_ * year / plan.duration);
         plan.compounding = chance(4) ? 0 : day * std::exp(uniform(0, std::log(Real{365})));
         plan.payment = chance(4) ? 0 : uniform(-100, 100);
         plan.period =
@@ -89,6 +89,7 @@ private:
     bool chance(unsigned oneIn) { return generator_() % oneIn == 0; }
 
     std::mt19937_64 generator_;
+    Real steepest_;
 };
 
 constexpr int sweepSize = 4000;
@@ -142,7 +143,7 @@ TEST(Finance, EachFunctionUndoesTheFutureValue) {
 }
 
 TEST(Finance, RateIsFoundAgain) {
-    Plans plans(3);
+    Plans plans(3, 40);
     for (int count = 0; count < sweepSize; ++count) {
         const Plan plan = plans.next();
         // Without a first value a single payment at its end, or none, says nothing about the rate.
@@ -168,8 +169,9 @@ TEST(Finance, RateIsMissingOnlyWhereTheBalanceCrossesNowhere) {
         if (plan.payment == 0) {
             continue;
         }
-        // Any second value, reached or not.
-        const Real second = plan.first + (plan.payment - plan.first) * std::sin(static_cast<Real>(count));
+        // Any second value, reached or not, of the size of the others or far from it.
+        const Real size = count % 2 == 0 ? 1 : std::exp(50 * std::sin(static_cast<Real>(7 * count)));
+        const Real second = size * (plan.first + (plan.payment - plan.first) * std::sin(static_cast<Real>(count)));
         const auto misses = [&](Real annualRate) {
             Plan other = plan;
             other.annualRate = annualRate;
@@ -226,26 +228,32 @@ TEST(Finance, RatesWhereSolversGoAstray) {
     }
 }
 
-TEST(Finance, SearchesEndSoon) {
+TEST(Finance, SearchesAtTheEndsOfTheRangeEndSoon) {
+    const Real none = std::numeric_limits<Real>::quiet_NaN();
     const Real huge = 1e4000L;
-    const std::vector<Value> calls[] = {
-        {-1, huge, 1000 * year, month, -1 / huge, day, 0},
-        {huge, -huge, day, 0, 1, huge, 1},
-        {1, 2, huge, 0, -1, day, 0},
-        {1, 2, day, huge, -1, huge, 0},
-        {1e-4900L, 1e4900L, day, 0, 1e-4900L, day, 0},
-        {100, -342, huge, huge, -221, huge / 2, 0},
-        {std::numeric_limits<Real>::quiet_NaN(), 1, year, month, 1},
+    struct {
+        std::vector<Value> arguments;
+        Real wanted;  ///< annual rate, or none
+    } const rows[] = {
+        {{1 / huge, 1e100L, year, 0, 1 / huge}, 4100 * std::log(Real{10})},
+        {{0, 1e600L, 20 * year, 0, 1e-20L, day}, 71.3034169467L},
+        {{100, -32016095345068316622848.0L, 60 * month, month, -99, month, 1}, 14.4511L},
+        {{-1, huge, 1000 * year, month, -1 / huge, day, 0}, none},
+        {{100, -342, huge, huge, -221, huge / 2, 0}, none},
+        {{none, 1, year, month, 1}, none},
     };
     const auto start = std::chrono::steady_clock::now();
-    for (const std::vector<Value>& arguments : calls) {
+    for (const auto& [arguments, wanted] : rows) {
+        Real found = none;
         try {
-            EXPECT_TRUE(std::isfinite(rate(arguments).re));
+            found = rate(arguments).re;
         } catch (const Except& error) {
             EXPECT_EQ(error.code, ErrorCode::NoSolution);
         }
+        EXPECT_TRUE(std::isnan(wanted) ? std::isnan(found) : std::fabs(found - wanted) <= 1e-5L * wanted)
+            << static_cast<double>(found) << " for " << static_cast<double>(wanted);
     }
-    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 1);
+    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 0.1);
 }
 
 }  // namespace
