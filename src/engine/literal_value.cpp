@@ -153,8 +153,7 @@ Real literalValue(const LiteralDigits& literal) {
     }
     const int scale = places - taken;
     const Truncation cut = truncate(multiply(normalized(leading, 0), power(literal.base, scale)));
-    // The digits left out and the power each err by a few units of 2^-122, the power by one for each squaring or
-    // product.
+    // The digits left out err by a unit of 2^-122 of the number, the power by one for each unit of its exponent.
     const UInt128 error = {0, (static_cast<std::uint64_t>(std::abs(scale)) + 8) << 7};
     const UInt128 distance = cut.rest > cut.half ? cut.rest - cut.half : cut.half - cut.rest;
     if (distance > error) {
