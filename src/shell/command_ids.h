@@ -3,11 +3,65 @@
 
 #include <cstdint>
 
+#include "format/numeric_format.h"
+
 namespace calquo {
 
+/// The commands that have one identifier each; the panels and the formats have ranges below.
 enum class Command : std::uint16_t {
     WorkArea = 1,  ///< Carried by the work area's own notifications.
-    HelpContents = 2592,
+    ClearWorkArea = 0x120,
+    ReadDefaultFile = 0x140,
+    SaveDefaultFile = 0x141,
+    ReadDefaultAtStartup = 0x142,
+    SaveDefaultAtExit = 0x143,
+    SelectDefaultFile = 0x144,
+    ReadFromFile = 0x160,
+    SaveAsFile = 0x161,
+    ResetFormats = 0x541,
+    HelpContents = 0xA20,
+    About = 0xA60,
+    Exit = 0x7FFF,
+    HideButtons = 0x8010,
+    ButtonsAddDegrees = 0x8031,
+    ButtonsAddGradients = 0x8032,
+    ButtonsAddRadians = 0x8033,
+    LeftCaptionPanel = 0x9011,  ///< The two caption panels are never in a menu.
+    RightCaptionPanel = 0x9012,
 };
+
+constexpr std::uint16_t identifierOf(Command command) { return static_cast<std::uint16_t>(command); }
+
+/// Identifiers that share one command and differ in what it acts on; both ends belong to the range.
+struct CommandRange {
+    std::uint16_t first;
+    std::uint16_t last;
+
+    constexpr bool contains(std::uint16_t identifier) const { return identifier >= first && identifier <= last; }
+    bool operator==(const CommandRange&) const = default;
+};
+
+/// Open or close the panel of the same identifier.
+inline constexpr CommandRange panelCommands{0xA001, 0xDFFE};
+
+/// Added to the identifier that selects a format, gives the one that modifies it.
+inline constexpr std::uint16_t modifyFormatBase = 0x4000;
+
+/// Select, or open the dialog of, the format whose index is the identifier less the first of the range.
+inline constexpr CommandRange selectFormatCommands{0x511, 0x517};
+inline constexpr CommandRange modifyFormatCommands{selectFormatCommands.first + modifyFormatBase,
+                                                   selectFormatCommands.last + modifyFormatBase};
+static_assert(selectFormatCommands.last - selectFormatCommands.first + 1 == formatKinds.size());
+static_assert(!panelCommands.contains(identifierOf(Command::LeftCaptionPanel)) &&
+              !panelCommands.contains(identifierOf(Command::RightCaptionPanel)));
+
+/// The format that an identifier of one of the two ranges is about.
+constexpr FormatKind formatOf(CommandRange range, std::uint16_t identifier) {
+    return static_cast<FormatKind>(identifier - range.first);
+}
+
+constexpr std::uint16_t selectCommandOf(FormatKind kind) {
+    return static_cast<std::uint16_t>(selectFormatCommands.first + static_cast<std::uint32_t>(kind));
+}
 
 }  // namespace calquo
