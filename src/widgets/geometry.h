@@ -3,11 +3,27 @@
 
 namespace calquo {
 
+struct Point {
+    int left = 0;
+    int top = 0;
+
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
+struct Size {
+    int width = 0;
+    int height = 0;
+
+    friend bool operator==(const Size&, const Size&) = default;
+};
+
 struct Rectangle {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
+
+    friend bool operator==(const Rectangle&, const Rectangle&) = default;
 };
 
 /// The dots per inch at which lengths in the source are meant.

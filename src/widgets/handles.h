@@ -4,13 +4,19 @@
 
 #include <utility>
 
-struct HWND__;
+struct HBITMAP__;
+struct HDC__;
+struct HFONT__;
 struct HINSTANCE__;
+struct HWND__;
 
 namespace calquo {
 
-using WindowHandle = HWND__*;
+using BitmapHandle = HBITMAP__*;
+using DrawingContext = HDC__*;
+using FontHandle = HFONT__*;
 using ModuleHandle = HINSTANCE__*;
+using WindowHandle = HWND__*;
 
 /// Owns one handle and hands it to `dispose` at the end.
 template <typename Handle, void (*dispose)(Handle)>
@@ -42,10 +48,16 @@ private:
     Handle handle_ = nullptr;
 };
 
+void deleteBitmap(BitmapHandle bitmap);
+void deleteDrawingContext(DrawingContext context);
+void deleteFont(FontHandle font);
 void destroyWindow(WindowHandle window);
 void freeLibrary(ModuleHandle library);
 
-using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
+using BitmapOwner = HandleOwner<BitmapHandle, deleteBitmap>;
+using DrawingContextOwner = HandleOwner<DrawingContext, deleteDrawingContext>;
+using FontOwner = HandleOwner<FontHandle, deleteFont>;
 using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
+using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
 
 }  // namespace calquo

@@ -5,6 +5,12 @@
 
 namespace calquo {
 
+void deleteBitmap(BitmapHandle bitmap) { DeleteObject(bitmap); }
+
+void deleteDrawingContext(DrawingContext context) { DeleteDC(context); }
+
+void deleteFont(FontHandle font) { DeleteObject(font); }
+
 void destroyWindow(WindowHandle window) { DestroyWindow(window); }
 
 void freeLibrary(ModuleHandle library) { FreeLibrary(library); }

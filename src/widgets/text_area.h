@@ -78,6 +78,11 @@ private:
     struct MessageRow;
     static const MessageRow messageRows[];
 
+    /// The control's library knows the one control under two names: as "RichEdit20A" it speaks the code page, and would
+    /// make an 8 of an infinity sign; as "RichEdit20W" it speaks UTF-16. Here the first name stands for the second
+    /// behaviour.
+    static const WidgetClass& widgetClass();
+
     std::optional<MessageAnswer> hear(const Message& message);
     std::optional<MessageAnswer> hearKey(const Message& message);
     std::optional<MessageAnswer> hearCharacter(const Message& message);

@@ -6,7 +6,6 @@
 #include <cwchar>
 #include <limits>
 
-#include "values/errors.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -25,30 +24,6 @@ constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
 constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr int margin = 8;  // at 96 dots per inch
-
-/// Loads the control's library and names its class for this program. The library knows the one control under two
-/// names: as "RichEdit20A" it speaks the code page, and would make an 8 of an infinity sign; as "RichEdit20W" it speaks
-/// UTF-16. Here the first name stands for the second behaviour.
-bool prepareControl() {
-    static const LibraryOwner library(LoadLibraryW(controlLibrary));
-    WNDCLASSW description{};
-    if (!library || GetClassInfoW(nullptr, unicodeClass, &description) == 0) {
-        return false;
-    }
-    description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
-    description.hInstance = GetModuleHandleW(nullptr);
-    description.lpszClassName = controlClass;
-    return RegisterClassW(&description) != 0;
-}
-
-/// The name of the control's class, ready to be used.
-const wchar_t* preparedControl() {
-    static const bool ready = prepareControl();
-    if (!ready) {
-        raise(ErrorCode::InternalFault);
-    }
-    return controlClass;
-}
 
 int CALLBACK noteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
     *reinterpret_cast<bool*>(found) = true;
@@ -154,9 +129,15 @@ const TextArea::MessageRow TextArea::messageRows[] = {
     {WM_SYSCHAR, &TextArea::hearCharacter},
 };
 
+const Component::WidgetClass& TextArea::widgetClass() {
+    static const LibraryOwner library(LoadLibraryW(controlLibrary));
+    static const WidgetClass registered = registerClass(unicodeClass, controlClass);
+    return registered;
+}
+
 TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
                    MessageFilter otherMessages)
-    : Component({parent, command, preparedControl(), controlStyle, 0},
+    : Component(widgetClass(), {parent, command, controlStyle, {}},
                 [this](const Message& message) { return hear(message); }),
       normal_(normal),
       keys_(std::move(keys)),

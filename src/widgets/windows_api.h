@@ -12,5 +12,6 @@
 #endif
 
 #include <windows.h>
-// Needs <windows.h> in front of it.
+// Need <windows.h> in front of them.
+#include <commctrl.h>
 #include <richedit.h>

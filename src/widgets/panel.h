@@ -1,0 +1,58 @@
+// A widget that other widgets stand on, in a row or one below the other.
+#pragma once
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "widgets/component.h"
+
+namespace calquo {
+
+enum class Direction : std::uint8_t {
+    Down,    ///< One below the other, from the left edge.
+    Across,  ///< A row, from left to right.
+};
+
+/// The bits of a panel's style word that mean something; all others are free.
+enum PanelStyle : std::uint32_t {
+    panelMargin = 0x10000,  ///< Keeps a quarter of a button's size free around its children.
+};
+
+class Panel : public Component {
+public:
+    struct Creation {
+        std::uint16_t command = 0;
+        std::uint32_t style = 0;  ///< Bits of PanelStyle.
+        Direction direction = Direction::Down;
+    };
+
+    Panel(WindowHandle parent, const Creation& creation);
+
+    /// Makes a widget on this panel behind those that it has: a Widget(handle(), arguments...).
+    template <typename Widget, typename... Arguments>
+    Widget& add(Arguments&&... arguments) {
+        auto widget = std::make_unique<Widget>(handle(), std::forward<Arguments>(arguments)...);
+        Widget& added = *widget;
+        children_.push_back(std::move(widget));
+        return added;
+    }
+
+    const std::vector<std::unique_ptr<Component>>& children() const { return children_; }
+
+    /// The size of the children in their direction, and of the margin.
+    Size preferredSize() const override;
+    /// Places the children within the panel's present size, and theirs.
+    void layOut() override;
+    /// Passes the notification on to the panel's own parent, unchanged.
+    std::optional<MessageAnswer> hearChildCommand(const Message& message) override;
+
+private:
+    std::optional<MessageAnswer> hear(const Message& message);
+
+    Direction direction_;
+    int margin_;
+    std::vector<std::unique_ptr<Component>> children_;
+};
+
+}  // namespace calquo

@@ -1,0 +1,54 @@
+// The system's tooltip control, loaded when the first one is needed.
+#include "widgets/tooltip.h"
+
+#include "widgets/wide_text.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+using InitializeControls = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
+
+/// Loads the control's library, which costs the program's start nothing this way.
+bool prepareControl() {
+    static const LibraryOwner library(LoadLibraryW(L"comctl32.dll"));
+    if (!library) {
+        return false;
+    }
+    const auto initialize = reinterpret_cast<InitializeControls>(
+        reinterpret_cast<void*>(GetProcAddress(library.get(), "InitCommonControlsEx")));
+    const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_BAR_CLASSES};
+    return initialize != nullptr && initialize(&wanted) != 0;
+}
+
+/// The older family of systems sets the highest bit of its version.
+bool isNewTechnologySystem() { return (GetVersion() & 0x80000000) == 0; }
+
+}  // namespace
+
+WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const Message& first) {
+    static const bool ready = isNewTechnologySystem() && prepareControl();
+    if (!ready) {
+        return {};
+    }
+    WindowOwner tooltip(CreateWindowExW(
+        WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
+        CW_USEDEFAULT, CW_USEDEFAULT, widget, nullptr, GetModuleHandleW(nullptr), nullptr));
+    std::wstring tip = wideText(description);
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = widget;
+    tool.uId = reinterpret_cast<UINT_PTR>(widget);
+    tool.lpszText = tip.data();
+    SendMessageW(tooltip.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    MSG relayed{};
+    relayed.hwnd = widget;
+    relayed.message = first.code;
+    relayed.wParam = first.wide;
+    relayed.lParam = first.extra;
+    SendMessageW(tooltip.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+    return tooltip;
+}
+
+}  // namespace calquo
