@@ -2,7 +2,6 @@
 // contents that anybody may have edited.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -11,10 +10,9 @@
 #include <vector>
 
 #include "format/numeric_format.h"
+#include "panels/button_action.h"
 
 namespace calquo {
-
-enum class AngleOption : std::uint8_t;  // in panels/button_action.h
 
 /// The numbers of the items. The boolean of number n is bit n - 1 of the stored "Flags".
 enum class BooleanSetting : std::uint32_t {
@@ -123,16 +121,13 @@ public:
     Marks marks() const;
 
 private:
-    static constexpr std::size_t itemCount = 9;
-
-    template <typename Type>
-    Type& held(std::uint32_t number);
     template <typename Type>
     const Type& held(std::uint32_t number) const;
-    void write(std::uint32_t number);
+    /// Holds a value, and writes it where that is done at once.
+    void hold(std::uint32_t number, SettingValue value);
 
     SettingsStorage& storage_;
-    std::array<SettingValue, itemCount> values_;
+    std::vector<SettingValue> values_;  // one for each item
 };
 
 }  // namespace calquo
