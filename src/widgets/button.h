@@ -35,6 +35,7 @@ public:
 private:
     struct MessageRow;
     static const MessageRow messageRows[];
+    static const WidgetClass& widgetClass();
 
     std::optional<MessageAnswer> hear(const Message& message);
     MessageAnswer press(const Message& message);
@@ -46,8 +47,6 @@ private:
 
     void redraw();
     void notify(ButtonNotice notice);
-    void drawFace(DrawingContext context, Size size) const;
-    void drawLabel(DrawingContext context, Size size, Color color) const;
 
     Symbol symbol_;
     Color face_;

@@ -28,6 +28,7 @@ public:
     };
 
     Panel(WindowHandle parent, const Creation& creation);
+    ~Panel() override;
 
     /// Makes a widget on this panel behind those that it has: a Widget(handle(), arguments...).
     template <typename Widget, typename... Arguments>
@@ -48,6 +49,10 @@ public:
     std::optional<MessageAnswer> hearChildCommand(const Message& message) override;
 
 private:
+    static const WidgetClass& widgetClass();
+
+    void layOutDown(int width);
+    void layOutAcross(int width);
     std::optional<MessageAnswer> hear(const Message& message);
 
     Direction direction_;

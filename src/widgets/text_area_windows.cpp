@@ -6,6 +6,7 @@
 #include <cwchar>
 #include <limits>
 
+#include "widgets/fonts.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -24,27 +25,6 @@ constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
 constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr int margin = 8;  // at 96 dots per inch
-
-int CALLBACK noteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-}
-
-bool isInstalled(const wchar_t* fontName) {
-    LOGFONTW wanted{};
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    std::wcsncpy(wanted.lfFaceName, fontName, LF_FACESIZE - 1);
-    bool found = false;
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesExW(screen, &wanted, noteFont, reinterpret_cast<LPARAM>(&found), 0);
-    ReleaseDC(nullptr, screen);
-    return found;
-}
-
-const wchar_t* chosenFont() {
-    const auto* const font = std::find_if(std::begin(fontNames), std::end(fontNames), isInstalled);
-    return font == std::end(fontNames) ? fontNames[std::size(fontNames) - 1] : *font;
-}
 
 bool isHeld(int key) { return GetKeyState(key) < 0; }
 
@@ -142,7 +122,7 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
       normal_(normal),
       keys_(std::move(keys)),
       otherMessages_(std::move(otherMessages)),
-      fontName_(chosenFont()) {
+      fontName_(installedFont(fontNames)) {
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
 }
@@ -214,7 +194,7 @@ void TextArea::select(TextRange range) {
     SendMessageW(handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&wanted));
 }
 
-std::wstring TextArea::text(TextRange range) const {
+std::wstring TextArea::charactersIn(TextRange range) const {
     std::wstring characters(static_cast<std::size_t>(range.end - range.begin), L'\0');
     TEXTRANGEW wanted{{range.begin, range.end}, characters.data()};
     const LRESULT length = SendMessageW(handle(), EM_GETTEXTRANGE, 0, reinterpret_cast<LPARAM>(&wanted));
@@ -227,7 +207,7 @@ Paragraph TextArea::paragraphAt(std::int32_t position) const {
     for (std::int64_t reach = firstReach;; reach *= 4) {
         const std::int64_t begin = std::max<std::int64_t>(0, position - reach);
         const std::int64_t end = std::min<std::int64_t>(position + reach, largestText);
-        const std::wstring around = text({static_cast<std::int32_t>(begin), static_cast<std::int32_t>(end)});
+        const std::wstring around = charactersIn({static_cast<std::int32_t>(begin), static_cast<std::int32_t>(end)});
         const std::size_t split = static_cast<std::size_t>(position - begin);
         const std::size_t endBefore = split == 0 ? std::wstring::npos : around.rfind(L'\r', split - 1);
         const std::size_t endBehind = around.find(L'\r', split);

@@ -15,6 +15,8 @@ int buttonSize();
 
 /// The font of the buttons, as high as the button size asks for.
 FontHandle buttonFont();
+/// A font as high as that of the buttons whose characters are `averageWidth` pixels wide on average.
+FontOwner narrowButtonFont(int averageWidth);
 /// The font of all other texts: the one that the user has chosen for messages.
 FontHandle textFont();
 

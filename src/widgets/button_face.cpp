@@ -1,0 +1,47 @@
+// The layers of a button's face.
+#include "widgets/button_face.h"
+
+namespace calquo {
+namespace {
+
+/// What text needs to be read with ease: level AA of the Web Content Accessibility Guidelines.
+constexpr double readableContrast = 4.5;
+constexpr int pressedPercent = 30;
+constexpr int edgePercent = 45;
+
+constexpr Color opposite(Color text) { return text == black ? white : black; }
+
+/// The whole of a pressed face, and the corners of a raised one: the colour on its way to the text's, or away from it
+/// where the text could not be read any more.
+Color firstTone(Color color, Color text) {
+    const Color nearer = mixed(color, text, pressedPercent);
+    return contrast(nearer, text) >= readableContrast ? nearer : mixed(color, opposite(text), pressedPercent);
+}
+
+/// The edge of a raised face.
+Color secondTone(Color color) { return mixed(color, black, edgePercent); }
+
+}  // namespace
+
+ButtonFace buttonFace(Size size, Color color, bool pressed) {
+    const int depth = size.height / 16 + 1;
+    const auto layer = [&](int left, int top, int right, int bottom, Color fill) {
+        return RoundedRectangle{{left, top, right - left, bottom - top}, 2 * depth, fill};
+    };
+    const int width = size.width;
+    const int height = size.height;
+    const Color text = textColorOn(color);
+    const Color edge = secondTone(color);
+    ButtonFace face{{layer(0, 0, width, height, firstTone(color, text))}, text};
+    if (!pressed) {
+        face.layers.insert(face.layers.end(), {
+                                                  layer(0, 0, width - depth, height - depth, edge),
+                                                  layer(1, 1, width - depth, height - depth, color),
+                                                  layer(depth, depth, width, height, edge),
+                                                  layer(depth, depth, width - 1, height - 1, color),
+                                              });
+    }
+    return face;
+}
+
+}  // namespace calquo

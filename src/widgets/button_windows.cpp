@@ -1,0 +1,234 @@
+// The button's messages, its timer and its painting.
+#include "widgets/button.h"
+
+#include <algorithm>
+#include <string>
+
+#include "widgets/paint_buffer.h"
+#include "widgets/toolkit.h"
+#include "widgets/wide_text.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+constexpr std::uint16_t handCursor = 201;
+constexpr UINT_PTR repeatTimer = 1;
+
+std::string storedText(const ButtonDescription& description) {
+    return std::string(description.label) + '|' + std::string(description.description);
+}
+
+Size clientSize(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right, client.bottom};
+}
+
+/// The painting of a window's invalid part, which is valid afterwards, whatever happens.
+class Painting {
+public:
+    explicit Painting(HWND window) : window_(window), context_(BeginPaint(window, &painting_)) {}
+    ~Painting() { EndPaint(window_, &painting_); }
+    Painting(const Painting&) = delete;
+    Painting& operator=(const Painting&) = delete;
+
+    HDC context() const { return context_; }
+
+private:
+    HWND window_;
+    PAINTSTRUCT painting_{};
+    HDC context_;
+};
+
+/// Selects an object into a context while it lives.
+class Selection {
+public:
+    Selection(HDC context, HGDIOBJ object) : context_(context), previous_(SelectObject(context, object)) {}
+    ~Selection() { SelectObject(context_, previous_); }
+    Selection(const Selection&) = delete;
+    Selection& operator=(const Selection&) = delete;
+
+private:
+    HDC context_;
+    HGDIOBJ previous_;
+};
+
+/// Paints the rectangles with the null pen, which leaves out the last column and row of each.
+void paintLayers(HDC context, const std::vector<RoundedRectangle>& layers) {
+    const Selection pen(context, GetStockObject(NULL_PEN));
+    const Selection brush(context, GetStockObject(DC_BRUSH));
+    for (const RoundedRectangle& layer : layers) {
+        SetDCBrushColor(context, colorReference(layer.color));
+        RoundRect(context, layer.place.left, layer.place.top, layer.place.left + layer.place.width,
+                  layer.place.top + layer.place.height, layer.cornerDiameter, layer.cornerDiameter);
+    }
+}
+
+int widthOf(HDC context, const std::wstring& text) {
+    SIZE size{};
+    GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
+    return size.cx;
+}
+
+/// A font in which a label of `width` pixels in the present one takes up no more than `room`.
+FontOwner fittingFont(HDC context, int width, int room) {
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context, &metrics);
+    return narrowButtonFont(std::max(1, static_cast<int>(metrics.tmAveCharWidth) * room / width));
+}
+
+/// Writes the label in the middle of an area, narrower where it would not fit.
+void paintLabel(HDC context, const std::wstring& label, Size area, Color color) {
+    const Selection font(context, buttonFont());
+    const int room = area.width - area.height / 5;
+    const int width = widthOf(context, label);
+    const FontOwner narrow = width > room ? fittingFont(context, width, room) : FontOwner();
+    const Selection fitting(context, narrow ? narrow.get() : buttonFont());
+    SetTextColor(context, colorReference(color));
+    SetBkMode(context, TRANSPARENT);
+    RECT place{0, 0, area.width, area.height};
+    DrawTextW(context, label.c_str(), static_cast<int>(label.size()), &place,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
+}
+
+/// Draws the symbol in the middle of an area.
+void paintSymbol(PaintBuffer& buffer, Symbol symbol, Size area, Color color) {
+    const Coverage coverage = coverageOf(shapeOf(symbol), area.height * 3 / 5);
+    const Point place{(area.width - coverage.size.width) / 2, (area.height - coverage.size.height) / 2};
+    buffer.lay(coverage, place, color);
+}
+
+}  // namespace
+
+/// Which member hears which message.
+struct Button::MessageRow {
+    UINT code;
+    MessageAnswer (Button::*hear)(const Message&);
+};
+
+const Button::MessageRow Button::messageRows[] = {
+    {WM_LBUTTONDOWN, &Button::press},
+    // The second of two quick presses.
+    {WM_LBUTTONDBLCLK, &Button::press},
+    {WM_TIMER, &Button::repeat},
+    {WM_LBUTTONUP, &Button::release},
+    {WM_CAPTURECHANGED, &Button::loseCapture},
+    {WM_PAINT, &Button::paint},
+    {WM_ERASEBKGND, &Button::keepBackground},
+};
+
+const Component::WidgetClass& Button::widgetClass() {
+    static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor);
+    return registered;
+}
+
+Button::Button(WindowHandle parent, std::uint16_t command, const ButtonDescription& description)
+    : Component(widgetClass(), {parent, command, BS_OWNERDRAW, storedText(description)},
+                [this](const Message& message) { return hear(message); }),
+      symbol_(description.symbol),
+      face_(description.face),
+      press_(description.repeats) {
+    const int size = buttonSize();
+    setPreferredSize({(description.widthNumber + 2) * size / 2, size});
+}
+
+void Button::setLook(const ButtonDescription& description) {
+    setText(storedText(description));
+    symbol_ = description.symbol;
+    face_ = description.face;
+    redraw();
+}
+
+std::optional<MessageAnswer> Button::hear(const Message& message) {
+    const auto* const row = std::find_if(std::begin(messageRows), std::end(messageRows),
+                                         [&](const MessageRow& candidate) { return candidate.code == message.code; });
+    return row == std::end(messageRows) ? std::nullopt : std::optional((this->*row->hear)(message));
+}
+
+MessageAnswer Button::press(const Message&) {
+    SetCapture(handle());
+    const ButtonNotice notice = press_.press();
+    redraw();
+    if (press_.repeats()) {
+        int delay = 0;
+        SystemParametersInfoW(SPI_GETKEYBOARDDELAY, 0, &delay, 0);
+        SetTimer(handle(), repeatTimer, repeatDelay(static_cast<unsigned>(delay)), nullptr);
+    }
+    notify(notice);
+    return 0;
+}
+
+MessageAnswer Button::repeat(const Message&) {
+    const ButtonNotice notice = press_.repeat();
+    if (notice == ButtonNotice::None) {
+        return 0;  // a tick that was already on its way when the timer stopped
+    }
+    DWORD speed = 0;
+    SystemParametersInfoW(SPI_GETKEYBOARDSPEED, 0, &speed, 0);
+    SetTimer(handle(), repeatTimer, repeatInterval(speed), nullptr);
+    notify(notice);
+    return 0;
+}
+
+MessageAnswer Button::release(const Message& message) {
+    const POINT place{static_cast<short>(LOWORD(message.extra)), static_cast<short>(HIWORD(message.extra))};
+    const Size size = clientSize(handle());
+    const bool inside = place.x >= 0 && place.y >= 0 && place.x < size.width && place.y < size.height;
+    const bool captured = GetCapture() == handle();
+    const ButtonNotice notice = press_.release(captured, inside);
+    KillTimer(handle(), repeatTimer);
+    if (captured) {
+        ReleaseCapture();
+    }
+    redraw();
+    notify(notice);
+    return 0;
+}
+
+MessageAnswer Button::loseCapture(const Message&) {
+    if (press_.isPressed()) {
+        press_.cancel();
+        KillTimer(handle(), repeatTimer);
+        redraw();
+    }
+    return 0;
+}
+
+void Button::redraw() { RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
+void Button::notify(ButtonNotice notice) {
+    // The parent may destroy the button: nothing may be touched after this.
+    if (notice != ButtonNotice::None) {
+        SendMessageW(parent(), WM_COMMAND, MAKEWPARAM(command(), static_cast<WORD>(notice)),
+                     reinterpret_cast<LPARAM>(handle()));
+    }
+}
+
+MessageAnswer Button::keepBackground(const Message&) {
+    // Painting covers everything.
+    return 1;
+}
+
+MessageAnswer Button::paint(const Message&) {
+    const Painting painting(handle());
+    const Size size = clientSize(handle());
+    PaintBuffer buffer(size);
+    const HDC context = buffer.context();
+    const LRESULT background = SendMessageW(parent(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context),
+                                            reinterpret_cast<LPARAM>(handle()));
+    const RECT whole{0, 0, size.width, size.height};
+    FillRect(context, &whole, reinterpret_cast<HBRUSH>(background));
+    const ButtonFace face = buttonFace(size, face_, press_.isPressed());
+    paintLayers(context, face.layers);
+    const Size painted{size.width - 1, size.height - 1};  // the null pen leaves out the rest
+    if (symbol_ == Symbol::None) {
+        paintLabel(context, wideText(label()), painted, face.textColor);
+    } else {
+        paintSymbol(buffer, symbol_, painted, face.textColor);
+    }
+    buffer.show(painting.context());
+    return 0;
+}
+
+}  // namespace calquo

@@ -1,0 +1,35 @@
+// Asks the system for its fonts.
+#include "widgets/fonts.h"
+
+#include <algorithm>
+#include <cwchar>
+
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+int CALLBACK noteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
+    *reinterpret_cast<bool*>(found) = true;
+    return 0;
+}
+
+bool isInstalled(const wchar_t* name) {
+    LOGFONTW wanted{};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    std::wcsncpy(wanted.lfFaceName, name, LF_FACESIZE - 1);
+    bool found = false;
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesExW(screen, &wanted, noteFont, reinterpret_cast<LPARAM>(&found), 0);
+    ReleaseDC(nullptr, screen);
+    return found;
+}
+
+}  // namespace
+
+const wchar_t* installedFont(std::span<const wchar_t* const> names) {
+    const auto font = std::find_if(names.begin(), names.end(), isInstalled);
+    return font == names.end() ? names.back() : *font;
+}
+
+}  // namespace calquo

@@ -1,0 +1,99 @@
+// The panel's window, and the places of its children.
+#include "widgets/panel.h"
+
+#include <algorithm>
+
+#include "widgets/toolkit.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+
+const Component::WidgetClass& Panel::widgetClass() {
+    static const WidgetClass registered = registerClass(L"STATIC", L"CalquoPanel");
+    return registered;
+}
+
+Panel::Panel(WindowHandle parent, const Creation& creation)
+    : Component(widgetClass(), {parent, creation.command, WS_CLIPCHILDREN | WS_CLIPSIBLINGS, {}},
+                [this](const Message& message) { return hear(message); }),
+      direction_(creation.direction),
+      margin_((creation.style & panelMargin) != 0 ? buttonSize() / 4 : 0) {}
+
+Panel::~Panel() {
+    // With the children's windows, which then need not vanish one by one.
+    destroy();
+}
+
+Size Panel::preferredSize() const {
+    Size inner;
+    for (const auto& child : children_) {
+        const Size size = child->preferredSize();
+        inner = direction_ == Direction::Down ? Size{std::max(inner.width, size.width), inner.height + size.height}
+                                              : Size{inner.width + size.width, std::max(inner.height, size.height)};
+    }
+    return {inner.width + 2 * margin_, inner.height + 2 * margin_};
+}
+
+void Panel::layOut() {
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const int width = client.right - 2 * margin_;
+    if (direction_ == Direction::Down) {
+        layOutDown(width);
+    } else {
+        layOutAcross(width);
+    }
+}
+
+void Panel::layOutDown(int width) {
+    int top = margin_;
+    for (const auto& child : children_) {
+        Size size = child->preferredSize();
+        // What a row lacks through the rounding of its buttons' widths is less than half a button: it is made even.
+        if (size.width < width && 2 * (width - size.width) < buttonSize()) {
+            size.width = width;
+        }
+        child->moveTo({margin_, top, size.width, size.height});
+        child->layOut();
+        top += size.height;
+    }
+}
+
+void Panel::layOutAcross(int width) {
+    const int preferred = preferredSize().width - 2 * margin_;
+    const auto placed = [&](int offset) { return margin_ + (preferred == 0 ? 0 : offset * width / preferred); };
+    int offset = 0;
+    for (const auto& child : children_) {
+        const Size size = child->preferredSize();
+        const int left = placed(offset);
+        offset += size.width;
+        child->moveTo({left, margin_, placed(offset) - left, size.height});
+        child->layOut();
+    }
+}
+
+std::optional<MessageAnswer> Panel::hearChildCommand(const Message& message) {
+    return SendMessageW(parent(), message.code, message.wide, message.extra);
+}
+
+std::optional<MessageAnswer> Panel::hear(const Message& message) {
+    switch (message.code) {
+        // Whatever stands on the panel has the panel's own background, which its parent chooses.
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            return SendMessageW(parent(), WM_CTLCOLORSTATIC, message.wide, reinterpret_cast<LPARAM>(handle()));
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.extra);
+            Component* const child = Component::of(item.hwndItem);
+            if (child == nullptr) {
+                return std::nullopt;
+            }
+            child->draw(item.hDC, {item.rcItem.right, item.rcItem.bottom});
+            return TRUE;
+        }
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace calquo
