@@ -98,24 +98,6 @@ const OptionRow& findOption(std::string_view name) {
     return *found;
 }
 
-/// Exchanging the marks needs a third place: the group mark waits on a character that nothing else uses.
-void setBothMarks(char decimalMark, char groupMark) {
-    constexpr char waiting = '\x01';
-    const char oldDecimal = markCharacter(TokenClass::DecimalMark);
-    const char oldGroup = markCharacter(TokenClass::GroupMark);
-    setMarkCharacter(TokenClass::GroupMark, waiting);
-    setMarkCharacter(TokenClass::DecimalMark, decimalMark);
-    setMarkCharacter(TokenClass::GroupMark, groupMark);
-    // A refused group mark goes back to what it was, and when the decimal mark has taken that, both do.
-    if (markCharacter(TokenClass::GroupMark) == waiting) {
-        setMarkCharacter(TokenClass::GroupMark, oldGroup);
-    }
-    if (markCharacter(TokenClass::GroupMark) == waiting) {
-        setMarkCharacter(TokenClass::DecimalMark, oldDecimal);
-        setMarkCharacter(TokenClass::GroupMark, oldGroup);
-    }
-}
-
 }  // namespace
 
 NumericFormat Options::format() const { return word ? *word : defaultFormats[static_cast<std::size_t>(kind)]; }
@@ -192,7 +174,7 @@ std::string helpText() {
 
 void applyToEngine(const Options& options) {
     if (options.decimalMark && options.groupMark) {
-        setBothMarks(*options.decimalMark, *options.groupMark);
+        setMarks(*options.decimalMark, *options.groupMark);
     } else if (options.decimalMark) {
         setMarkCharacter(TokenClass::DecimalMark, *options.decimalMark);
     } else if (options.groupMark) {

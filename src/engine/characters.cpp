@@ -21,4 +21,22 @@ void setMarkCharacter(TokenClass tokenClass, char character) {
     }
 }
 
+void setMarks(char decimalMark, char groupMark) {
+    // Exchanging them needs a third place: the group mark waits on a character that nothing else uses.
+    constexpr char waiting = '\x01';
+    const char oldDecimal = markCharacter(TokenClass::DecimalMark);
+    const char oldGroup = markCharacter(TokenClass::GroupMark);
+    setMarkCharacter(TokenClass::GroupMark, waiting);
+    setMarkCharacter(TokenClass::DecimalMark, decimalMark);
+    setMarkCharacter(TokenClass::GroupMark, groupMark);
+    // A refused group mark goes back to what it was, and when the decimal mark has taken that, both do.
+    if (markCharacter(TokenClass::GroupMark) == waiting) {
+        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    }
+    if (markCharacter(TokenClass::GroupMark) == waiting) {
+        setMarkCharacter(TokenClass::DecimalMark, oldDecimal);
+        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    }
+}
+
 }  // namespace calquo

@@ -46,6 +46,10 @@ inline char markCharacter(TokenClass tokenClass) {
 /// already stands anywhere else in the table: a mark can never be a digit, a letter, an operator or the other mark.
 void setMarkCharacter(TokenClass tokenClass, char character);
 
+/// Sets both marks at once, so that they can be exchanged. One that is refused stays as it was; when the other has
+/// taken its character, both do.
+void setMarks(char decimalMark, char groupMark);
+
 constexpr bool isBlank(char character) { return character == ' ' || character == '\t'; }
 
 constexpr bool isDecimalDigit(char character) { return character >= '0' && character <= '9'; }

@@ -1,9 +1,17 @@
-// The program's top-level window, which the work area fills.
+// The program's top-level window: a borderless window with a caption of its own, a column of button panels and the
+// work area.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
+#include "panels/button_panel.h"
+#include "shell/caption_strip.h"
+#include "shell/main_menu.h"
+#include "shell/settings.h"
+#include "shell/window_layout.h"
 #include "widgets/component.h"
 #include "workarea/work_area.h"
 
@@ -11,31 +19,82 @@ namespace calquo {
 
 class MainWindow {
 public:
-    /// Creates the window, not yet shown. Raises InternalFault when the system refuses.
-    MainWindow();
+    /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
+    /// there; `settings` must outlive the window. Raises InternalFault when the system refuses.
+    explicit MainWindow(Settings& settings);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow();
 
     WindowHandle handle() const { return window_.get(); }
-    /// Shows the window as the program's starter asks for it, `showCommand`, with the focus in the work area.
-    void show(int showCommand);
+
+    /// Whether a menu entry carries its mark.
+    bool isChecked(std::uint16_t identifier) const { return menu_.isChecked(identifier); }
 
 private:
     struct Procedure;  // the window procedure, whose signature needs the system's types
     struct MessageRow;
     static const MessageRow messageRows[];
+    struct CommandRow;
+    static const CommandRow commandRows[];
+    struct CaptionRow;
+    static const CaptionRow captionRows[];
 
     std::optional<MessageAnswer> hear(const Message& message);
-    MessageAnswer sizeChanged(const Message& message);
-    MessageAnswer giveFocus(const Message& message);
-    MessageAnswer endProgram(const Message& message);
-    MessageAnswer forgetWindow(const Message& message);
 
+    std::optional<MessageAnswer> hearCreation(const Message& message);
+    std::optional<MessageAnswer> hearDestruction(const Message& message);
+    std::optional<MessageAnswer> forgetWindow(const Message& message);
+    std::optional<MessageAnswer> hearActivation(const Message& message);
+    std::optional<MessageAnswer> passFocusOn(const Message& message);
+    std::optional<MessageAnswer> paint(const Message& message);
+    std::optional<MessageAnswer> close(const Message& message);
+    std::optional<MessageAnswer> answerSizeLimits(const Message& message);
+    std::optional<MessageAnswer> hearPlace(const Message& message);
+    std::optional<MessageAnswer> hitTest(const Message& message);
+    std::optional<MessageAnswer> hearSystemKey(const Message& message);
+    std::optional<MessageAnswer> hearSystemCommand(const Message& message);
+    std::optional<MessageAnswer> hearCommand(const Message& message);
+
+    void runCommand(std::uint16_t identifier);
+    void togglePanel(std::uint16_t identifier);
+    void clearWorkArea(std::uint16_t identifier);
+    void toggleOption(std::uint16_t identifier);
+    void toggleHiddenButtons(std::uint16_t identifier);
+    void toggleAngle(std::uint16_t identifier);
+    void selectFormat(std::uint16_t identifier);
+    void resetFormats(std::uint16_t identifier);
+    void exit(std::uint16_t identifier);
+
+    void openPanel(std::uint16_t identifier);
+    void openMenuAtCaption();
+
+    void hearButton(const Component& button);
+    void pressCaptionButton(const Component& button);
+    void minimize(const Component& button);
+    void maximize(const Component& button);
+    void restore(const Component& button);
+    void closeByButton(const Component& button);
+    void openMainMenu(const Component& button);
+    void openButtonsMenu(const Component& button);
+    void openHelpMenu(const Component& button);
+
+    WindowParts parts() const;
+    Size smallestWindow() const;
+    void moveWhereItCanBeReached();
     void layOut();
+    void layOutAndRefresh();
+    void repaintCaption();
 
+    Settings& settings_;
     WindowOwner window_;
+    MainMenu menu_;
+    std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
+    std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.
+    WindowHandle lastFocus_ = nullptr;
+    bool active_ = false;
+    bool enlarging_ = false;
 };
 
 }  // namespace calquo

@@ -1,76 +1,217 @@
-// The main window's class, its messages and the place of the work area.
+// The main window's class, its messages and its commands.
 #include "shell/main_window.h"
 
+#include <algorithm>
 #include <string>
-#include <string_view>
 
+#include "numeric/random.h"
+#include "panels/catalogue.h"
 #include "shell/command_ids.h"
+#include "shell/menu_marks.h"
+#include "shell/menu_tree.h"
+#include "shell/program_title.h"
 #include "values/errors.h"
-#include "values/program.h"
 #include "widgets/kept_exception.h"
+#include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-/// The window's class and title; the program's names are plain ASCII.
-std::wstring programTitleWide() {
-    const std::string_view title = programTitle;
-    return {title.begin(), title.end()};
+constexpr DWORD windowStyle =
+    WS_POPUP | WS_VISIBLE | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN;
+constexpr DWORD extendedStyle = WS_EX_APPWINDOW;
+
+/// What a usable work area measures at least, in buttons.
+constexpr Size smallestWorkAreaInButtons{10, 5};
+
+constexpr int iconResource = 101;
+
+/// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
+constexpr int menuOffset = 8;
+
+/// What a button's command message says of it.
+constexpr WORD pressedNotification = 2;
+constexpr WORD clickedNotification = 3;
+
+Rectangle rectangleOf(const RECT& corners) {
+    return {corners.left, corners.top, corners.right - corners.left, corners.bottom - corners.top};
 }
 
-constexpr std::uint16_t number(Command command) { return static_cast<std::uint16_t>(command); }
+RECT cornersOf(const Rectangle& place) {
+    return {place.left, place.top, place.left + place.width, place.top + place.height};
+}
+
+constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
+                                           identifierOf(Command::ButtonsAddGradients),
+                                           identifierOf(Command::ButtonsAddRadians)};
+
+Rectangle windowRectangle(HWND window) {
+    RECT corners{};
+    GetWindowRect(window, &corners);
+    return rectangleOf(corners);
+}
+
+/// Where the menu of a caption's button opens, on the screen.
+Point menuCorner(const Component& button) {
+    const Rectangle place = windowRectangle(button.handle());
+    return {place.left - menuOffset, place.top - menuOffset};
+}
+
+int dotsPerInchOfScreen() {
+    const HDC screen = GetDC(nullptr);
+    const int dots = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return dots;
+}
+
+Rectangle workAreaOf(HMONITOR monitor) {
+    MONITORINFO description{};
+    description.cbSize = sizeof description;
+    GetMonitorInfoW(monitor, &description);
+    return rectangleOf(description.rcWork);
+}
+
+/// The screens without their taskbars, the one nearest to the window first.
+std::vector<Rectangle> screensAround(HWND window) {
+    std::vector<Rectangle> screens = {workAreaOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST))};
+    const auto note = [](HMONITOR monitor, HDC, LPRECT, LPARAM list) -> BOOL {
+        reinterpret_cast<std::vector<Rectangle>*>(list)->push_back(workAreaOf(monitor));
+        return TRUE;
+    };
+    EnumDisplayMonitors(nullptr, nullptr, note, reinterpret_cast<LPARAM>(&screens));
+    return screens;
+}
+
+/// The width of the frame at which the user sizes the window.
+Size sizingFrame() {
+    const int padding = GetSystemMetrics(SM_CXPADDEDBORDER);
+    return {GetSystemMetrics(SM_CXSIZEFRAME) + padding, GetSystemMetrics(SM_CYSIZEFRAME) + padding};
+}
+
+/// The maximized window: the desktop's work area, with all but one pixel of the frame around it.
+Rectangle maximizedPlace() {
+    RECT desk{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
+    const Size frame = sizingFrame();
+    InflateRect(&desk, frame.width - 1, frame.height - 1);
+    return rectangleOf(desk);
+}
 
 }  // namespace
 
 /// Leads the window's messages to the object that owns it.
 struct MainWindow::Procedure {
     static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
+        if (code == WM_NCCREATE) {
+            adopt(window, *reinterpret_cast<const CREATESTRUCTW*>(extra));
+        }
         auto* const owner = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-        const auto answer = keepingExceptions(std::optional<MessageAnswer>(0), [&] {
+        const MessageAnswer failed = code == WM_CREATE ? -1 : 0;
+        const auto answer = keepingExceptions(std::optional<MessageAnswer>(failed), [&] {
             return owner == nullptr ? std::nullopt : owner->hear({code, wide, extra});
         });
         return answer ? *answer : DefWindowProcW(window, code, wide, extra);
     }
 
+    static void adopt(HWND window, const CREATESTRUCTW& creation) {
+        auto* const owner = static_cast<MainWindow*>(creation.lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(owner));
+        owner->window_.reset(window);
+    }
+
     static void registerClass(const std::wstring& name) {
-        WNDCLASSW description{};
+        const HINSTANCE program = GetModuleHandleW(nullptr);
+        WNDCLASSEXW description{};
+        description.cbSize = sizeof description;
         description.lpfnWndProc = receive;
-        description.hInstance = GetModuleHandleW(nullptr);
+        description.hInstance = program;
+        description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(iconResource));
+        description.hIconSm = description.hIcon;
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+        description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_SCROLLBAR + 1);
         description.lpszClassName = name.c_str();
-        if (RegisterClassW(&description) == 0) {
+        if (RegisterClassExW(&description) == 0) {
             raise(ErrorCode::InternalFault);
         }
     }
 };
 
-/// Which member hears which message.
+/// Which member hears which message. One without an answer goes on to the system.
 struct MainWindow::MessageRow {
     UINT code;
-    MessageAnswer (MainWindow::*hear)(const Message&);
+    std::optional<MessageAnswer> (MainWindow::*hear)(const Message&);
 };
 
 const MainWindow::MessageRow MainWindow::messageRows[] = {
-    {WM_SIZE, &MainWindow::sizeChanged},
-    {WM_SETFOCUS, &MainWindow::giveFocus},
-    {WM_DESTROY, &MainWindow::endProgram},
+    {WM_CREATE, &MainWindow::hearCreation},
+    {WM_DESTROY, &MainWindow::hearDestruction},
     {WM_NCDESTROY, &MainWindow::forgetWindow},
+    {WM_ACTIVATE, &MainWindow::hearActivation},
+    {WM_SETFOCUS, &MainWindow::passFocusOn},
+    {WM_PAINT, &MainWindow::paint},
+    {WM_CLOSE, &MainWindow::close},
+    {WM_GETMINMAXINFO, &MainWindow::answerSizeLimits},
+    {WM_WINDOWPOSCHANGED, &MainWindow::hearPlace},
+    {WM_NCHITTEST, &MainWindow::hitTest},
+    {WM_SYSKEYDOWN, &MainWindow::hearSystemKey},
+    {WM_SYSKEYUP, &MainWindow::hearSystemKey},
+    {WM_SYSCOMMAND, &MainWindow::hearSystemCommand},
+    {WM_COMMAND, &MainWindow::hearCommand},
 };
 
-MainWindow::MainWindow() {
-    const std::wstring title = programTitleWide();
+/// What the commands do; each is given its identifier.
+struct MainWindow::CommandRow {
+    CommandRange range;
+    void (MainWindow::*act)(std::uint16_t);
+
+    constexpr CommandRow(CommandRange commands, void (MainWindow::*action)(std::uint16_t))
+        : range(commands), act(action) {}
+    constexpr CommandRow(Command command, void (MainWindow::*action)(std::uint16_t))
+        : CommandRow(CommandRange{identifierOf(command), identifierOf(command)}, action) {}
+};
+
+const MainWindow::CommandRow MainWindow::commandRows[] = {
+    {panelCommands, &MainWindow::togglePanel},
+    {Command::ClearWorkArea, &MainWindow::clearWorkArea},
+    {Command::ReadDefaultAtStartup, &MainWindow::toggleOption},
+    {Command::SaveDefaultAtExit, &MainWindow::toggleOption},
+    {selectFormatCommands, &MainWindow::selectFormat},
+    {Command::ResetFormats, &MainWindow::resetFormats},
+    {Command::Exit, &MainWindow::exit},
+    {Command::HideButtons, &MainWindow::toggleHiddenButtons},
+    {Command::ButtonsAddDegrees, &MainWindow::toggleAngle},
+    {Command::ButtonsAddGradients, &MainWindow::toggleAngle},
+    {Command::ButtonsAddRadians, &MainWindow::toggleAngle},
+};
+
+/// What the buttons of the caption strip do, by the letter that their labels begin with.
+struct MainWindow::CaptionRow {
+    char letter;
+    void (MainWindow::*act)(const Component&);
+};
+
+const MainWindow::CaptionRow MainWindow::captionRows[] = {
+    {'O', &MainWindow::openMainMenu},  {'B', &MainWindow::openButtonsMenu}, {'?', &MainWindow::openHelpMenu},
+    {'N', &MainWindow::minimize},      {'M', &MainWindow::maximize},        {'R', &MainWindow::restore},
+    {'C', &MainWindow::closeByButton},
+};
+
+MainWindow::MainWindow(Settings& settings) : settings_(settings) {
+    const std::wstring title = wideProgramTitle();
     Procedure::registerClass(title);
-    window_ = WindowOwner(CreateWindowExW(
-        WS_EX_APPWINDOW, title.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
-    if (!window_) {
+    constexpr int systemsChoice = CW_USEDEFAULT;
+    Rectangle place{systemsChoice, systemsChoice, systemsChoice, systemsChoice};
+    if (const auto stored = settings_.windowRect()) {
+        place = {stored->left, stored->top, stored->right - stored->left, stored->bottom - stored->top};
+    }
+    const HWND window = CreateWindowExW(extendedStyle, title.c_str(), title.c_str(), windowStyle, place.left, place.top,
+                                        place.width, place.height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    if (window == nullptr) {
+        UnregisterClassW(title.c_str(), GetModuleHandleW(nullptr));
+        rethrowKeptException();
         raise(ErrorCode::InternalFault);
     }
-    workArea_ = std::make_unique<WorkArea>(handle(), number(Command::WorkArea), number(Command::HelpContents));
-    SetWindowLongPtrW(handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    layOut();
 }
 
 MainWindow::~MainWindow() {
@@ -78,12 +219,7 @@ MainWindow::~MainWindow() {
     if (window_) {
         destroyWindow(handle());
     }
-    UnregisterClassW(programTitleWide().c_str(), GetModuleHandleW(nullptr));
-}
-
-void MainWindow::show(int showCommand) {
-    ShowWindow(handle(), showCommand);
-    workArea_->giveFocus();
+    UnregisterClassW(wideProgramTitle().c_str(), GetModuleHandleW(nullptr));
 }
 
 std::optional<MessageAnswer> MainWindow::hear(const Message& message) {
@@ -95,31 +231,306 @@ std::optional<MessageAnswer> MainWindow::hear(const Message& message) {
     return std::nullopt;
 }
 
-void MainWindow::layOut() {
-    RECT client{};
-    GetClientRect(handle(), &client);
-    workArea_->moveTo({0, 0, client.right, client.bottom});
-}
+// --- Beginning and end ----------------------------------------------------------------------------------------------
 
-MessageAnswer MainWindow::sizeChanged(const Message&) {
-    layOut();
-    return 0;
-}
-
-MessageAnswer MainWindow::giveFocus(const Message&) {
+std::optional<MessageAnswer> MainWindow::hearCreation(const Message&) {
+    setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, dotsPerInchOfScreen())));
+    caption_ = std::make_unique<CaptionStrip>(handle());
+    workArea_ =
+        std::make_unique<WorkArea>(handle(), identifierOf(Command::WorkArea), identifierOf(Command::HelpContents),
+                                   [this] { return settings_.format(settings_.selectedFormat()); });
     workArea_->giveFocus();
+    menu_.showMarks([this](std::uint16_t identifier) { return isMarked(identifier, settings_); });
+    for (const std::uint16_t identifier : settings_.selectedPanels()) {
+        openPanel(identifier);
+    }
+    moveWhereItCanBeReached();
+    layOut();
+    seedRandomFromClock();
     return 0;
 }
 
-MessageAnswer MainWindow::endProgram(const Message&) {
+std::optional<MessageAnswer> MainWindow::hearDestruction(const Message&) {
+    std::vector<std::uint16_t> identifiers(panels_.size());
+    std::transform(panels_.begin(), panels_.end(), identifiers.begin(),
+                   [](const auto& panel) { return panel->command(); });
+    settings_.setSelectedPanels(identifiers);
     PostQuitMessage(0);
     return 0;
 }
 
-MessageAnswer MainWindow::forgetWindow(const Message&) {
+std::optional<MessageAnswer> MainWindow::forgetWindow(const Message&) {
     SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
     window_.release();
     return 0;
 }
+
+std::optional<MessageAnswer> MainWindow::close(const Message&) {
+    destroyWindow(handle());
+    return 0;
+}
+
+// --- Focus and caption ----------------------------------------------------------------------------------------------
+
+std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) {
+    active_ = LOWORD(message.wide) != WA_INACTIVE;
+    if (!active_ && IsChild(handle(), GetFocus()) != 0) {
+        lastFocus_ = GetFocus();
+    }
+    repaintCaption();
+    return std::nullopt;
+}
+
+std::optional<MessageAnswer> MainWindow::passFocusOn(const Message&) {
+    SetFocus(IsChild(handle(), lastFocus_) != 0 ? lastFocus_ : workArea_->handle());
+    return 0;
+}
+
+void MainWindow::repaintCaption() {
+    if (caption_ == nullptr) {
+        return;
+    }
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const RECT strip{0, 0, client.right, caption_->left().preferredSize().height};
+    RedrawWindow(handle(), &strip, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+std::optional<MessageAnswer> MainWindow::paint(const Message&) {
+    RECT client{};
+    GetClientRect(handle(), &client);
+    PAINTSTRUCT painting{};
+    const HDC context = BeginPaint(handle(), &painting);
+    CaptionStrip::paint(context, layOutWindow({client.right, client.bottom}, parts()).title, active_);
+    EndPaint(handle(), &painting);
+    return 0;
+}
+
+std::optional<MessageAnswer> MainWindow::hitTest(const Message& message) {
+    const LRESULT area = DefWindowProcW(handle(), message.code, message.wide, message.extra);
+    return area == HTCLIENT ? HTCAPTION : area;
+}
+
+// --- Place and layout -----------------------------------------------------------------------------------------------
+
+WindowParts MainWindow::parts() const {
+    WindowParts parts;
+    parts.leftCaption = caption_->left().preferredSize();
+    parts.rightCaption = caption_->right().preferredSize();
+    for (const auto& panel : panels_) {
+        parts.panels.push_back(panel->preferredSize());
+    }
+    parts.panelsHidden = settings_.boolean(BooleanSetting::HideButtons);
+    parts.smallestWorkArea = {smallestWorkAreaInButtons.width * buttonSize(),
+                              smallestWorkAreaInButtons.height * buttonSize()};
+    return parts;
+}
+
+Size MainWindow::smallestWindow() const {
+    const Size client = smallestClient(parts());
+    RECT around{0, 0, client.width, client.height};
+    AdjustWindowRectEx(&around, windowStyle, FALSE, extendedStyle);
+    // More than the screen has would put a part of the window out of reach.
+    const Rectangle most = maximizedPlace();
+    const Size size{rectangleOf(around).width, rectangleOf(around).height};
+    return {std::min(size.width, most.width), std::min(size.height, most.height)};
+}
+
+std::optional<MessageAnswer> MainWindow::answerSizeLimits(const Message& message) {
+    MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(message.extra);
+    const Rectangle most = maximizedPlace();
+    limits.ptMaxPosition = {most.left, most.top};
+    limits.ptMaxSize = {most.width, most.height};
+    limits.ptMaxTrackSize = limits.ptMaxSize;
+    if (caption_ != nullptr) {
+        const Size least = smallestWindow();
+        limits.ptMinTrackSize = {least.width, least.height};
+    }
+    return 0;
+}
+
+void MainWindow::moveWhereItCanBeReached() {
+    const Rectangle place = windowRectangle(handle());
+    const Rectangle reachable = reachablePlace(place, smallestWindow(), screensAround(handle()));
+    if (reachable != place) {
+        MoveWindow(handle(), reachable.left, reachable.top, reachable.width, reachable.height, FALSE);
+    }
+}
+
+std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
+    if (workArea_ == nullptr) {
+        return 0;
+    }
+    if (IsIconic(handle()) == 0) {
+        caption_->showMaximized(IsZoomed(handle()) != 0);
+        layOut();
+        InvalidateRect(handle(), nullptr, FALSE);
+    }
+    // Also while minimized or maximized: the next start is to find the last rectangle that the system reported.
+    const RECT corners = cornersOf(windowRectangle(handle()));
+    settings_.setWindowRect({corners.left, corners.top, corners.right, corners.bottom});
+    return 0;
+}
+
+void MainWindow::layOut() {
+    const Rectangle place = windowRectangle(handle());
+    const Size least = smallestWindow();
+    if ((place.width < least.width || place.height < least.height) && !enlarging_) {
+        enlarging_ = true;
+        SetWindowPos(handle(), nullptr, 0, 0, std::max(place.width, least.width), std::max(place.height, least.height),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        enlarging_ = false;
+    }
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const WindowParts windowParts = parts();
+    const WindowLayout layout = layOutWindow({client.right, client.bottom}, windowParts);
+    caption_->left().moveTo(layout.leftCaption);
+    caption_->right().moveTo(layout.rightCaption);
+    for (std::size_t index = 0; index < panels_.size(); ++index) {
+        panels_[index]->moveTo(layout.panels[index]);
+    }
+    workArea_->moveTo(layout.workArea);
+}
+
+void MainWindow::layOutAndRefresh() {
+    layOut();
+    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// --- Menu and commands ----------------------------------------------------------------------------------------------
+
+void MainWindow::openMenuAtCaption() {
+    const Rectangle panel = windowRectangle(caption_->left().handle());
+    menu_.open(handle(), {panel.left + buttonSize() / 2, panel.top + buttonSize() / 2});
+}
+
+std::optional<MessageAnswer> MainWindow::hearSystemKey(const Message& message) {
+    const bool opensMenu = message.wide == VK_MENU || (message.wide == VK_F10 && message.code == WM_SYSKEYDOWN);
+    if (!opensMenu) {
+        return std::nullopt;
+    }
+    openMenuAtCaption();
+    return 0;
+}
+
+std::optional<MessageAnswer> MainWindow::hearSystemCommand(const Message& message) {
+    constexpr WPARAM innerBits = 0xF;  // the system's own use of the low bits
+    // The system would open the window's menu at the end of a key press that has opened ours.
+    const bool menuKey = (message.wide & ~innerBits) == SC_KEYMENU && message.extra == 0;
+    return menuKey ? std::optional<MessageAnswer>(0) : std::nullopt;
+}
+
+std::optional<MessageAnswer> MainWindow::hearCommand(const Message& message) {
+    const HWND control = reinterpret_cast<HWND>(message.extra);
+    const WORD notification = HIWORD(message.wide);
+    if (control == nullptr) {
+        runCommand(LOWORD(message.wide));
+    } else if (notification == pressedNotification || notification == clickedNotification) {
+        if (const Component* const button = Component::of(control)) {
+            hearButton(*button);
+        }
+    }
+    return 0;
+}
+
+void MainWindow::runCommand(std::uint16_t identifier) {
+    for (const CommandRow& row : commandRows) {
+        if (row.range.contains(identifier)) {
+            (this->*row.act)(identifier);
+            return;
+        }
+    }
+}
+
+void MainWindow::togglePanel(std::uint16_t identifier) {
+    const bool open = !menu_.isChecked(identifier);
+    menu_.setChecked(identifier, open);
+    if (open) {
+        openPanel(identifier);
+    } else {
+        std::erase_if(panels_, [&](const auto& panel) { return panel->command() == identifier; });
+    }
+    layOutAndRefresh();
+}
+
+void MainWindow::openPanel(std::uint16_t identifier) {
+    if (const PanelEntry* const entry = findPanel(identifier)) {
+        panels_.push_back(std::make_unique<ButtonPanel>(handle(), *entry));
+    }
+}
+
+void MainWindow::clearWorkArea(std::uint16_t) { workArea_->clear(); }
+
+void MainWindow::toggleOption(std::uint16_t identifier) {
+    const bool on = !menu_.isChecked(identifier);
+    menu_.setChecked(identifier, on);
+    if (const auto setting = booleanSettingOf(identifier)) {
+        settings_.setBoolean(*setting, on);
+    }
+}
+
+void MainWindow::toggleHiddenButtons(std::uint16_t identifier) {
+    toggleOption(identifier);
+    layOutAndRefresh();
+}
+
+void MainWindow::toggleAngle(std::uint16_t identifier) {
+    const bool on = !menu_.isChecked(identifier);
+    settings_.chooseAngle(on ? angleOptionOf(identifier) : AngleOption::None);
+    for (const std::uint16_t entry : angleCommands) {
+        menu_.setChecked(entry, on && entry == identifier);
+    }
+}
+
+void MainWindow::selectFormat(std::uint16_t identifier) {
+    settings_.selectFormat(formatOf(selectFormatCommands, identifier));
+    for (std::uint16_t entry = selectFormatCommands.first; entry <= selectFormatCommands.last; ++entry) {
+        menu_.setChecked(entry, entry == identifier);
+    }
+}
+
+void MainWindow::resetFormats(std::uint16_t) { settings_.resetFormats(); }
+
+void MainWindow::exit(std::uint16_t) { SendMessageW(handle(), WM_CLOSE, 0, 0); }
+
+// --- Buttons --------------------------------------------------------------------------------------------------------
+
+void MainWindow::hearButton(const Component& button) {
+    const ButtonPanel* const panel = ButtonPanel::panelOf(button);
+    if (panel == nullptr) {
+        return;
+    }
+    if (panel == &caption_->left() || panel == &caption_->right()) {
+        pressCaptionButton(button);
+    } else {
+        pressButton(*workArea_, *panel, button, settings_.angleOption());
+    }
+}
+
+void MainWindow::pressCaptionButton(const Component& button) {
+    for (const CaptionRow& row : captionRows) {
+        if (button.label().front() == row.letter) {
+            (this->*row.act)(button);
+            return;
+        }
+    }
+}
+
+void MainWindow::minimize(const Component&) { ShowWindow(handle(), SW_MINIMIZE); }
+
+void MainWindow::maximize(const Component&) { ShowWindow(handle(), SW_MAXIMIZE); }
+
+void MainWindow::restore(const Component&) { ShowWindow(handle(), SW_RESTORE); }
+
+void MainWindow::closeByButton(const Component&) { exit(0); }
+
+void MainWindow::openMainMenu(const Component& button) { menu_.open(handle(), menuCorner(button)); }
+
+void MainWindow::openButtonsMenu(const Component& button) {
+    menu_.openSubmenu(buttonsSubmenu, handle(), menuCorner(button));
+}
+
+void MainWindow::openHelpMenu(const Component& button) { menu_.openSubmenu(helpSubmenu, handle(), menuCorner(button)); }
 
 }  // namespace calquo

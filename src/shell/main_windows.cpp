@@ -1,14 +1,48 @@
-// Calquo.exe: one main window and the message loop.
-#include "numeric/random.h"
+// Calquo.exe: one instance, its settings, one main window and the message loop.
+#include <optional>
+
+#include "engine/characters.h"
 #include "shell/main_window.h"
 #include "shell/message_loop.h"
+#include "shell/registry_storage.h"
+#include "shell/settings.h"
+#include "shell/single_instance.h"
+#include "values/errors.h"
 #include "widgets/windows_api.h"
+
+namespace {
+
+// Exit codes beside the one of the quit message.
+constexpr int broughtForward = 1;
+constexpr int noWindow = 2;
+
+int runProgram(int showCommand) {
+    using namespace calquo;
+    std::optional<RunningMark> mark(std::in_place);
+    if (!mark->isFirst()) {
+        return bringRunningProgramForward() ? broughtForward : noWindow;
+    }
+    RegistryStorage registry;
+    Settings settings(registry);
+    settings.loadAll();
+    const Marks marks = settings.marks();
+    setMarks(marks.decimal, marks.group);
+    MainWindow window(settings);
+    ShowWindow(window.handle(), showCommand);
+    const int code = runMessageLoop(reportSpecialCase);
+    mark.reset();
+    settings.saveAll();
+    return code;
+}
+
+}  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     // Lengths are scaled here; the system must not stretch the window as well.
     SetProcessDPIAware();
-    calquo::MainWindow window;
-    calquo::seedRandomFromClock();
-    window.show(showCommand);
-    return calquo::runMessageLoop(calquo::reportSpecialCase);
+    try {
+        return runProgram(showCommand);
+    } catch (const calquo::Except&) {
+        return noWindow;
+    }
 }

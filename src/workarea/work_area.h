@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
 
 #include "format/numeric_format.h"
 #include "widgets/text_area.h"
@@ -10,14 +13,49 @@
 
 namespace calquo {
 
+/// The line that holds the start of the selection.
+struct CurrentLine {
+    std::string text;  ///< As the engine reads it, one character for each of the control's.
+    std::int32_t start = 0;
+    std::size_t selectionBegin = 0;  ///< The selection as far as it lies in the line, from the line's start.
+    std::size_t selectionEnd = 0;
+};
+
+/// Characters of a line, from one offset to another.
+struct LineRange {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
 class WorkArea : public TextArea {
 public:
+    using FormatSource = std::function<NumericFormat()>;
+
     /// The private message that asks whether results replace the selection; the answer is non-zero when they do.
     /// A rich edit control has no message of this number.
     static const std::uint32_t resultReplaceQuery;
 
-    /// An empty work area. The F1 key sends `helpCommand` to `parent`.
-    WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand);
+    /// An empty work area, whose results are written under what `format` gives at that time. The F1 key sends
+    /// `helpCommand` to `parent`, and the Alt and F10 keys go to it as they are.
+    WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format);
+
+    CurrentLine currentLine() const;
+
+    /// Types characters and presses keys of the system's numbers, as the keyboard would.
+    void typeCharacters(std::string_view characters);
+    void pressKey(std::uint32_t virtualKey);
+
+    /// Empties the work area, as one step for undo.
+    void clear();
+    void undo();
+    void redo();
+
+    /// Puts text in front of and behind a range of `line`, whose characters stay as they are, and the caret at `caret`,
+    /// an offset in the changed line. One step for undo.
+    void surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
+                  std::size_t caret);
+    /// Puts text in place of a range of `line`, and the caret as above. One step for undo.
+    void replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret);
 
 private:
     struct KeyRow;
@@ -29,11 +67,12 @@ private:
     void evaluate();
     void evaluateIntoSelection();
     void askForHelp();
+    void openMenu();
 
     void apply(const Paragraph& line, const LineEdit& edit);
 
     std::uint16_t helpCommand_;
-    NumericFormat format_ = defaultFormats[static_cast<std::size_t>(FormatKind::Automatic)];
+    FormatSource format_;
     bool resultReplaces_ = false;
 };
 

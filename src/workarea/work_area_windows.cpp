@@ -67,13 +67,17 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
     {VK_RETURN, Modifiers::Held, &WorkArea::insertLineEnd},
     {VK_F1, Modifiers::Any, &WorkArea::askForHelp},
     {VK_F9, Modifiers::Released, &WorkArea::evaluateIntoSelection},
+    // The control keeps these to itself, although they are the window's.
+    {VK_MENU, Modifiers::Any, &WorkArea::openMenu},
+    {VK_F10, Modifiers::Released, &WorkArea::openMenu},
 };
 
-WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand)
+WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format)
     : TextArea(
           parent, command, normalStyle, [this](const KeyPress& press) { return hearKey(press); },
           [this](const Message& message) { return hearQuery(message); }),
-      helpCommand_(helpCommand) {}
+      helpCommand_(helpCommand),
+      format_(std::move(format)) {}
 
 bool WorkArea::hearKey(const KeyPress& press) {
     for (const KeyRow& row : keyRows) {
@@ -98,10 +102,10 @@ void WorkArea::evaluate() {
     const Paragraph line = paragraphAt(selected.begin);
     const std::string text = languageText(line.text);
     if (SendMessageW(handle(), resultReplaceQuery, 0, 0) == 0) {
-        apply(line, editAfterEnter(text, format_));
+        apply(line, editAfterEnter(text, format_()));
     } else {
         const auto offset = [&](std::int32_t place) { return static_cast<std::size_t>(place - line.range.begin); };
-        apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_));
+        apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_()));
     }
 }
 
@@ -111,6 +115,47 @@ void WorkArea::evaluateIntoSelection() {
 }
 
 void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0); }
+
+void WorkArea::openMenu() { SendMessageW(parent(), WM_SYSKEYDOWN, VK_MENU, 0); }
+
+CurrentLine WorkArea::currentLine() const {
+    const TextRange selected = selection();
+    const Paragraph line = paragraphAt(selected.begin);
+    const auto offset = [&](std::int32_t place) {
+        return static_cast<std::size_t>(std::clamp(place, line.range.begin, line.range.end) - line.range.begin);
+    };
+    return {languageText(line.text), line.range.begin, offset(selected.begin), offset(selected.end)};
+}
+
+void WorkArea::typeCharacters(std::string_view characters) {
+    for (const wchar_t unit : controlText(characters)) {
+        SendMessageW(handle(), WM_CHAR, unit, 1);
+    }
+}
+
+void WorkArea::pressKey(std::uint32_t virtualKey) { SendMessageW(handle(), WM_KEYDOWN, virtualKey, 1); }
+
+void WorkArea::clear() {
+    SendMessageW(handle(), EM_SETSEL, 0, -1);
+    SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+}
+
+void WorkArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
+
+void WorkArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
+
+void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
+                        std::size_t caret) {
+    const auto place = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
+    const TextRange inside{place(range.begin), place(range.end)};
+    const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
+    replace(inside, {{text, normalStyle}}, place(caret));
+}
+
+void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
+    const auto place = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
+    replace({place(range.begin), place(range.end)}, {{controlText(text), normalStyle}}, place(caret));
+}
 
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
     if (!edit.changes) {

@@ -71,7 +71,7 @@ Desk::TopLevelWindow::TopLevelWindow(Desk& desk) {
 
 Desk::TopLevelWindow::~TopLevelWindow() { DestroyWindow(handle); }
 
-Desk::Desk() : top_(*this), workArea_(top_.handle, 1, 2592) {
+Desk::Desk() : top_(*this), workArea_(top_.handle, 1, 2592, [] { return defaultFormats[0]; }) {
     workArea_.moveTo({0, 0, 780, 560});
     workArea_.giveFocus();
 }

@@ -1,0 +1,100 @@
+// The main menu's windows, made from its tree.
+#include "shell/main_menu.h"
+
+#include <string>
+
+#include "shell/menu_tree.h"
+#include "values/errors.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+/// The labels are plain ASCII.
+std::wstring wideLabel(std::string_view label) { return {label.begin(), label.end()}; }
+
+MenuOwner makeMenu(const std::vector<MenuEntry>& entries) {
+    MenuOwner menu(CreatePopupMenu());
+    if (!menu) {
+        raise(ErrorCode::InternalFault);
+    }
+    for (const MenuEntry& entry : entries) {
+        MENUITEMINFOW item{};
+        item.cbSize = sizeof item;
+        if (entry.kind == MenuKind::Separator) {
+            item.fMask = MIIM_FTYPE;
+            item.fType = MFT_SEPARATOR;
+        } else {
+            item.fMask = MIIM_FTYPE | MIIM_STRING | MIIM_ID;
+            item.fType = entry.kind == MenuKind::Radio ? MFT_STRING | MFT_RADIOCHECK : MFT_STRING;
+            item.wID = entry.identifier;
+        }
+        std::wstring label = wideLabel(entry.label);
+        item.dwTypeData = label.data();
+        MenuOwner submenu;
+        if (entry.kind == MenuKind::Submenu) {
+            submenu = makeMenu(entry.children);
+            item.fMask |= MIIM_SUBMENU;
+            item.hSubMenu = submenu.get();
+        }
+        if (InsertMenuItemW(menu.get(), static_cast<UINT>(GetMenuItemCount(menu.get())), TRUE, &item) == 0) {
+            raise(ErrorCode::InternalFault);
+        }
+        submenu.release();  // it belongs to the menu now
+    }
+    return menu;
+}
+
+void setMark(HMENU menu, std::uint16_t identifier, bool on) {
+    CheckMenuItem(menu, identifier, static_cast<UINT>(MF_BYCOMMAND | (on ? MF_CHECKED : MF_UNCHECKED)));
+}
+
+void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu,
+                 const std::function<bool(std::uint16_t)>& isMarked) {
+    for (const MenuEntry& entry : entries) {
+        if (entry.kind == MenuKind::Check || entry.kind == MenuKind::Radio) {
+            setMark(menu, entry.identifier, isMarked(entry.identifier));
+        }
+        showMarksOf(entry.children, menu, isMarked);
+    }
+}
+
+/// Alt opens the menu as it goes down; when F4 follows, the user meant the window.
+LRESULT CALLBACK closeByAltF4(int code, WPARAM wide, LPARAM extra) {
+    const MSG& message = *reinterpret_cast<const MSG*>(extra);
+    if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN && message.wParam == VK_F4) {
+        EndMenu();
+        PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
+        return 1;
+    }
+    return CallNextHookEx(nullptr, code, wide, extra);
+}
+
+void track(HMENU menu, HWND owner, Point corner) {
+    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, closeByAltF4, nullptr, GetCurrentThreadId());
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, corner.left, corner.top, 0, owner, nullptr);
+    UnhookWindowsHookEx(hook);
+}
+
+}  // namespace
+
+MainMenu::MainMenu() : menu_(makeMenu(mainMenu())) {}
+
+bool MainMenu::isChecked(std::uint16_t identifier) const {
+    const UINT state = GetMenuState(menu_.get(), identifier, MF_BYCOMMAND);
+    return state != static_cast<UINT>(-1) && (state & MF_CHECKED) != 0;
+}
+
+void MainMenu::setChecked(std::uint16_t identifier, bool on) { setMark(menu_.get(), identifier, on); }
+
+void MainMenu::showMarks(const std::function<bool(std::uint16_t)>& isMarked) {
+    showMarksOf(mainMenu(), menu_.get(), isMarked);
+}
+
+void MainMenu::open(WindowHandle owner, Point corner) const { track(menu_.get(), owner, corner); }
+
+void MainMenu::openSubmenu(std::size_t index, WindowHandle owner, Point corner) const {
+    track(GetSubMenu(menu_.get(), static_cast<int>(index)), owner, corner);
+}
+
+}  // namespace calquo

@@ -1,0 +1,38 @@
+// The mutex of the running program, and its window.
+#include "shell/single_instance.h"
+
+#include "shell/program_title.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+
+RunningMark::RunningMark() {
+    SetLastError(ERROR_SUCCESS);
+    mutex_ = CreateMutexW(nullptr, TRUE, wideProgramTitle().c_str());
+    // Any error at all, such as a mutex of another user, counts as another instance.
+    first_ = GetLastError() == ERROR_SUCCESS;
+}
+
+RunningMark::~RunningMark() {
+    if (mutex_ == nullptr) {
+        return;
+    }
+    if (first_) {
+        ReleaseMutex(mutex_);
+    }
+    CloseHandle(mutex_);
+}
+
+bool bringRunningProgramForward() {
+    const HWND window = FindWindowW(wideProgramTitle().c_str(), nullptr);
+    if (window == nullptr) {
+        return false;
+    }
+    if (IsIconic(window) != 0) {
+        ShowWindow(window, SW_RESTORE);
+    }
+    SetForegroundWindow(window);
+    return true;
+}
+
+}  // namespace calquo
