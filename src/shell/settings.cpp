@@ -146,7 +146,10 @@ void Settings::loadAll() {
     for (std::size_t row = 0; row < values_.size(); ++row) {
         const Item& item = items()[row];
         std::optional<SettingValue> stored = storage_.read(item.name);
-        values_[row] = stored && fits(item, *stored) ? std::move(*stored) : item.defaultValue;
+        if (!stored || !fits(item, *stored)) {
+            stored = item.defaultValue;
+        }
+        values_[row] = std::move(*stored);
     }
 }
 

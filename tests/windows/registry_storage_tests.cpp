@@ -5,7 +5,9 @@
 
 #include <array>
 #include <iterator>
+#include <string_view>
 
+#include "values/program.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -144,7 +146,8 @@ TEST_F(RegistryStorageTest, SettingsComeBackInTheNextRun) {
 }
 
 TEST(SettingsKeyPath, LeadsThroughTheMakerAndTheProgram) {
-    EXPECT_EQ(settingsKeyPath(), L"Software\\calquo.example\\Calquo\\2.0");
+    const std::string_view maker = makersSite;
+    EXPECT_EQ(settingsKeyPath(), L"Software\\" + std::wstring(maker.begin(), maker.end()) + L"\\Calquo\\2.0");
 }
 
 }  // namespace
