@@ -13,11 +13,11 @@
 namespace calquo {
 
 struct PanelButton {
-    std::string_view label;        ///< What stands on its face; empty for a button that shows its symbol.
-    std::string_view description;  ///< Its tooltip; empty for none.
-    std::string_view insertion;    ///< What it inserts: its label, unless the language spells that otherwise.
+    std::string_view label{};        ///< What stands on its face; empty for a button that shows its symbol.
+    std::string_view description{};  ///< Its tooltip; empty for none.
+    std::string_view insertion{};    ///< What it inserts: its label, unless the language spells that otherwise.
     Symbol symbol = Symbol::None;
-    Color face;
+    Color face{};
     int widthNumber = 0;   ///< 0 to 8; 0 is the narrowest.
     bool repeats = false;  ///< Acts when it is pressed and while it is held, not when it is released.
 };
