@@ -49,4 +49,13 @@ constexpr bool isWellFormed(NumericFormat word, FormatKind kind) {
     });
 }
 
+static_assert([] {
+    for (std::uint32_t kind = 0; kind < defaultFormats.size(); ++kind) {
+        if (!isWellFormed(defaultFormats[kind], static_cast<FormatKind>(kind))) {
+            return false;
+        }
+    }
+    return true;
+}());
+
 }  // namespace calquo

@@ -38,7 +38,6 @@ struct CommandRange {
     std::uint16_t last;
 
     constexpr bool contains(std::uint16_t identifier) const { return identifier >= first && identifier <= last; }
-    bool operator==(const CommandRange&) const = default;
 };
 
 /// Open or close the panel of the same identifier.
@@ -58,10 +57,6 @@ static_assert(!panelCommands.contains(identifierOf(Command::LeftCaptionPanel)) &
 /// The format that an identifier of one of the two ranges is about.
 constexpr FormatKind formatOf(CommandRange range, std::uint16_t identifier) {
     return static_cast<FormatKind>(identifier - range.first);
-}
-
-constexpr std::uint16_t selectCommandOf(FormatKind kind) {
-    return static_cast<std::uint16_t>(selectFormatCommands.first + static_cast<std::uint32_t>(kind));
 }
 
 }  // namespace calquo

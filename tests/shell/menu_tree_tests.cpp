@@ -141,7 +141,7 @@ TEST(MenuTree, BothFormatMenusHaveTheSameLabels) {
     for (std::size_t kind = 0; kind < modify.size(); ++kind) {
         EXPECT_EQ(select[kind].label, modify[kind].label);
         EXPECT_EQ(formatOf(modifyFormatCommands, modify[kind].identifier), static_cast<FormatKind>(kind));
-        EXPECT_EQ(selectCommandOf(static_cast<FormatKind>(kind)), select[kind].identifier);
+        EXPECT_EQ(formatOf(selectFormatCommands, select[kind].identifier), static_cast<FormatKind>(kind));
     }
 }
 
