@@ -71,19 +71,24 @@ int widthOf(HDC context, const std::wstring& text) {
     return size.cx;
 }
 
-/// A font in which a label of `width` pixels in the present one takes up no more than `room`.
-FontOwner fittingFont(HDC context, int width, int room) {
+/// The widest font in which a label, too wide in the present one, takes up no more than `room` pixels.
+FontOwner fittingFont(HDC context, const std::wstring& label, int room) {
     TEXTMETRICW metrics{};
     GetTextMetricsW(context, &metrics);
-    return narrowButtonFont(std::max(1, static_cast<int>(metrics.tmAveCharWidth) * room / width));
+    for (int averageWidth = static_cast<int>(metrics.tmAveCharWidth);; --averageWidth) {
+        FontOwner font = narrowButtonFont(averageWidth);
+        const Selection selected(context, font.get());
+        if (averageWidth <= 1 || widthOf(context, label) <= room) {
+            return font;
+        }
+    }
 }
 
 /// Writes the label in the middle of an area, narrower where it would not fit.
 void paintLabel(HDC context, const std::wstring& label, Size area, Color color) {
     const Selection font(context, buttonFont());
-    const int room = area.width - area.height / 5;
-    const int width = widthOf(context, label);
-    const FontOwner narrow = width > room ? fittingFont(context, width, room) : FontOwner();
+    const int room = area.width - area.height / 4;
+    const FontOwner narrow = widthOf(context, label) > room ? fittingFont(context, label, room) : FontOwner();
     const Selection fitting(context, narrow ? narrow.get() : buttonFont());
     SetTextColor(context, colorReference(color));
     SetBkMode(context, TRANSPARENT);

@@ -93,6 +93,10 @@ protected:
 
     void setText(std::string_view text);
     void setPreferredSize(Size size) { preferredSize_ = size; }
+    /// Adds the height of what drops down below the widget, which the system counts as the window's own.
+    void setDropHeight(int height) { dropHeight_ = height; }
+    /// Has the system's class write in `font`, which must outlive the widget.
+    void showIn(FontHandle font);
 
     /// Sends a message past the filter, straight to the system's class.
     MessageAnswer sendToSystemClass(const Message& message) const;
@@ -110,6 +114,7 @@ private:
     SystemProcedure systemProcedure_;
     std::string text_;
     Size preferredSize_;
+    int dropHeight_ = 0;
     WindowOwner window_;
     WindowOwner tooltip_;
 };

@@ -116,8 +116,10 @@ void Component::setText(std::string_view text) {
     SetWindowTextW(handle(), wideText(label()).c_str());
 }
 
+void Component::showIn(FontHandle font) { SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE); }
+
 void Component::moveTo(const Rectangle& place) {
-    MoveWindow(handle(), place.left, place.top, place.width, place.height, TRUE);
+    MoveWindow(handle(), place.left, place.top, place.width, place.height + dropHeight_, TRUE);
 }
 
 void Component::show() { ShowWindow(handle(), SW_SHOWNA); }

@@ -32,4 +32,14 @@ const wchar_t* installedFont(std::span<const wchar_t* const> names) {
     return font == names.end() ? names.back() : *font;
 }
 
+Size extentOf(FontHandle font, const std::wstring& text) {
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ previous = SelectObject(screen, font);
+    RECT place{};
+    DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(screen, previous);
+    ReleaseDC(nullptr, screen);
+    return {place.right, place.bottom};
+}
+
 }  // namespace calquo
