@@ -2,6 +2,7 @@
 #pragma once
 
 #include "panels/button_panel.h"
+#include "widgets/color.h"
 #include "widgets/geometry.h"
 
 namespace calquo {
@@ -15,15 +16,21 @@ public:
 
     /// Lets the maximize button restore the window, and back.
     void showMaximized(bool maximized);
+    /// Takes the colours of an active window, or of another.
+    void showActive(bool active);
 
-    /// Draws the strip between the panels: the title on a ground that tells whether the window is `active`.
-    static void paint(DrawingContext context, const Rectangle& place, bool active);
+    /// The colour behind the title and the buttons.
+    Color ground() const;
+    /// Draws the title in its place between the panels.
+    void paint(DrawingContext context, const Rectangle& place) const;
 
 private:
+    void giveLooks();
+
     ButtonPanel left_;
     ButtonPanel right_;
-    Button* maximizeButton_ = nullptr;  ///< Of the right panel.
     bool maximized_ = false;
+    bool active_ = false;
 };
 
 }  // namespace calquo

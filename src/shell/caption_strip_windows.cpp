@@ -1,9 +1,10 @@
 // The caption strip's panels and its drawing.
 #include "shell/caption_strip.h"
 
+#include <utility>
+
 #include "shell/command_ids.h"
 #include "shell/program_title.h"
-#include "widgets/color.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -14,37 +15,54 @@ constexpr std::uint16_t leftIdentifier = identifierOf(Command::LeftCaptionPanel)
 constexpr std::uint16_t rightIdentifier = identifierOf(Command::RightCaptionPanel);
 constexpr std::string_view maximizeLabel = "M";
 
-/// The title and its ground, while the window is active and while it is not.
-constexpr Color activeGround{44, 62, 92};
-constexpr Color inactiveGround{168, 174, 184};
+/// The colours of the strip: behind everything, and of the buttons.
+struct CaptionColors {
+    Color ground;
+    Color face;
+};
+constexpr CaptionColors activeColors{{38, 56, 89}, {58, 80, 120}};
+constexpr CaptionColors inactiveColors{{188, 194, 204}, {210, 215, 223}};
+
+const CaptionColors& colorsOf(bool active) { return active ? activeColors : inactiveColors; }
 
 }  // namespace
 
 CaptionStrip::CaptionStrip(WindowHandle parent)
     : left_(parent, leftIdentifier, captionPanel(leftIdentifier)),
       right_(parent, rightIdentifier, captionPanel(rightIdentifier)) {
-    for (const auto& child : right_.children()) {
-        if (child->label() == maximizeLabel) {
-            maximizeButton_ = dynamic_cast<Button*>(child.get());
+    giveLooks();
+}
+
+void CaptionStrip::showMaximized(bool maximized) {
+    if (std::exchange(maximized_, maximized) != maximized) {
+        giveLooks();
+    }
+}
+
+void CaptionStrip::showActive(bool active) {
+    if (std::exchange(active_, active) != active) {
+        giveLooks();
+    }
+}
+
+void CaptionStrip::giveLooks() {
+    for (const ButtonPanel* const panel : {&left_, &right_}) {
+        for (const auto& child : panel->children()) {
+            const PanelButton& own = panel->entryOf(*child);
+            ButtonDescription look = descriptionOf(maximized_ && own.label == maximizeLabel ? restoreButton() : own);
+            look.face = colorsOf(active_).face;
+            dynamic_cast<Button&>(*child).setLook(look);
         }
     }
 }
 
-void CaptionStrip::showMaximized(bool maximized) {
-    if (maximized == maximized_ || maximizeButton_ == nullptr) {
-        return;
-    }
-    maximized_ = maximized;
-    maximizeButton_->setLook(descriptionOf(maximized ? restoreButton() : right_.entryOf(*maximizeButton_)));
-}
+Color CaptionStrip::ground() const { return colorsOf(active_).ground; }
 
-void CaptionStrip::paint(DrawingContext context, const Rectangle& place, bool active) {
-    const Color ground = active ? activeGround : inactiveGround;
+void CaptionStrip::paint(DrawingContext context, const Rectangle& place) const {
     RECT area{place.left, place.top, place.left + place.width, place.top + place.height};
-    SetBkColor(context, colorReference(ground));
+    SetBkColor(context, colorReference(ground()));
     ExtTextOutW(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);  // fills it without a brush
-    SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, colorReference(textColorOn(ground)));
+    SetTextColor(context, colorReference(textColorOn(ground())));
     const HGDIOBJ before = SelectObject(context, buttonFont());
     InflateRect(&area, -buttonSize() / 2, 0);
     const std::wstring title = wideProgramTitle();

@@ -48,6 +48,8 @@ private:
     std::optional<MessageAnswer> hearActivation(const Message& message);
     std::optional<MessageAnswer> passFocusOn(const Message& message);
     std::optional<MessageAnswer> paint(const Message& message);
+    std::optional<MessageAnswer> eraseGround(const Message& message);
+    std::optional<MessageAnswer> chooseGround(const Message& message);
     std::optional<MessageAnswer> close(const Message& message);
     std::optional<MessageAnswer> answerSizeLimits(const Message& message);
     std::optional<MessageAnswer> hearPlace(const Message& message);
@@ -84,7 +86,6 @@ private:
     void moveWhereItCanBeReached();
     void layOut();
     void layOutAndRefresh();
-    void repaintCaption();
 
     Settings& settings_;
     WindowOwner window_;
@@ -93,7 +94,6 @@ private:
     std::unique_ptr<WorkArea> workArea_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.
     WindowHandle lastFocus_ = nullptr;
-    bool active_ = false;
     bool enlarging_ = false;
 };
 

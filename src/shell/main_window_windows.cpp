@@ -25,6 +25,9 @@ constexpr DWORD extendedStyle = WS_EX_APPWINDOW;
 /// What a usable work area measures at least, in buttons.
 constexpr Size smallestWorkAreaInButtons{10, 5};
 
+/// The colour behind the button panels.
+constexpr Color panelGround{236, 239, 243};
+
 constexpr int iconResource = 101;
 
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
@@ -42,6 +45,12 @@ RECT cornersOf(const Rectangle& place) {
     return {place.left, place.top, place.left + place.width, place.top + place.height};
 }
 
+Size clientSize(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return {client.right, client.bottom};
+}
+
 constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
                                            identifierOf(Command::ButtonsAddGradients),
                                            identifierOf(Command::ButtonsAddRadians)};
@@ -50,6 +59,11 @@ Rectangle windowRectangle(HWND window) {
     RECT corners{};
     GetWindowRect(window, &corners);
     return rectangleOf(corners);
+}
+
+void place(ButtonPanel& panel, const Rectangle& rectangle) {
+    panel.moveTo(rectangle);
+    panel.layOut();
 }
 
 /// Where the menu of a caption's button opens, on the screen.
@@ -150,6 +164,8 @@ const MainWindow::MessageRow MainWindow::messageRows[] = {
     {WM_ACTIVATE, &MainWindow::hearActivation},
     {WM_SETFOCUS, &MainWindow::passFocusOn},
     {WM_PAINT, &MainWindow::paint},
+    {WM_ERASEBKGND, &MainWindow::eraseGround},
+    {WM_CTLCOLORSTATIC, &MainWindow::chooseGround},
     {WM_CLOSE, &MainWindow::close},
     {WM_GETMINMAXINFO, &MainWindow::answerSizeLimits},
     {WM_WINDOWPOSCHANGED, &MainWindow::hearPlace},
@@ -273,11 +289,16 @@ std::optional<MessageAnswer> MainWindow::close(const Message&) {
 // --- Focus and caption ----------------------------------------------------------------------------------------------
 
 std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) {
-    active_ = LOWORD(message.wide) != WA_INACTIVE;
-    if (!active_ && IsChild(handle(), GetFocus()) != 0) {
+    const bool active = LOWORD(message.wide) != WA_INACTIVE;
+    if (!active && IsChild(handle(), GetFocus()) != 0) {
         lastFocus_ = GetFocus();
     }
-    repaintCaption();
+    if (caption_ != nullptr) {
+        caption_->showActive(active);
+        const Rectangle place = layOutWindow(clientSize(handle()), parts()).title;
+        const RECT strip{0, place.top, clientSize(handle()).width, place.top + place.height};
+        RedrawWindow(handle(), &strip, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE | RDW_ALLCHILDREN);
+    }
     return std::nullopt;
 }
 
@@ -286,24 +307,30 @@ std::optional<MessageAnswer> MainWindow::passFocusOn(const Message&) {
     return 0;
 }
 
-void MainWindow::repaintCaption() {
-    if (caption_ == nullptr) {
-        return;
-    }
-    RECT client{};
-    GetClientRect(handle(), &client);
-    const RECT strip{0, 0, client.right, caption_->left().preferredSize().height};
-    RedrawWindow(handle(), &strip, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-}
-
 std::optional<MessageAnswer> MainWindow::paint(const Message&) {
-    RECT client{};
-    GetClientRect(handle(), &client);
     PAINTSTRUCT painting{};
     const HDC context = BeginPaint(handle(), &painting);
-    CaptionStrip::paint(context, layOutWindow({client.right, client.bottom}, parts()).title, active_);
+    caption_->paint(context, layOutWindow(clientSize(handle()), parts()).title);
     EndPaint(handle(), &painting);
     return 0;
+}
+
+std::optional<MessageAnswer> MainWindow::chooseGround(const Message& message) {
+    const HWND panel = reinterpret_cast<HWND>(message.extra);
+    const bool isCaption = panel == caption_->left().handle() || panel == caption_->right().handle();
+    const Color ground = isCaption ? caption_->ground() : panelGround;
+    SetDCBrushColor(reinterpret_cast<HDC>(message.wide), colorReference(ground));
+    return reinterpret_cast<MessageAnswer>(GetStockObject(DC_BRUSH));
+}
+
+std::optional<MessageAnswer> MainWindow::eraseGround(const Message& message) {
+    // The ground of the panels goes on below the last of them.
+    const HDC context = reinterpret_cast<HDC>(message.wide);
+    RECT client{};
+    GetClientRect(handle(), &client);
+    SetDCBrushColor(context, colorReference(panelGround));
+    FillRect(context, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    return 1;
 }
 
 std::optional<MessageAnswer> MainWindow::hitTest(const Message& message) {
@@ -373,29 +400,26 @@ std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
 }
 
 void MainWindow::layOut() {
-    const Rectangle place = windowRectangle(handle());
+    const Rectangle window = windowRectangle(handle());
     const Size least = smallestWindow();
-    if ((place.width < least.width || place.height < least.height) && !enlarging_) {
+    if ((window.width < least.width || window.height < least.height) && !enlarging_) {
         enlarging_ = true;
-        SetWindowPos(handle(), nullptr, 0, 0, std::max(place.width, least.width), std::max(place.height, least.height),
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(handle(), nullptr, 0, 0, std::max(window.width, least.width),
+                     std::max(window.height, least.height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         enlarging_ = false;
     }
-    RECT client{};
-    GetClientRect(handle(), &client);
-    const WindowParts windowParts = parts();
-    const WindowLayout layout = layOutWindow({client.right, client.bottom}, windowParts);
-    caption_->left().moveTo(layout.leftCaption);
-    caption_->right().moveTo(layout.rightCaption);
+    const WindowLayout layout = layOutWindow(clientSize(handle()), parts());
+    place(caption_->left(), layout.leftCaption);
+    place(caption_->right(), layout.rightCaption);
     for (std::size_t index = 0; index < panels_.size(); ++index) {
-        panels_[index]->moveTo(layout.panels[index]);
+        place(*panels_[index], layout.panels[index]);
     }
     workArea_->moveTo(layout.workArea);
 }
 
 void MainWindow::layOutAndRefresh() {
     layOut();
-    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // --- Menu and commands ----------------------------------------------------------------------------------------------

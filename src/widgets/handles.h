@@ -8,6 +8,7 @@ struct HBITMAP__;
 struct HDC__;
 struct HFONT__;
 struct HINSTANCE__;
+struct HMENU__;
 struct HWND__;
 
 namespace calquo {
@@ -15,6 +16,7 @@ namespace calquo {
 using BitmapHandle = HBITMAP__*;
 using DrawingContext = HDC__*;
 using FontHandle = HFONT__*;
+using MenuHandle = HMENU__*;
 using ModuleHandle = HINSTANCE__*;
 using WindowHandle = HWND__*;
 
@@ -51,6 +53,7 @@ private:
 void deleteBitmap(BitmapHandle bitmap);
 void deleteDrawingContext(DrawingContext context);
 void deleteFont(FontHandle font);
+void destroyMenu(MenuHandle menu);
 void destroyWindow(WindowHandle window);
 void freeLibrary(ModuleHandle library);
 
@@ -58,6 +61,7 @@ using BitmapOwner = HandleOwner<BitmapHandle, deleteBitmap>;
 using DrawingContextOwner = HandleOwner<DrawingContext, deleteDrawingContext>;
 using FontOwner = HandleOwner<FontHandle, deleteFont>;
 using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
+using MenuOwner = HandleOwner<MenuHandle, destroyMenu>;
 using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
 
 }  // namespace calquo

@@ -11,6 +11,8 @@ void deleteDrawingContext(DrawingContext context) { DeleteDC(context); }
 
 void deleteFont(FontHandle font) { DeleteObject(font); }
 
+void destroyMenu(MenuHandle menu) { DestroyMenu(menu); }
+
 void destroyWindow(WindowHandle window) { DestroyWindow(window); }
 
 void freeLibrary(ModuleHandle library) { FreeLibrary(library); }

@@ -68,6 +68,9 @@ public:
     /// nothing but the control's own search for a position.
     Paragraph paragraphAt(std::int32_t position) const;
 
+    /// The characters of a range, line ends as "\r".
+    std::wstring charactersIn(TextRange range) const;
+
     /// Replaces a range by runs of text and puts the caret at `caret`, as one step for undo.
     void replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret);
 
@@ -89,7 +92,6 @@ private:
 
     void chooseLook();
     void typeInNormalStyle();
-    std::wstring text(TextRange range) const;
     std::string richText(const std::vector<StyledRun>& runs) const;
     void replaceSelection(const std::vector<StyledRun>& runs);
 
