@@ -87,7 +87,7 @@ constexpr ButtonSource enter = editing(Symbol::Enter, "Enter (evaluate)");
 
 /// A key that is no digit, as the rows of keys name it.
 struct OperatorKey {
-    char key;
+    char key = '\0';
     ButtonSource source;
 };
 
@@ -374,10 +374,10 @@ constexpr std::array<PanelEntry, std::size(panels)> catalogue = [] {
 static_assert(catalogue.size() == 37);
 // Those that are stated one by one, and those from rows of keys.
 static_assert(buttons.size() == 288 + 100);
-static_assert(std::is_sorted(catalogue.begin(), catalogue.end(),
-                             [](const PanelEntry& a, const PanelEntry& b) {
-                                 return std::tie(a.group, a.identifier) < std::tie(b.group, b.identifier);
-                             }),
+static_assert(std::adjacent_find(catalogue.begin(), catalogue.end(),
+                                 [](const PanelEntry& a, const PanelEntry& b) {
+                                     return std::tie(a.group, a.identifier) >= std::tie(b.group, b.identifier);
+                                 }) == catalogue.end(),
               "the panels stand in the order of the menu");
 
 constexpr PanelButton captionButton(std::string_view label, std::string_view description, Symbol symbol) {

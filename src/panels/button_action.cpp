@@ -1,0 +1,208 @@
+// The rules of the panels; see button_action.h.
+#include "panels/button_action.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "engine/characters.h"
+#include "engine/keywords.h"
+#include "engine/lexer.h"
+#include "values/errors.h"
+#include "workarea/record.h"
+
+namespace calquo {
+namespace {
+
+/// Among the keypads, the one whose buttons do more than type.
+constexpr std::uint16_t numericBasePanel = 0xA113;
+
+/// What goes in front of and behind the selection.
+struct Surroundings {
+    std::string prefix;
+    std::string suffix;
+};
+
+/// A character that words must be kept apart from; control characters count as blanks.
+bool isInk(char character) { return static_cast<unsigned char>(character) > ' '; }
+
+/// Puts a prefix and a suffix around the selection. Blanks keep them apart from their neighbours, and the caret goes
+/// where typing is to go on.
+SurroundCharacters insertAround(const LineSelection& line, const Surroundings& around) {
+    const std::size_t open = around.prefix.find('(');
+    const bool calls = open != std::string::npos;
+    const bool selects = line.begin != line.end;
+    const bool inkBefore = line.begin > 0 && isInk(line.text[line.begin - 1]);
+    const bool inkAfter = line.end < line.text.size() && isInk(line.text[line.end]);
+
+    SurroundCharacters result{line.begin, line.end, around.prefix, around.suffix, 0};
+    if (inkBefore) {
+        result.before.insert(0, 1, ' ');
+    }
+    const std::size_t prefixBegin = line.begin + (inkBefore ? 1 : 0);
+    if (calls && open + 1 < around.prefix.size()) {
+        result.caret = prefixBegin + open + 1;
+    } else {
+        // A name without parentheses does not touch what it stands before. Where nothing is selected that is the
+        // character behind the suffix, which gets its blank below.
+        if (!calls && selects && isInk(line.text[line.begin])) {
+            result.before += ' ';
+        }
+        result.caret = line.begin + result.before.size() + (line.end - line.begin);
+    }
+    if (inkAfter) {
+        result.after += ' ';
+    }
+    return result;
+}
+
+/// A call of a function with the selection as its first argument, and `rest` behind it.
+Surroundings callOf(std::string_view name, std::string_view rest) {
+    return {std::string(name) + '(', std::string(rest) + ')'};
+}
+
+/// A function of the angle panels; the names of the inverse functions begin with "a". Deliberate: the hyperbolic
+/// functions are treated like the circular ones.
+Surroundings angleCall(std::string_view name, AngleOption angle) {
+    constexpr std::string_view units[] = {"", " deg", " grad", " rad"};
+    const std::string_view unit = units[static_cast<std::size_t>(angle)];
+    Surroundings call = callOf(name, "");
+    if (!unit.empty()) {
+        const bool inverse = lowerCase(name.front()) == 'a';
+        call.suffix = inverse ? ") ->" + std::string(unit) : std::string(unit) + ')';
+    }
+    return call;
+}
+
+/// A name of the mathematical panels, with room for as many arguments as it takes.
+Surroundings mathematicalCall(std::string_view name) {
+    // Deliberate: what is selected comes second, and the caret goes to the first argument.
+    if (name == "logB" || name == "root") {
+        return {std::string(name) + "(; ", ")"};
+    }
+    const auto arguments = static_cast<std::size_t>(classOf(lookup(name)));
+    if (arguments == 0) {
+        return {std::string(name), ""};
+    }
+    std::string rest;
+    for (std::size_t further = 1; further < arguments; ++further) {
+        rest += "; ";
+    }
+    return callOf(name, rest);
+}
+
+/// A financial function with arguments to be typed over.
+Surroundings financialCall(std::string_view name) {
+    struct Template {
+        std::string_view name, suffix;
+    };
+    constexpr Template templates[] = {
+        {"fv", "; 1 year; 5%; month; 0; month)"},
+        {"pv", "; 1 year; 5%; month; 0; month)"},
+        {"dur", "; ; 5%; month; 0; month) -> yr"},
+        {"rate", "; ; 1 year; month; 0; month)"},
+    };
+    std::string_view suffix = "; ; 1 year; 5%; month; month)";
+    for (const Template& row : templates) {
+        if (row.name == name) {
+            suffix = row.suffix;
+        }
+    }
+    return {std::string(name) + '(', std::string(suffix)};
+}
+
+/// Whether a suffix that asks for an output base stands at an index, be its base one that exists or not.
+bool outputBaseStandsAt(std::string_view expression, std::size_t index) {
+    try {
+        return readOutputBaseSuffix(expression, index).length != 0;
+    } catch (const Except&) {
+        return true;
+    }
+}
+
+/// The length of an expression without the suffix that asks for an output base, and without the blanks before that.
+std::size_t lengthBeforeOutputBase(std::string_view expression) {
+    std::size_t begin = std::min(expression.rfind(markCharacter(TokenClass::BaseMark)), expression.size());
+    while (begin > 0 && isBlank(expression[begin - 1])) {
+        --begin;
+    }
+    return outputBaseStandsAt(expression, begin) ? begin : expression.size();
+}
+
+/// Puts `suffix` in place of the one that asks for an output base, at the end of the line's expression or, where a
+/// line has none, of the line. The caret stays at its place in the text, so that the expression can be typed on.
+ButtonAction changeOutputBase(const LineSelection& line, std::string suffix) {
+    const bool answered = line.text.find(markCharacter(TokenClass::Equals)) != std::string_view::npos;
+    const std::string_view expression = answered ? expressionOf(line.text) : line.text;
+    const std::string_view asking = expression.empty() ? line.text : expression;
+    const std::size_t begin = lengthBeforeOutputBase(asking);
+    const std::size_t end = asking.size();
+    if (begin == end && suffix.empty()) {
+        return NoAction{};
+    }
+    const std::size_t caret = line.end <= end ? std::min(line.end, begin) : line.end - (end - begin) + suffix.size();
+    return ReplaceCharacters{begin, end, std::move(suffix), caret};
+}
+
+ButtonAction numericBaseAction(std::string_view insertion, const LineSelection& line) {
+    if (insertion == "10") {
+        return changeOutputBase(line, "");
+    }
+    if (insertion.size() > 1 && insertion.front() == markCharacter(TokenClass::BaseMark)) {
+        return changeOutputBase(line, ' ' + std::string(insertion));
+    }
+    return TypeCharacters{insertion};
+}
+
+/// What the button of a keypad does that types nothing.
+ButtonAction editingAction(Symbol symbol) {
+    switch (symbol) {
+        case Symbol::EraseBack:
+            return EditingOperation::Backspace;
+        case Symbol::EraseNext:
+            return EditingOperation::Delete;
+        case Symbol::Enter:
+            return EditingOperation::Enter;
+        case Symbol::Clear:
+            return EditingOperation::Clear;
+        case Symbol::Undo:
+            return EditingOperation::Undo;
+        case Symbol::Redo:
+            return EditingOperation::Redo;
+        default:
+            return NoAction{};
+    }
+}
+
+}  // namespace
+
+ButtonAction actionOf(std::uint16_t panel, const PanelButton& button, const LineSelection& line, AngleOption angle) {
+    const PanelEntry* const entry = findPanel(panel);
+    if (entry == nullptr) {
+        return NoAction{};
+    }
+    const std::size_t end = std::min(line.end, line.text.size());
+    const LineSelection inLine{line.text, std::min(line.begin, end), end};
+    const std::string_view name = button.insertion;
+    switch (entry->group) {
+        case PanelGroup::BitLevel:
+            return insertAround(inLine, callOf(name, name == "bNot" ? "" : "; "));
+        case PanelGroup::Keypads:
+            if (panel == numericBasePanel) {
+                return numericBaseAction(name, inLine);
+            }
+            return name.empty() ? editingAction(button.symbol) : TypeCharacters{name};
+        case PanelGroup::Financial:
+            return insertAround(inLine, financialCall(name));
+        case PanelGroup::Mathematics:
+            return insertAround(inLine, mathematicalCall(name));
+        case PanelGroup::Statistics:
+            return insertAround(inLine, callOf(name, ""));
+        case PanelGroup::Trigonometric:
+            return insertAround(inLine, angleCall(name, angle));
+        case PanelGroup::Units:
+            return insertAround(inLine, {std::string(name), ""});
+    }
+    return NoAction{};
+}
+
+}  // namespace calquo
