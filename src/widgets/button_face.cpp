@@ -6,7 +6,7 @@ namespace {
 
 /// What text needs to be read with ease: level AA of the Web Content Accessibility Guidelines.
 constexpr double readableContrast = 4.5;
-constexpr int pressedPercent = 30;
+constexpr int pressedPercent = 40;
 constexpr int edgePercent = 45;
 
 constexpr Color opposite(Color text) { return text == black ? white : black; }

@@ -93,8 +93,19 @@ constexpr SymbolRow symbolRows[] = {
      {{14, 14}, {14, 0},  {60, 0},  {60, 40}, {50, 40}, {50, 31}, {51, 31}, {51, 9},  {23, 9}, {23, 14}, {14, 14},
       {0, 20},  {44, 20}, {44, 56}, {0, 56},  {0, 20},  {9, 32},  {35, 32}, {35, 47}, {9, 47}, {9, 32},  {0, 20}}},
     {Symbol::Close,
-     {{6, 0}, {28, 22}, {50, 0}, {56, 6}, {34, 28}, {56, 50}, {50, 56}, {28, 34}, {6, 56}, {0, 50}, {22, 28}, {0, 6}}},
+     {{8, 0}, {28, 20}, {48, 0}, {56, 8}, {36, 28}, {56, 48}, {48, 56}, {28, 36}, {8, 56}, {0, 48}, {20, 28}, {0, 8}}},
 };
+
+constexpr bool standInOrder() {
+    std::size_t index = 0;
+    for (const SymbolRow& row : symbolRows) {
+        if (static_cast<std::size_t>(row.symbol) != index++) {
+            return false;
+        }
+    }
+    return index == static_cast<std::size_t>(Symbol::Close) + 1;
+}
+static_assert(standInOrder());
 
 }  // namespace
 
