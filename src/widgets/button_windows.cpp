@@ -54,7 +54,7 @@ private:
     HGDIOBJ previous_;
 };
 
-/// Paints the rectangles with the null pen, which leaves out the last column and row of each.
+/// Paints the rectangles with the null pen; some systems leave out the last column and row of each with it.
 void paintLayers(HDC context, const std::vector<RoundedRectangle>& layers) {
     const Selection pen(context, GetStockObject(NULL_PEN));
     const Selection brush(context, GetStockObject(DC_BRUSH));
@@ -226,11 +226,10 @@ MessageAnswer Button::paint(const Message&) {
     FillRect(context, &whole, reinterpret_cast<HBRUSH>(background));
     const ButtonFace face = buttonFace(size, face_, press_.isPressed());
     paintLayers(context, face.layers);
-    const Size painted{size.width - 1, size.height - 1};  // the null pen leaves out the rest
     if (symbol_ == Symbol::None) {
-        paintLabel(context, wideText(label()), painted, face.textColor);
+        paintLabel(context, wideText(label()), size, face.textColor);
     } else {
-        paintSymbol(buffer, symbol_, painted, face.textColor);
+        paintSymbol(buffer, symbol_, size, face.textColor);
     }
     buffer.show(painting.context());
     return 0;
