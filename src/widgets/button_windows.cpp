@@ -71,25 +71,23 @@ int widthOf(HDC context, const std::wstring& text) {
     return size.cx;
 }
 
-/// The widest font in which a label, too wide in the present one, takes up no more than `room` pixels.
-FontOwner fittingFont(HDC context, const std::wstring& label, int room) {
+/// The widest font of the buttons in which a label takes up no more than `room` pixels.
+FontHandle fittingFont(HDC context, const std::wstring& label, int room) {
+    FontHandle font = buttonFont();
+    const Selection usual(context, font);
     TEXTMETRICW metrics{};
     GetTextMetricsW(context, &metrics);
-    for (int averageWidth = static_cast<int>(metrics.tmAveCharWidth);; --averageWidth) {
-        FontOwner font = narrowButtonFont(averageWidth);
-        const Selection selected(context, font.get());
-        if (averageWidth <= 1 || widthOf(context, label) <= room) {
-            return font;
-        }
+    for (LONG averageWidth = metrics.tmAveCharWidth; averageWidth > 0 && widthOf(context, label) > room;
+         --averageWidth) {
+        font = narrowButtonFont(static_cast<int>(averageWidth));
+        SelectObject(context, font);
     }
+    return font;
 }
 
 /// Writes the label in the middle of an area, narrower where it would not fit.
 void paintLabel(HDC context, const std::wstring& label, Size area, Color color) {
-    const Selection font(context, buttonFont());
-    const int room = area.width - area.height / 4;
-    const FontOwner narrow = widthOf(context, label) > room ? fittingFont(context, label, room) : FontOwner();
-    const Selection fitting(context, narrow ? narrow.get() : buttonFont());
+    const Selection font(context, fittingFont(context, label, area.width - area.height / 4));
     SetTextColor(context, colorReference(color));
     SetBkMode(context, TRANSPARENT);
     RECT place{0, 0, area.width, area.height};

@@ -114,6 +114,7 @@ private:
     SystemProcedure systemProcedure_;
     std::string text_;
     Size preferredSize_;
+    Rectangle place_;
     int dropHeight_ = 0;
     WindowOwner window_;
     WindowOwner tooltip_;

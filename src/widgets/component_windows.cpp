@@ -119,6 +119,11 @@ void Component::setText(std::string_view text) {
 void Component::showIn(FontHandle font) { SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE); }
 
 void Component::moveTo(const Rectangle& place) {
+    // A layout is made anew whenever anything changes, and hundreds of windows are in it.
+    if (place == place_) {
+        return;
+    }
+    place_ = place;
     MoveWindow(handle(), place.left, place.top, place.width, place.height + dropHeight_, TRUE);
 }
 

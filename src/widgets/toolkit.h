@@ -9,14 +9,14 @@ inline constexpr int smallestButtonSize = 12;
 inline constexpr int defaultButtonSize = 20;  // at 96 dots per inch
 
 /// Sets the height of a button, in pixels, for the widgets made from now on; less than 12 counts as 12. The font of the
-/// buttons follows it: three quarters as high.
+/// buttons follows it: three quarters as high. Ends the fonts handed out before.
 void setButtonSize(int pixels);
 int buttonSize();
 
 /// The font of the buttons, as high as the button size asks for.
 FontHandle buttonFont();
-/// A font as high as that of the buttons whose characters are `averageWidth` pixels wide on average.
-FontOwner narrowButtonFont(int averageWidth);
+/// One as high, whose characters are `averageWidth` pixels wide on average, 1 or more.
+FontHandle narrowButtonFont(int averageWidth);
 /// The font of all other texts: the one that the user has chosen for messages.
 FontHandle textFont();
 

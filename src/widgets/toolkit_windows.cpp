@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <vector>
 
 #include "widgets/fonts.h"
 #include "widgets/windows_api.h"
@@ -14,7 +15,8 @@ namespace {
 constexpr const wchar_t* buttonFontNames[] = {L"Segoe UI", L"DejaVu Sans", L"Liberation Sans", L"Tahoma", L"Arial"};
 
 int buttonSizeNow = defaultButtonSize;
-FontOwner buttonFontNow;
+/// The fonts of the buttons so far, by the average width of their characters; at 0 the one of usual width.
+std::vector<FontOwner> buttonFonts;
 
 FontOwner makeButtonFont(int averageWidth) {
     static const wchar_t* const name = installedFont(buttonFontNames);
@@ -27,23 +29,29 @@ FontOwner makeButtonFont(int averageWidth) {
     return FontOwner(CreateFontIndirectW(&font));
 }
 
+FontHandle sharedButtonFont(int averageWidth) {
+    const auto index = static_cast<std::size_t>(averageWidth);
+    if (index >= buttonFonts.size()) {
+        buttonFonts.resize(index + 1);
+    }
+    if (!buttonFonts[index]) {
+        buttonFonts[index] = makeButtonFont(averageWidth);
+    }
+    return buttonFonts[index].get();
+}
+
 }  // namespace
 
 void setButtonSize(int pixels) {
     buttonSizeNow = std::max(pixels, smallestButtonSize);
-    buttonFontNow = makeButtonFont(0);
+    buttonFonts.clear();
 }
 
 int buttonSize() { return buttonSizeNow; }
 
-FontHandle buttonFont() {
-    if (!buttonFontNow) {
-        buttonFontNow = makeButtonFont(0);
-    }
-    return buttonFontNow.get();
-}
+FontHandle buttonFont() { return sharedButtonFont(0); }
 
-FontOwner narrowButtonFont(int averageWidth) { return makeButtonFont(averageWidth); }
+FontHandle narrowButtonFont(int averageWidth) { return sharedButtonFont(averageWidth); }
 
 FontHandle textFont() {
     static const FontOwner font = [] {
