@@ -1,0 +1,186 @@
+// The panels' buttons in the real window: each is pressed, and opening panels again and again leaves nothing behind.
+#include <gtest/gtest.h>
+
+#include "panels/button_action.h"
+#include "panels/catalogue.h"
+#include "program.h"
+#include "resources.h"
+#include "widgets/button.h"
+#include "widgets/wide_text.h"
+
+namespace calquo {
+namespace {
+
+constexpr unsigned numericBase = 0xA113, editing = 0xA111;
+
+/// What an action makes of a line of plain characters, without a window.
+struct Carried {
+    std::string line;
+    std::size_t caret;
+
+    void operator()(NoAction) const {}
+    void operator()(EditingOperation) const { FAIL() << "the editing buttons have a test of their own"; }
+    void operator()(TypeCharacters typing) {
+        line.replace(begin, end - begin, typing.characters);
+        caret = begin + typing.characters.size();
+    }
+    void operator()(const SurroundCharacters& change) {
+        line.insert(change.end, change.after);
+        line.insert(change.begin, change.before);
+        caret = change.caret;
+    }
+    void operator()(const ReplaceCharacters& change) {
+        line.replace(change.begin, change.end - change.begin, change.text);
+        caret = change.caret;
+    }
+
+    std::size_t begin = 0, end = 0;
+};
+
+TEST(PanelButtons, EachDoesItsActionToTheSelection) {
+    constexpr std::string_view line = "1+30*x";
+    constexpr std::size_t begin = 2, end = 4;
+    for (const PanelEntry& entry : panelCatalogue()) {
+        Program program;
+        program.command(entry.identifier);
+        const std::vector<HWND> windows = program.buttonsOf(entry.identifier);
+        std::size_t place = 0;
+        for (const PanelRow row : entry.rows) {
+            for (const PanelButton& button : row) {
+                SCOPED_TRACE(std::string(entry.menuLabel) + ": " + std::string(button.label));
+                const HWND window = windows.at(place++);
+                ASSERT_EQ(Component::of(window)->label(), button.label);
+                const ButtonAction action = actionOf(entry.identifier, button, {line, begin, end}, AngleOption::None);
+                if (std::holds_alternative<EditingOperation>(action)) {
+                    continue;
+                }
+                program.setText(wideText(line));
+                program.select(begin, end);
+                Program::click(window);
+                Carried expected{std::string(line), end, begin, end};
+                std::visit(expected, action);
+                EXPECT_EQ(program.text(), wideText(expected.line));
+                EXPECT_EQ(program.caret(), expected.caret);
+            }
+        }
+    }
+}
+
+TEST(PanelButtons, TheEditingButtonsEditAsKeysDo) {
+    struct Row {
+        std::string_view button;
+        const wchar_t* text;
+        std::size_t caret;
+    };
+    const Row rows[] = {
+        {"Erase previous character", L"2+4", 2}, {"Undo last edit", L"2+34", 3},
+        {"Erase next character", L"2+3", 3},     {"Undo last edit", L"2+34", 3},
+        {"Redo last undone", L"2+3", 3},         {"Enter (evaluate)", L"2+3 = 5\n\n5", 10},
+        {"Clear the work area", L"", 0},         {"Undo last edit", L"2+3 = 5\n\n5", 10},
+    };
+    Program program;
+    program.command(editing);
+    program.setText(L"2+34");
+    program.select(3, 3);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.button);
+        for (const HWND button : program.buttonsOf(editing)) {
+            if (Component::of(button)->description() == row.button) {
+                Program::click(button);
+            }
+        }
+        EXPECT_EQ(program.text(), row.text);
+    }
+}
+
+TEST(PanelButtons, AnInsertionKeepsForeignCharactersAndIsOneStepForUndo) {
+    Program program;
+    program.command(0xA331);
+    const std::wstring line = L"7+\u221E\U0001F600";
+    program.setText(line);
+    program.select(2, line.size());
+    for (const HWND button : program.buttonsOf(0xA331)) {
+        if (Component::of(button)->label() == "sqrt") {
+            Program::click(button);
+        }
+    }
+    EXPECT_EQ(program.text(), L"7+ sqrt(\u221E\U0001F600)");
+    SendMessageW(program.workArea(), EM_UNDO, 0, 0);
+    EXPECT_EQ(program.text(), line);
+}
+
+TEST(PanelButtons, TheAngleOptionIsTakenFromTheMenu) {
+    struct Row {
+        unsigned command, panel;
+        std::size_t button;
+        const wchar_t* text;
+    };
+    const Row rows[] = {
+        {0x8031, 0xA010, 0, L"sin(30 deg)"},
+        {0x8031, 0xA011, 0, L"asin(30) -> deg"},
+        {0x8032, 0xA020, 1, L"cosh(30 grad)"},
+        {0x8033, 0xA021, 2, L"atanh(30) -> rad"},
+    };
+    for (const Row& row : rows) {
+        Program program;
+        program.command(row.command);
+        program.command(row.panel);
+        program.setText(L"30");
+        program.select(0, 2);
+        Program::click(program.buttonsOf(row.panel).at(row.button));
+        EXPECT_EQ(program.text(), row.text);
+    }
+}
+
+TEST(PanelButtons, AnOutputBaseTakesThePlaceOfTheLast) {
+    Program program;
+    program.command(numericBase);
+    program.setText(L"255");
+    const std::vector<HWND> buttons = program.buttonsOf(numericBase);
+    const wchar_t* const texts[] = {L"255 '2", L"255 '8", L"255 '16", L"255"};
+    for (std::size_t index = 0; index < std::size(texts); ++index) {
+        for (int press = 0; press < 2; ++press) {
+            Program::click(buttons.at(4 + index));
+            EXPECT_EQ(program.text(), texts[index]);
+        }
+    }
+}
+
+TEST(PanelButtons, TwoQuickClicksAreTwo) {
+    Program program;
+    program.command(0xA110);
+    const HWND seven = program.buttonsOf(0xA110).front();
+    Program::click(seven);
+    SendMessageW(seven, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(seven, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(program.text(), L"77");
+}
+
+TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
+    Program program;
+    const auto openAndCloseAll = [&](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            for (const PanelEntry& entry : panelCatalogue()) {
+                program.command(entry.identifier);
+                program.command(entry.identifier);
+            }
+        }
+    };
+    openAndCloseAll(1);  // what is made once and kept
+    ShowWindow(program.handle(), SW_HIDE);
+    const Resources before = heldResources();
+    ASSERT_GT(before.drawingObjects, 0);
+    ASSERT_GT(before.windows, 0);
+    // Painting takes five times as long as all the rest, so that a part of the rounds must do for it.
+    openAndCloseAll(180);
+    ShowWindow(program.handle(), SW_SHOW);
+    openAndCloseAll(20);
+    ShowWindow(program.handle(), SW_HIDE);
+    Program::serveMessages();
+    const Resources after = heldResources();
+    EXPECT_EQ(after.drawingObjects, before.drawingObjects);
+    EXPECT_EQ(after.windows, before.windows);
+}
+
+}  // namespace
+}  // namespace calquo
