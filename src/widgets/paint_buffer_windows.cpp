@@ -44,16 +44,16 @@ PaintBuffer::~PaintBuffer() { SelectObject(context(), previous_); }
 
 void PaintBuffer::lay(const Coverage& coverage, Point place, Color color) {
     GdiFlush();  // the system may still be painting
+    auto alpha = coverage.alpha.begin();
     for (int row = 0; row < coverage.size.height; ++row) {
         for (int column = 0; column < coverage.size.width; ++column) {
+            const int percent = *alpha++ * 100 / 255;
             const int left = place.left + column;
             const int top = place.top + row;
-            if (left < 0 || top < 0 || left >= size_.width || top >= size_.height) {
-                continue;
+            if (left >= 0 && top >= 0 && left < size_.width && top < size_.height) {
+                std::uint32_t& pixel = pixels_[top * size_.width + left];
+                pixel = pixelOf(mixed(colorOf(pixel), color, percent));
             }
-            const int alpha = coverage.alpha[static_cast<std::size_t>(row * coverage.size.width + column)];
-            std::uint32_t& pixel = pixels_[top * size_.width + left];
-            pixel = pixelOf(mixed(colorOf(pixel), color, alpha * 100 / 255));
         }
     }
 }

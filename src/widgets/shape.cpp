@@ -5,7 +5,7 @@ namespace calquo {
 namespace {
 
 struct SymbolRow {
-    Symbol symbol;
+    Symbol symbol = Symbol::None;
     Shape shape;
 };
 

@@ -26,7 +26,7 @@ TEST(ButtonFace, RaisedFacesAreFiveRoundedRectangles) {
     constexpr Color color{10, 20, 30};
     struct Row {
         Size size;
-        int cornerDiameter;
+        int cornerDiameter = 0;
         Rectangle places[5];
     };
     const Row rows[] = {

@@ -23,13 +23,14 @@ std::vector<Symbol> drawnSymbols() {
 }
 
 std::uint8_t at(const Coverage& coverage, int column, int row) {
-    return coverage.alpha[static_cast<std::size_t>(row * coverage.size.width + column)];
+    const std::ptrdiff_t width = coverage.size.width;
+    return coverage.alpha.begin()[row * width + column];
 }
 
 Coverage mirrored(Coverage coverage) {
-    for (int row = 0; row < coverage.size.height; ++row) {
-        const auto begin = coverage.alpha.begin() + row * coverage.size.width;
-        std::reverse(begin, begin + coverage.size.width);
+    const std::ptrdiff_t width = coverage.size.width;
+    for (auto row = coverage.alpha.begin(); row != coverage.alpha.end(); row += width) {
+        std::reverse(row, row + width);
     }
     return coverage;
 }
@@ -70,9 +71,10 @@ TEST(Shape, EverySymbolIsDrawnInItsSize) {
         for (int pixels = smallest; pixels <= largest; ++pixels) {
             SCOPED_TRACE(testing::Message() << "symbol " << static_cast<int>(symbol) << " in " << pixels);
             const Coverage coverage = coverageOf(shape, pixels);
+            const double scale = static_cast<double>(pixels) / shapeSide;
             // Sharp edges cost up to half a pixel each.
-            EXPECT_NEAR(coverage.size.width, shape.extent().x * pixels / shapeSide, 4);
-            EXPECT_NEAR(coverage.size.height, shape.extent().y * pixels / shapeSide, 4);
+            EXPECT_NEAR(coverage.size.width, shape.extent().x * scale, 4);
+            EXPECT_NEAR(coverage.size.height, shape.extent().y * scale, 4);
             const auto dark =
                 std::count_if(coverage.alpha.begin(), coverage.alpha.end(), [](int alpha) { return alpha >= 160; });
             EXPECT_GE(dark, pixels * 3 / 4) << "washed out";

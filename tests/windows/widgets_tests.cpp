@@ -293,9 +293,7 @@ TEST(Button, ShowsItsFaceOnItsParentsBackground) {
     constexpr Color color{255, 127, 0};
     Stage stage;
     const auto button = placedButton(stage, {.label = "", .description = "", .face = color, .widthNumber = 1});
-    const auto at = [&](int left, int top) {
-        return picture(button->handle())[static_cast<std::size_t>(top * 30 + left)];
-    };
+    const auto at = [&](std::size_t left, std::size_t top) { return picture(button->handle())[top * 30 + left]; };
     const auto layers = buttonFace({30, 20}, color, false).layers;
     const COLORREF first = colorReference(layers[0].color);
     const COLORREF second = colorReference(layers[1].color);
@@ -305,11 +303,11 @@ TEST(Button, ShowsItsFaceOnItsParentsBackground) {
     // Systems differ in whether the null pen leaves out the last column and row.
     EXPECT_TRUE(at(28, 10) == second || at(29, 10) == second);
     EXPECT_TRUE(at(15, 18) == second || at(15, 19) == second);
-    for (const auto& [left, top] : {std::pair{0, 0}, {29, 0}, {0, 19}, {29, 19}}) {
+    for (const auto& [left, top] : {std::pair<std::size_t, std::size_t>{0, 0}, {29, 0}, {0, 19}, {29, 19}}) {
         EXPECT_EQ(at(left, top), GetSysColor(COLOR_3DFACE)) << left << ", " << top;
     }
     mouse(*button, WM_LBUTTONDOWN);
-    for (const auto& [left, top] : {std::pair{15, 10}, {0, 10}, {28, 10}}) {
+    for (const auto& [left, top] : {std::pair<std::size_t, std::size_t>{15, 10}, {0, 10}, {28, 10}}) {
         EXPECT_EQ(at(left, top), first) << left << ", " << top;
     }
 }
@@ -328,7 +326,8 @@ TEST(Button, WritesALongLabelNarrower) {
             int count = 0;
             for (int top = 2 * depth; top < area.height - 2 * depth; ++top) {
                 for (int left = begin; left < end; ++left) {
-                    count += pixels[static_cast<std::size_t>(top * area.width + left)] != colorReference(white) ? 1 : 0;
+                    const std::ptrdiff_t place = std::ptrdiff_t{top} * area.width + left;
+                    count += pixels.begin()[place] != colorReference(white) ? 1 : 0;
                 }
             }
             return count;
