@@ -84,7 +84,6 @@ Component::~Component() { destroy(); }
 void Component::destroy() {
     // From here on the derived parts that the filter speaks to are gone.
     filter_ = nullptr;
-    tooltip_.reset();
     // The last messages still need the handle; the final one gives it up.
     if (window_) {
         destroyWindow(handle());
