@@ -321,7 +321,7 @@ TEST(Button, WritesALongLabelNarrower) {
         Stage stage;
         setButtonSize(size);
         const auto button =
-            placedButton(stage, {.label = "pennyweight", .description = "", .face = white, .widthNumber = 5});
+            placedButton(stage, {.label = "pennyweight", .description = "", .face = white, .widthNumber = 4});
         const auto pixels = picture(button->handle());
         const Size area = sizeOf(button->handle());
         const int depth = size / 16 + 1;
