@@ -12,8 +12,8 @@ namespace calquo {
 namespace {
 
 /// Narrow enough for the longest unit names, and clear in the smallest sizes.
-constexpr const wchar_t* buttonFontNames[] = {L"Segoe UI", L"DejaVu Sans Condensed", L"DejaVu Sans",
-                                               L"Liberation Sans", L"Tahoma", L"Arial"};
+constexpr const wchar_t* buttonFontNames[] = {
+    L"Segoe UI", L"DejaVu Sans Condensed", L"DejaVu Sans", L"Liberation Sans", L"Tahoma", L"Arial"};
 
 int buttonSizeNow = defaultButtonSize;
 /// The fonts of the buttons so far, by the average width of their characters; at 0 the one of usual width.
