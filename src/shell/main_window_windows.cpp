@@ -86,14 +86,15 @@ Rectangle workAreaOf(HMONITOR monitor) {
     return rectangleOf(description.rcWork);
 }
 
+BOOL CALLBACK noteScreen(HMONITOR monitor, HDC, LPRECT, LPARAM screens) {
+    reinterpret_cast<std::vector<Rectangle>*>(screens)->push_back(workAreaOf(monitor));
+    return TRUE;
+}
+
 /// The screens without their taskbars, the one nearest to the window first.
 std::vector<Rectangle> screensAround(HWND window) {
     std::vector<Rectangle> screens = {workAreaOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST))};
-    const auto note = [](HMONITOR monitor, HDC, LPRECT, LPARAM list) -> BOOL {
-        reinterpret_cast<std::vector<Rectangle>*>(list)->push_back(workAreaOf(monitor));
-        return TRUE;
-    };
-    EnumDisplayMonitors(nullptr, nullptr, note, reinterpret_cast<LPARAM>(&screens));
+    EnumDisplayMonitors(nullptr, nullptr, noteScreen, reinterpret_cast<LPARAM>(&screens));
     return screens;
 }
 
