@@ -4,6 +4,7 @@
 #include <muParser.h>
 
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -146,6 +147,16 @@ std::string repeated(const char* piece, int count) {
     return text;
 }
 
+/// lcm of different odd numbers of 64 bits, evenly spread.
+std::string multipleOf(int count) {
+    std::string text = "lcm(";
+    const std::uint64_t step = (std::uint64_t{1} << 63) / static_cast<std::uint64_t>(count) & ~std::uint64_t{1};
+    for (std::uint64_t number = (std::uint64_t{1} << 63) + 1; count != 0; --count, number += step) {
+        text += std::to_string(number) + (count == 1 ? ")" : "; ");
+    }
+    return text;
+}
+
 void Hostile(benchmark::State& state, const std::string& line) {
     Answer answer;
     for (auto _ : state) {
@@ -160,6 +171,7 @@ BENCHMARK_CAPTURE(Hostile, lists, repeated("sin(", 50) + "1" + repeated(";2)", 5
 BENCHMARK_CAPTURE(Hostile, digits, repeated("9", 1000000))->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Hostile, fraction, "0." + repeated("9", 1000000))->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Hostile, halfway, "35'0." + repeated("H", 1000000))->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Hostile, multiple, multipleOf(10000))->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Hostile, sums, "1" + repeated("+1", 500000))->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -2,13 +2,12 @@
 #include "numeric/divisors.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstddef>
 #include <cstdint>
+#include <numeric>
 #include <vector>
 
-#include "numeric/montgomery.h"
+#include "numeric/common_multiple.h"
 #include "numeric/primes.h"
 #include "numeric/words.h"
 
@@ -26,73 +25,13 @@ Words toWords(std::span<const Value> items) {
     return words;
 }
 
-std::uint64_t euclid(std::uint64_t a, std::uint64_t b) {
-    while (b != 0) {
-        const std::uint64_t remainder = a % b;
-        a = b;
-        b = remainder;
-    }
-    return a;
-}
-
 std::uint64_t commonDivisor(std::span<const std::uint64_t> words) {
     std::uint64_t divisor = 0;
     for (const std::uint64_t word : words) {
-        divisor = euclid(word, divisor);
+        divisor = std::gcd(word, divisor);
     }
     return divisor;
 }
-
-/// The least common multiple of odd words, of any size, lowest digit first.
-class OddMultiple {
-public:
-    /// As many words as are taken in at once, so that their chains of multiplications run side by side.
-    static constexpr std::size_t batchSize = 4;
-    using Batch = std::array<std::uint64_t, batchSize>;
-
-    /// The multiple modulo 2^64.
-    [[nodiscard]] std::uint64_t low() const { return digits_.front(); }
-
-    /// Makes this the multiple of the words, too; each must be odd.
-    void include(const Batch& words) {
-        const std::array fields = {Montgomery(words[0]), Montgomery(words[1]), Montgomery(words[2]),
-                                   Montgomery(words[3])};
-        // The remainders come multiplied by powers of 2^-64, which have no factor in common with an odd word.
-        Batch remainders = {};
-        for (const std::uint64_t digit : digits_) {
-            for (std::size_t index = 0; index < batchSize; ++index) {
-                remainders[index] = fields[index].reduce(UInt128{0, remainders[index]} + UInt128{0, digit});
-            }
-        }
-        Batch missing = {};
-        for (std::size_t index = 0; index < batchSize; ++index) {
-            std::uint64_t remainder = remainders[index];
-            for (std::size_t earlier = 0; earlier < index; ++earlier) {
-                remainder = fields[index].multiply(remainder, missing[earlier]);
-            }
-            missing[index] = words[index] / euclid(words[index], remainder);
-        }
-        multiplyBy(missing);
-    }
-
-private:
-    void multiplyBy(const Batch& factors) {
-        digits_.resize(digits_.size() + batchSize);
-        Batch carries = {};
-        for (std::uint64_t& digit : digits_) {
-            for (std::size_t index = 0; index < batchSize; ++index) {
-                const UInt128 product = multiply(digit, factors[index]) + UInt128{0, carries[index]};
-                digit = product.low;
-                carries[index] = product.high;
-            }
-        }
-        while (digits_.back() == 0) {
-            digits_.pop_back();
-        }
-    }
-
-    Words digits_ = {1};
-};
 
 }  // namespace
 
@@ -116,7 +55,6 @@ Value lcm(std::span<const Value> items) {
     if (items.empty()) {
         return Value(0);
     }
-    constexpr std::uint64_t neutral = 1;
     int powerOfTwo = 0;
     Words odd;
     for (const std::uint64_t word : toWords(items)) {
@@ -128,12 +66,7 @@ Value lcm(std::span<const Value> items) {
     }
     std::ranges::sort(odd);
     odd.erase(std::unique(odd.begin(), odd.end()), odd.end());
-    odd.resize((odd.size() + OddMultiple::batchSize - 1) / OddMultiple::batchSize * OddMultiple::batchSize, neutral);
-    OddMultiple multiple;
-    for (std::size_t start = 0; start < odd.size(); start += OddMultiple::batchSize) {
-        multiple.include({odd[start], odd[start + 1], odd[start + 2], odd[start + 3]});
-    }
-    return fromWord(multiple.low() << powerOfTwo);
+    return fromWord(oddCommonMultiple(odd) << powerOfTwo);
 }
 
 }  // namespace calquo

@@ -9,7 +9,7 @@
 
 namespace calquo {
 
-/// The greatest common divisor by Euclid's algorithm; 0 when all items are 0.
+/// The greatest common divisor; 0 when all items are 0.
 Value gcd(std::span<const Value> items);
 
 /// The product of the common prime factors: what dividing the items by 2, 3, 5, 7, ... in turn arrives at, where an
@@ -19,8 +19,7 @@ Value gcd(std::span<const Value> items);
 /// gcf(0; 5) = 1, gcf(5; 0) = 5, gcf(9; 0) = 3.
 Value gcf(std::span<const Value> items);
 
-/// The least common multiple of the items other than 0, modulo 2^64; 1 when there are none. Time grows with the number
-/// of items times the number of digits of the unreduced multiple.
+/// The least common multiple of the items other than 0, modulo 2^64; 1 when there are none.
 Value lcm(std::span<const Value> items);
 
 }  // namespace calquo

@@ -33,6 +33,9 @@ public:
         return reduce(calquo::multiply(a, b));
     }
 
+    /// The inverse of m modulo 2^64.
+    [[nodiscard]] constexpr std::uint64_t inverse() const { return inverse_; }
+
     /// (a + b) mod m and (a - b) mod m, for a and b below m.
     [[nodiscard]] constexpr std::uint64_t add(std::uint64_t a, std::uint64_t b) const {
         return a >= modulus_ - b ? a - (modulus_ - b) : a + b;

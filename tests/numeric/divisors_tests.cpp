@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <numeric>
 #include <random>
 #include <string>
@@ -16,6 +17,7 @@
 #include "numeric/montgomery.h"
 #include "numeric/primes.h"
 #include "values/errors.h"
+#include "values/uint128.h"
 
 namespace calquo {
 namespace {
@@ -245,6 +247,105 @@ TEST(Divisors, MontgomeryAgreesWithShiftAndAdd) {
     }
 }
 
+/// The multiple in digits of 32 bits, one word after another, each by a division by hand.
+std::uint64_t multipleByHand(const Words& words) {
+    std::vector<std::uint32_t> multiple = {1};
+    for (const std::uint64_t word : words) {
+        UInt128 remainder;
+        for (auto digit = multiple.rbegin(); digit != multiple.rend(); ++digit) {
+            remainder = divide(shiftLeft(remainder, 32) + UInt128{0, *digit}, UInt128{0, word}).remainder;
+        }
+        const std::uint64_t factor = word / std::gcd(word, remainder.low);
+        UInt128 carry;
+        for (std::uint32_t& digit : multiple) {
+            carry = carry + multiply(factor, digit);
+            digit = static_cast<std::uint32_t>(carry.low);
+            carry = shiftRight(carry, 32);
+        }
+        for (; carry != UInt128{}; carry = shiftRight(carry, 32)) {
+            multiple.push_back(static_cast<std::uint32_t>(carry.low));
+        }
+    }
+    return multiple[0] | (multiple.size() > 1 ? std::uint64_t{multiple[1]} << 32 : 0);
+}
+
+TEST(Divisors, MultiplesOfLongListsAgreeWithThoseByHand) {
+    std::mt19937_64 generator(64);
+    // On both sides of the lengths at which the list is split once more, with words of all sizes.
+    for (const std::size_t length : {440, 441, 442, 495, 496, 881, 1100}) {
+        const int bits = length % 2 == 0 ? 40 : 64;
+        Words words(length);
+        for (std::uint64_t& word : words) {
+            word = std::max<std::uint64_t>(generator() >> (64 - bits), 1);
+        }
+        ASSERT_EQ(multipleOf(words), multipleByHand(words)) << length << " of " << bits << " bits";
+    }
+}
+
+/// Long lists of products of known primes.
+struct Shape {
+    const char* name;
+    std::size_t items;
+    int primeBits;       ///< of the largest primes
+    std::size_t primes;  ///< how many there are
+    int factors;         ///< at most, in an item
+    int power;           ///< that is taken of each of them, at most
+};
+
+const Shape shapes[] = {
+    {"powers of few primes", 2000, 5, 12, 4, 12},
+    {"smooth numbers", 3000, 9, 60, 8, 3},
+    {"squares and cubes of shared primes", 3000, 21, 900, 3, 3},
+    {"squares of shared primes, and the primes", 2500, 32, 1500, 1, 2},
+    {"products of two primes, each in several items", 5000, 32, 2500, 2, 1},
+    {"products of two primes, few shared", 3000, 32, 60000, 2, 1},
+    {"products of three primes and squares", 4000, 21, 4000, 3, 2},
+    {"large primes times small ones", 2500, 49, 1200, 3, 1},
+    {"primes", 1500, 49, 1400, 1, 1},
+    {"hardly longer than a short list", 450, 20, 300, 3, 2},
+};
+
+TEST(Divisors, MultiplesOfLongListsHaveTheHighestPowerOfEachPrime) {
+    for (const Shape& shape : shapes) {
+        std::mt19937_64 generator(2);
+        Words primes = {2, 3};
+        while (primes.size() < shape.primes) {
+            // Of all sizes, and half of them of the largest.
+            const int bits =
+                generator() % 2 == 0 ? shape.primeBits : 3 + static_cast<int>(generator() % (shape.primeBits - 2));
+            primes.push_back(
+                nextPrime((std::uint64_t{1} << (bits - 1)) + generator() % (std::uint64_t{1} << (bits - 1))));
+        }
+        std::map<std::uint64_t, int> highest;
+        Words words;
+        while (words.size() < shape.items) {
+            std::map<std::uint64_t, int> powers;
+            std::uint64_t word = 1;
+            for (int factor = 0; factor < shape.factors; ++factor) {
+                const std::uint64_t prime = primes[static_cast<std::size_t>(generator() % primes.size())];
+                for (int power = 1 + static_cast<int>(generator() % shape.power); power != 0; --power) {
+                    if (word <= UINT64_MAX / prime) {
+                        word *= prime;
+                        ++powers[prime];
+                    }
+                }
+            }
+            for (const auto& [prime, power] : powers) {
+                highest[prime] = std::max(highest[prime], power);
+            }
+            words.insert(words.end(), 1 + generator() % 2, word);
+        }
+        std::uint64_t expected = 1;
+        for (const auto& [prime, power] : highest) {
+            for (int count = 0; count < power; ++count) {
+                expected *= prime;
+            }
+        }
+        std::ranges::shuffle(words, generator);
+        ASSERT_EQ(multipleOf(words), expected) << shape.name;
+    }
+}
+
 /// Seconds that a call takes.
 template <typename Call>
 double secondsOf(Call call) {
@@ -265,6 +366,22 @@ TEST(Divisors, NoArgumentTakesLong) {
     std::iota(words.begin(), words.end(), 1);
     EXPECT_LT(secondsOf([&] { EXPECT_GT(multipleOf(words), 0U); }), limit);
     EXPECT_LT(secondsOf([&] { EXPECT_EQ(factorOf(words), 1U); }), limit);
+}
+
+TEST(Divisors, MultiplesOfFourTimesAsManyTakeNotMuchMoreThanFourTimesAsLong) {
+    std::mt19937_64 generator(1);
+    Words words(16000);
+    std::ranges::generate(words, [&] { return generator() | 1; });
+    const auto secondsOfFirst = [&](std::size_t count) {
+        const std::vector<Value> values = toValues({words.begin(), words.begin() + static_cast<std::ptrdiff_t>(count)});
+        double least = 10;
+        for (int run = 0; run < 5; ++run) {
+            least = std::min(least, secondsOf([&] { EXPECT_EQ(static_cast<std::uint64_t>(lcm(values).re) % 2, 1U); }));
+        }
+        return least;
+    };
+    // A quadratic method would take 16 times as long.
+    EXPECT_LT(secondsOfFirst(16000), 10 * secondsOfFirst(4000));
 }
 
 }  // namespace

@@ -1,0 +1,148 @@
+// Long products against multiplication by hand, with digits as large as the transforms allow.
+#include "numeric/long_product.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "values/uint128.h"
+
+namespace calquo {
+namespace {
+
+LongNatural productByHand(const LongNatural& a, const LongNatural& b) {
+    LongNatural product(a.size() + b.size());
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::uint64_t carry = 0;
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            const UInt128 sum = multiply(a[i], b[j]) + UInt128{0, product[i + j]} + UInt128{0, carry};
+            product[i + j] = sum.low;
+            carry = sum.high;
+        }
+        product[i + b.size()] = carry;
+    }
+    return product;
+}
+
+/// The number modulo 2^64 - 1, by casting out; 0 may come out as 2^64 - 1.
+std::uint64_t sumOfWords(const LongNatural& number) {
+    std::uint64_t sum = 0;
+    for (const std::uint64_t word : number) {
+        sum += word;
+        sum += sum < word ? 1 : 0;
+    }
+    return sum;
+}
+
+struct Kind {
+    std::string name;
+    std::function<LongNatural(std::size_t words)> make;
+};
+
+/// Numbers with single bits set, one in so many, from the highest of each such digit on. Taken as digits of that many
+/// bits, all are as far below zero as they can be, and their products add up instead of cancelling.
+LongNatural bitInEvery(std::size_t distance, std::size_t words) {
+    LongNatural number(words);
+    for (std::size_t bit = distance - 1; bit < 64 * words; bit += distance) {
+        number[bit / 64] |= std::uint64_t{1} << bit % 64;
+    }
+    return number;
+}
+
+std::vector<Kind> kinds() {
+    std::vector<Kind> result = {{"ones", [](std::size_t words) { return LongNatural(words, UINT64_MAX); }},
+                                {"power of two", [](std::size_t words) {
+                                     LongNatural number(words);
+                                     number.back() = std::uint64_t{1} << 63;
+                                     return number;
+                                 }}};
+    for (std::size_t distance = 9; distance <= 22; ++distance) {
+        result.push_back({"a bit in every " + std::to_string(distance),
+                          [distance](std::size_t words) { return bitInEvery(distance, words); }});
+    }
+    for (int sample = 0; sample < 3; ++sample) {
+        result.push_back({"random", [generator = std::mt19937_64(sample)](std::size_t words) mutable {
+                              LongNatural number(words);
+                              std::ranges::generate(number, std::ref(generator));
+                              return number;
+                          }});
+    }
+    return result;
+}
+
+/// Every length of transform up to a few thousand words, filled and hardly more than half filled.
+constexpr std::size_t lengths[] = {1, 2, 3, 4, 8, 15, 16, 33, 34, 67, 68, 135, 136, 271, 272, 511, 512, 1023, 1024};
+
+TEST(LongProduct, AgreesWithMultiplicationByHand) {
+    const LongMultiplier multiplier(2048);
+    for (const Kind& kind : kinds()) {
+        for (const std::size_t length : lengths) {
+            for (const std::size_t other : {length, (length + 1) / 2, std::size_t{1}}) {
+                const LongNatural a = kind.make(length);
+                const LongNatural b = kind.make(other);
+                LongNatural expected = productByHand(a, b);
+                const std::size_t first = expected.size() / 3;
+                const LongNatural part(expected.begin() + static_cast<std::ptrdiff_t>(first), expected.end() - 1);
+                ASSERT_EQ(multiplier.words(multiplier.transform(a, expected.size()),
+                                           multiplier.transform(b, expected.size()), first, part.size()),
+                          part)
+                    << kind.name << ": " << length << " by " << other;
+                while (!expected.empty() && expected.back() == 0) {
+                    expected.pop_back();
+                }
+                ASSERT_EQ(multiplier.multiply(a, b), expected) << kind.name << ": " << length << " by " << other;
+            }
+        }
+    }
+}
+
+TEST(LongProduct, LongNumbersAgreeAfterCastingOut) {
+    const LongMultiplier multiplier(120000);
+    for (const Kind& kind : kinds()) {
+        for (const std::size_t length : {7000, 14000, 27000, 60000}) {
+            const LongNatural a = kind.make(length);
+            const LongNatural b = kind.make(length - 1);
+            const UInt128 expected = multiply(sumOfWords(a), sumOfWords(b));
+            ASSERT_EQ(sumOfWords(multiplier.multiply(a, b)) % UINT64_MAX,
+                      sumOfWords({expected.low, expected.high}) % UINT64_MAX)
+                << kind.name << ": " << length;
+        }
+    }
+}
+
+TEST(LongProduct, WhatHasNoRoomIsSubtractedAtTheLowerEnd) {
+    const LongMultiplier multiplier(2048);
+    for (const Kind& kind : kinds()) {
+        for (const std::size_t length : lengths) {
+            for (const std::size_t other : {length / 4, length / 2, length - 2}) {
+                if (length < 4 || other == 0) {
+                    continue;
+                }
+                const LongNatural a = kind.make(length);
+                const LongNatural b = kind.make(other);
+                const LongNatural product = productByHand(a, b);
+                // Less than two units of word other, seen from the word above it on: at most one unit of that.
+                const std::size_t first = other + 1;
+                const LongNatural upper = multiplier.words(multiplier.transform(a, length),
+                                                           multiplier.transform(b, length), first, length - first);
+                bool borrow = false;
+                const bool isLess = upper.front() != product[first];
+                for (std::size_t index = 0; index < upper.size(); ++index) {
+                    const std::uint64_t less = (index == 0 && isLess ? 1 : 0) + (borrow ? 1 : 0);
+                    borrow = product[first + index] < less;
+                    ASSERT_EQ(upper[index], product[first + index] - less)
+                        << kind.name << ": word " << index << " of " << length << " by " << other;
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace calquo
