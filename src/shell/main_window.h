@@ -9,6 +9,7 @@
 
 #include "panels/button_panel.h"
 #include "shell/caption_strip.h"
+#include "shell/help.h"
 #include "shell/main_menu.h"
 #include "shell/settings.h"
 #include "shell/window_layout.h"
@@ -66,6 +67,7 @@ private:
     void toggleAngle(std::uint16_t identifier);
     void selectFormat(std::uint16_t identifier);
     void resetFormats(std::uint16_t identifier);
+    void openHelp(std::uint16_t identifier);
     void exit(std::uint16_t identifier);
 
     void openPanel(std::uint16_t identifier);
@@ -90,6 +92,7 @@ private:
     Settings& settings_;
     WindowOwner window_;
     MainMenu menu_;
+    Help help_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.

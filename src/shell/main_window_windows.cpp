@@ -195,6 +195,7 @@ const MainWindow::CommandRow MainWindow::commandRows[] = {
     {Command::SaveDefaultAtExit, &MainWindow::toggleOption},
     {selectFormatCommands, &MainWindow::selectFormat},
     {Command::ResetFormats, &MainWindow::resetFormats},
+    {Command::HelpContents, &MainWindow::openHelp},
     {Command::Exit, &MainWindow::exit},
     {Command::HideButtons, &MainWindow::toggleHiddenButtons},
     {Command::ButtonsAddDegrees, &MainWindow::toggleAngle},
@@ -516,6 +517,8 @@ void MainWindow::selectFormat(std::uint16_t identifier) {
 }
 
 void MainWindow::resetFormats(std::uint16_t) { settings_.resetFormats(); }
+
+void MainWindow::openHelp(std::uint16_t) { help_.open(handle(), helpFile(), displayTopic, 0); }
 
 void MainWindow::exit(std::uint16_t) { SendMessageW(handle(), WM_CLOSE, 0, 0); }
 
