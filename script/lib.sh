@@ -32,7 +32,9 @@ wait_until() {
 
 # --- Wine -----------------------------------------------------------------------------------------------------------
 
-wine_prefix() { printf '%s/wine/%s\n' "$build" "$1"; }
+# What the name of a prefix ends with: nothing, or that of a copy.
+prefix_copy=
+wine_prefix() { printf '%s/wine/%s%s\n' "$build" "$1" "$prefix_copy"; }
 
 # On a 64-bit Wine alone every 32-bit program ends at once with status 0 and does nothing.
 has_wine32() { [ -x /usr/lib/wine/wine ]; }
@@ -118,6 +120,28 @@ make_root32() {
 prepare_wine() {
     if [ "$1" = win32 ] && ! has_wine32; then make_root32; fi
     make_wine_prefix "$1"
+}
+
+# work_in_prefix_copy NAME win64|win32: from here on, programs of that width run in a new copy of the prefix, so that
+# settings can be written and wiped without touching anybody's.
+work_in_prefix_copy() {
+    local original copy
+    prepare_wine "$2"
+    original=$(wine_prefix "$2")
+    prefix_copy=-$1
+    copy=$(wine_prefix "$2")
+    rm -rf "$copy"
+    cp -al "$original" "$copy"
+    # Wine writes a registry file with several links in place, where the original would change as well.
+    cp -a --remove-destination "$original"/*.reg "$copy"
+}
+
+# Ends whatever still runs in the copy of the prefix and removes it.
+leave_prefix_copy() {
+    with_wine "$1" wineserver -k || true
+    with_wine "$1" timeout 30 wineserver -w || true
+    rm -rf "$(wine_prefix "$1")"
+    prefix_copy=
 }
 
 # --- A virtual display ----------------------------------------------------------------------------------------------

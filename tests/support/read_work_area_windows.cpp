@@ -1,10 +1,13 @@
-// read_work_area: prints the text in the work area of the running Calquo as UTF-8 with "\n" at line ends. Exit status 1
-// when no Calquo runs.
+// read_work_area: prints the text in the work area of the running Calquo as UTF-8 with "\n" at line ends; with the
+// argument --window, what its window shows, a fact on each line. Exit status 1 when no Calquo runs.
 #include <fcntl.h>
 #include <io.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <string>
+#include <vector>
 
 #include "values/program.h"
 #include "widgets/windows_api.h"
@@ -28,15 +31,97 @@ std::string utf8(const std::wstring& text) {
     return bytes;
 }
 
+BOOL CALLBACK listWindow(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+/// Whether a child window is on the screen; a hidden panel has a place without a size.
+bool isShown(HWND child) {
+    RECT place{};
+    GetWindowRect(child, &place);
+    return IsWindowVisible(child) != 0 && IsRectEmpty(&place) == 0;
+}
+
+std::string classOf(HWND window) {
+    char name[100] = "";
+    GetClassNameA(window, name, sizeof name);
+    return name;
+}
+
+/// The visible top-level windows of a class, in every program.
+int countShown(const char* className) {
+    std::vector<HWND> windows;
+    EnumWindows(listWindow, reinterpret_cast<LPARAM>(&windows));
+    return static_cast<int>(std::count_if(windows.begin(), windows.end(), [&](HWND window) {
+        return IsWindowVisible(window) != 0 && classOf(window) == className;
+    }));
+}
+
+const char* stateOf(HWND window) {
+    if (IsIconic(window) != 0) {
+        return "minimized";
+    }
+    return IsZoomed(window) != 0 ? "maximized" : "normal";
+}
+
+/// What has the keyboard's focus in the program: the work area, or a window's class.
+std::string focusOf(HWND window, HWND workArea) {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+    if (thread.hwndFocus == workArea) {
+        return "work area";
+    }
+    return thread.hwndFocus == nullptr ? "nothing" : classOf(thread.hwndFocus);
+}
+
+/// The visible windows of a panel's buttons with the middle of each on the screen; the number is the button's place
+/// in the panel, from 1.
+void printButtons(HWND panel) {
+    const int identifier = GetDlgCtrlID(panel);
+    std::vector<HWND> inside;
+    EnumChildWindows(panel, listWindow, reinterpret_cast<LPARAM>(&inside));
+    for (const HWND button : inside) {
+        if (isShown(button) && GetWindow(button, GW_CHILD) == nullptr) {
+            RECT place{};
+            GetWindowRect(button, &place);
+            std::printf("button %04X %d %ld %ld %s\n", static_cast<unsigned>(identifier), GetDlgCtrlID(button),
+                        (place.left + place.right) / 2, (place.top + place.bottom) / 2, utf8(textOf(button)).c_str());
+        }
+    }
+}
+
+void printWindow(HWND window, HWND workArea) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    std::printf("windows %d\n", countShown(calquo::programTitle));
+    std::printf("place %ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
+    std::printf("state %s\n", stateOf(window));
+    std::printf("front %s\n", GetForegroundWindow() == window ? "yes" : "no");
+    std::printf("focus %s\n", focusOf(window, workArea).c_str());
+    std::printf("menus %d\n", countShown("#32768"));
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (child != workArea && isShown(child)) {
+            std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(child)));
+            printButtons(child);
+        }
+    }
+}
+
 }  // namespace
 
-int main() {
+int main(int count, char** arguments) {
     const HWND window = FindWindowA(calquo::programTitle, nullptr);
     const HWND workArea = FindWindowExA(window, nullptr, "RichEdit20A", nullptr);
     if (window == nullptr || workArea == nullptr) {
         return 1;
     }
-    const std::string text = utf8(textOf(workArea));
     _setmode(_fileno(stdout), _O_BINARY);
+    if (count > 1 && std::strcmp(arguments[1], "--window") == 0) {
+        printWindow(window, workArea);
+        return 0;
+    }
+    const std::string text = utf8(textOf(workArea));
     return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() ? 0 : 2;
 }
