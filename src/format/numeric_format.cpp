@@ -6,8 +6,7 @@
 namespace calquo {
 
 void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value) {
-    const std::uint32_t largest = mask >> std::countr_zero(mask);
-    if ((value & ~largest) != 0) {
+    if (value > largestIn(mask)) {
         raise(ErrorCode::InternalFault);
     }
     word = (word & ~mask) | value << std::countr_zero(mask);

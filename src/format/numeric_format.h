@@ -31,29 +31,8 @@ constexpr NumericFormat groupWhole = 0x04;               ///< W
 constexpr NumericFormat alwaysExponent = 0x04;           ///< E
 constexpr NumericFormat alwaysDecimalMark = 0x02;        ///< .
 constexpr NumericFormat plusSign = 0x01;                 ///< +
+constexpr NumericFormat flags = 0x7F;                    ///< the attributes that are on or off, and bit 5
 }  // namespace field
-
-/// The field that an attribute's letter stands for; 0 for a letter that stands for none.
-constexpr NumericFormat fieldOfLetter(char letter) {
-    struct Row {
-        char letter;
-        NumericFormat mask;
-    };
-    constexpr Row rows[] = {
-        {'G', field::groupSize},         {'D', field::digits},
-        {'T', field::truncation},        {'S', field::significantDigits},
-        {'X', field::exponentLimit},     {'I', field::zeroOut},
-        {'Z', field::trailingZeros},     {'F', field::groupFraction},
-        {'W', field::groupWhole},        {'E', field::alwaysExponent},
-        {'.', field::alwaysDecimalMark}, {'+', field::plusSign},
-    };
-    for (const Row& row : rows) {
-        if (row.letter == letter) {
-            return row.mask;
-        }
-    }
-    return 0;
-}
 
 /// One row for each kind, in the order of FormatKind.
 struct FormatKindRow {
@@ -86,6 +65,9 @@ inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = 
 constexpr std::uint32_t getField(NumericFormat word, NumericFormat mask) {
     return (word & mask) >> std::countr_zero(mask);
 }
+
+/// The largest value that a field has room for.
+constexpr std::uint32_t largestIn(NumericFormat mask) { return mask >> std::countr_zero(mask); }
 
 /// Sets a field of the word. Raises 5 ("internal fault"), leaving the word as it is, when the value does not fit.
 void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/characters.h"
+#include "format/attributes.h"
 #include "format/digits.h"
 #include "format/fraction.h"
 #include "numeric/rounding.h"

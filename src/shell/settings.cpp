@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "engine/characters.h"
-#include "format/attribute_ranges.h"
+#include "format/attributes.h"
 #include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "values/errors.h"
