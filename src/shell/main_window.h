@@ -7,7 +7,9 @@
 #include <optional>
 #include <vector>
 
+#include "format/format_dialog.h"
 #include "panels/button_panel.h"
+#include "shell/about.h"
 #include "shell/caption_strip.h"
 #include "shell/help.h"
 #include "shell/main_menu.h"
@@ -66,8 +68,10 @@ private:
     void toggleHiddenButtons(std::uint16_t identifier);
     void toggleAngle(std::uint16_t identifier);
     void selectFormat(std::uint16_t identifier);
+    void modifyFormat(std::uint16_t identifier);
     void resetFormats(std::uint16_t identifier);
     void openHelp(std::uint16_t identifier);
+    void showAbout(std::uint16_t identifier);
     void exit(std::uint16_t identifier);
 
     void openPanel(std::uint16_t identifier);
@@ -83,6 +87,7 @@ private:
     void openButtonsMenu(const Component& button);
     void openHelpMenu(const Component& button);
 
+    bool canHaveFocus(WindowHandle window) const;
     WindowParts parts() const;
     Size smallestWindow() const;
     void moveWhereItCanBeReached();
@@ -93,6 +98,8 @@ private:
     WindowOwner window_;
     MainMenu menu_;
     Help help_;
+    FormatDialog formatDialog_;
+    About about_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.

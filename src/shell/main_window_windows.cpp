@@ -9,6 +9,7 @@
 #include "shell/command_ids.h"
 #include "shell/menu_marks.h"
 #include "shell/menu_tree.h"
+#include "shell/program_icon.h"
 #include "shell/program_title.h"
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
@@ -27,8 +28,6 @@ constexpr Size smallestWorkAreaInButtons{10, 5};
 
 /// The colour behind the button panels.
 constexpr Color panelGround{236, 239, 243};
-
-constexpr int iconResource = 101;
 
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
 constexpr int menuOffset = 8;
@@ -194,8 +193,10 @@ const MainWindow::CommandRow MainWindow::commandRows[] = {
     {Command::ReadDefaultAtStartup, &MainWindow::toggleOption},
     {Command::SaveDefaultAtExit, &MainWindow::toggleOption},
     {selectFormatCommands, &MainWindow::selectFormat},
+    {modifyFormatCommands, &MainWindow::modifyFormat},
     {Command::ResetFormats, &MainWindow::resetFormats},
     {Command::HelpContents, &MainWindow::openHelp},
+    {Command::About, &MainWindow::showAbout},
     {Command::Exit, &MainWindow::exit},
     {Command::HideButtons, &MainWindow::toggleHiddenButtons},
     {Command::ButtonsAddDegrees, &MainWindow::toggleAngle},
@@ -294,6 +295,9 @@ std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) 
     const bool active = LOWORD(message.wide) != WA_INACTIVE;
     if (!active && IsChild(handle(), GetFocus()) != 0) {
         lastFocus_ = GetFocus();
+    } else if (LOWORD(message.wide) == WA_CLICKACTIVE) {
+        // A dialog that is open beside the window gets the focus back, but not from one who clicks here.
+        lastFocus_ = nullptr;
     }
     if (caption_ != nullptr) {
         caption_->showActive(active);
@@ -304,8 +308,13 @@ std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) 
     return std::nullopt;
 }
 
+bool MainWindow::canHaveFocus(WindowHandle window) const {
+    const bool isDialog = window != nullptr && (window == formatDialog_.handle() || window == about_.handle());
+    return isDialog || IsChild(handle(), window) != 0;
+}
+
 std::optional<MessageAnswer> MainWindow::passFocusOn(const Message&) {
-    SetFocus(IsChild(handle(), lastFocus_) != 0 ? lastFocus_ : workArea_->handle());
+    SetFocus(canHaveFocus(lastFocus_) ? lastFocus_ : workArea_->handle());
     return 0;
 }
 
@@ -516,7 +525,16 @@ void MainWindow::selectFormat(std::uint16_t identifier) {
     }
 }
 
+void MainWindow::modifyFormat(std::uint16_t identifier) {
+    const FormatKind kind = formatOf(modifyFormatCommands, identifier);
+    const FormatPlace place{[this, kind] { return settings_.format(kind); },
+                            [this, kind](NumericFormat word) { settings_.setFormat(kind, word); }};
+    lastFocus_ = formatDialog_.open(workArea_->handle(), place);
+}
+
 void MainWindow::resetFormats(std::uint16_t) { settings_.resetFormats(); }
+
+void MainWindow::showAbout(std::uint16_t) { lastFocus_ = about_.open(workArea_->handle()); }
 
 void MainWindow::openHelp(std::uint16_t) { help_.open(handle(), helpFile(), displayTopic, 0); }
 

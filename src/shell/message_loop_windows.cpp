@@ -1,15 +1,18 @@
 // The message loop, and its answer to exceptions.
 #include "shell/message_loop.h"
 
+#include "widgets/dialog_window.h"
 #include "widgets/kept_exception.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-void serve(const MSG& message) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+void serve(MSG& message) {
+    if (!DialogWindow::takes(message)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     rethrowKeptException();
 }
 

@@ -77,6 +77,7 @@ protected:
         std::uint16_t command = 0;  ///< The command identifier that its notifications carry.
         std::uint32_t style = 0;    ///< Beside child and visible.
         std::string_view text;
+        std::uint32_t extendedStyle = 0;
     };
 
     /// Registers `name` with the description of `systemClass`, but with the widgets' window procedure in front of the

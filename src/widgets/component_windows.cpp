@@ -69,9 +69,9 @@ Component::Component(const WidgetClass& widgetClass, const Creation& creation, M
       systemProcedure_(widgetClass.systemProcedure),
       text_(creation.text) {
     const HMENU identifier = reinterpret_cast<HMENU>(static_cast<std::uintptr_t>(command_));
-    const HWND created =
-        CreateWindowExW(0, widgetClass.name, wideText(label()).c_str(), WS_CHILD | WS_VISIBLE | creation.style, 0, 0, 0,
-                        0, parent_, identifier, GetModuleHandleW(nullptr), this);
+    const HWND created = CreateWindowExW(creation.extendedStyle, widgetClass.name, wideText(label()).c_str(),
+                                         WS_CHILD | WS_VISIBLE | creation.style, 0, 0, 0, 0, parent_, identifier,
+                                         GetModuleHandleW(nullptr), this);
     if (created == nullptr) {
         window_.release();
         raise(ErrorCode::InternalFault);

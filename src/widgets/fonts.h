@@ -15,4 +15,7 @@ const wchar_t* installedFont(std::span<const wchar_t* const> names);
 /// The size in pixels of a line of text; an "&" is not shown but underlines the character behind it.
 Size extentOf(FontHandle font, const std::wstring& text);
 
+/// The height of text that is broken into lines of at most `width` pixels.
+int brokenHeight(FontHandle font, const std::wstring& text, int width);
+
 }  // namespace calquo

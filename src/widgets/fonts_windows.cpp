@@ -25,6 +25,16 @@ bool isInstalled(const wchar_t* name) {
     return found;
 }
 
+/// Measures text drawn into `place` as the flags say.
+RECT measured(FontHandle font, const std::wstring& text, RECT place, UINT flags) {
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ previous = SelectObject(screen, font);
+    DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | flags);
+    SelectObject(screen, previous);
+    ReleaseDC(nullptr, screen);
+    return place;
+}
+
 }  // namespace
 
 const wchar_t* installedFont(std::span<const wchar_t* const> names) {
@@ -33,13 +43,12 @@ const wchar_t* installedFont(std::span<const wchar_t* const> names) {
 }
 
 Size extentOf(FontHandle font, const std::wstring& text) {
-    const HDC screen = GetDC(nullptr);
-    const HGDIOBJ previous = SelectObject(screen, font);
-    RECT place{};
-    DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(screen, previous);
-    ReleaseDC(nullptr, screen);
+    const RECT place = measured(font, text, {}, DT_SINGLELINE);
     return {place.right, place.bottom};
+}
+
+int brokenHeight(FontHandle font, const std::wstring& text, int width) {
+    return static_cast<int>(measured(font, text, {0, 0, width, 0}, DT_WORDBREAK | DT_NOPREFIX).bottom);
 }
 
 }  // namespace calquo

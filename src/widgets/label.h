@@ -1,4 +1,4 @@
-// A line of text.
+// Text that stands on a panel or in a dialog.
 #pragma once
 
 #include <string_view>
@@ -7,15 +7,30 @@
 
 namespace calquo {
 
+/// A line of text.
 class Label : public Component {
 public:
     /// Shows the label of `text`, "label|description"; an "&" in it marks the letter of its key.
     Label(WindowHandle parent, std::uint16_t command, std::string_view text);
+    /// The same in `font`, which must outlive the label.
+    Label(WindowHandle parent, std::uint16_t command, std::string_view text, FontHandle font);
+
+protected:
+    /// `style` is that of the system's static control.
+    Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text, FontHandle font);
 
 private:
     static const WidgetClass& widgetClass();
 
     std::optional<MessageAnswer> hear(const Message& message) const;
+};
+
+/// Text that is broken into lines at the width of its place.
+class TextBlock : public Label {
+public:
+    TextBlock(WindowHandle parent, std::uint16_t command, std::string_view text);
+
+    void write(std::string_view text) { setText(text); }
 };
 
 }  // namespace calquo

@@ -1,4 +1,4 @@
-// The label's window.
+// The windows of texts.
 #include "widgets/label.h"
 
 #include "widgets/fonts.h"
@@ -13,12 +13,21 @@ const Component::WidgetClass& Label::widgetClass() {
     return registered;
 }
 
-Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text)
-    : Component(widgetClass(), {parent, command, SS_CENTERIMAGE, text},
+Label::Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text, FontHandle font)
+    : Component(widgetClass(), {parent, command, style, text},
                 [this](const Message& message) { return hear(message); }) {
-    showIn(textFont());
-    setPreferredSize(extentOf(textFont(), wideText(label())));
+    showIn(font);
+    setPreferredSize(extentOf(font, wideText(label())));
 }
+
+Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text, FontHandle font)
+    : Label(parent, command, SS_CENTERIMAGE, text, font) {}
+
+Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text)
+    : Label(parent, command, text, textFont()) {}
+
+TextBlock::TextBlock(WindowHandle parent, std::uint16_t command, std::string_view text)
+    : Label(parent, command, SS_LEFT | SS_NOPREFIX, text, textFont()) {}
 
 std::optional<MessageAnswer> Label::hear(const Message& message) const {
     // The system's class lets the mouse through to the parent, and no tooltip would ever hear of it.

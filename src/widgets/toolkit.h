@@ -19,5 +19,7 @@ FontHandle buttonFont();
 FontHandle narrowButtonFont(int averageWidth);
 /// The font of all other texts: the one that the user has chosen for messages.
 FontHandle textFont();
+/// The same, half as high again and bold.
+FontHandle headingFont();
 
 }  // namespace calquo

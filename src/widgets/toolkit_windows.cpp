@@ -41,6 +41,13 @@ FontHandle sharedButtonFont(int averageWidth) {
     return buttonFonts[index].get();
 }
 
+LOGFONTW messageFont() {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
+    return metrics.lfMessageFont;
+}
+
 }  // namespace
 
 void setButtonSize(int pixels) {
@@ -56,10 +63,18 @@ FontHandle narrowButtonFont(int averageWidth) { return sharedButtonFont(averageW
 
 FontHandle textFont() {
     static const FontOwner font = [] {
-        NONCLIENTMETRICSW metrics{};
-        metrics.cbSize = sizeof metrics;
-        SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
-        return FontOwner(CreateFontIndirectW(&metrics.lfMessageFont));
+        const LOGFONTW description = messageFont();
+        return FontOwner(CreateFontIndirectW(&description));
+    }();
+    return font.get();
+}
+
+FontHandle headingFont() {
+    static const FontOwner font = [] {
+        LOGFONTW description = messageFont();
+        description.lfHeight = description.lfHeight * 3 / 2;
+        description.lfWeight = FW_BOLD;
+        return FontOwner(CreateFontIndirectW(&description));
     }();
     return font.get();
 }

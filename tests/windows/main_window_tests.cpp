@@ -317,7 +317,7 @@ TEST(Commands, ClearingCanBeUndone) {
 TEST(Commands, UnknownOnesAndThoseOfControlsDoNothing) {
     Program program;
     program.setText(L"2+3");
-    for (const unsigned identifier : {0u, 0x7u, 0x4511u, 0xA001u, 0xDFFFu, 0xFFFFu}) {
+    for (const unsigned identifier : {0u, 0x7u, 0x4518u, 0xA001u, 0xDFFFu, 0xFFFFu}) {
         program.command(identifier);
     }
     for (const unsigned notification : {0u, 1u, 4u}) {

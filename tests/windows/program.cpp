@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "widgets/dialog_window.h"
+
 namespace calquo {
 namespace {
 
@@ -93,8 +95,10 @@ RECT Program::client() const {
 void Program::serveMessages() {
     MSG message{};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0 && message.message != WM_QUIT) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        if (!DialogWindow::takes(message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
 }
 

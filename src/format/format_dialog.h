@@ -1,0 +1,82 @@
+// The dialog in which a person edits the attributes of one output format, beside the work area.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "format/attribute_controls.h"
+#include "widgets/check_box.h"
+#include "widgets/dialog_window.h"
+#include "widgets/label.h"
+#include "widgets/number_field.h"
+#include "widgets/push_button.h"
+#include "widgets/selector.h"
+
+namespace calquo {
+
+/// The place where the word of a format is kept.
+struct FormatPlace {
+    std::function<NumericFormat()> read;
+    std::function<void(NumericFormat)> write;
+};
+
+class FormatDialog : public DialogWindow {
+public:
+    FormatDialog() = default;
+    ~FormatDialog();
+
+    /// Opens the dialog on the word that `place` keeps, in the middle of `parent`, a window or a control. A dialog that
+    /// is open already comes to the front and stays with the word it is about. Returns the dialog's window.
+    WindowHandle open(WindowHandle parent, FormatPlace place);
+
+protected:
+    Size build() override;
+    void forgetWidgets() override;
+    WindowHandle focused() const override;
+    /// Writes the values to the word and closes; when one cannot be written, says why and stays open.
+    void accept() override;
+    void hearNotice(std::uint16_t command, std::uint16_t notice) override;
+    std::optional<Color> textColorOf(WindowHandle control) const override;
+
+private:
+    /// One of the three widgets, and the label that the first two have.
+    struct Control {
+        const Attribute* attribute = nullptr;
+        std::unique_ptr<Label> label;
+        std::unique_ptr<NumberField> field;
+        std::unique_ptr<Selector> selector;
+        std::unique_ptr<CheckBox> box;
+
+        Component& widget() const;
+    };
+
+    /// What is wrong, and in which field.
+    struct Fault {
+        const Control* control = nullptr;
+        std::string text;
+    };
+
+    Control makeControl(const Attribute& attribute, std::uint16_t command) const;
+    int heightOfLongestMessage(int width) const;
+
+    /// Takes the values of the controls over; the first that has none is the fault.
+    Fault takeValues();
+    /// The first value that its field is too narrow for.
+    Fault findTooWide() const;
+    void show(Fault fault);
+    void showAt(Fault fault);
+
+    FormatPlace place_;
+    std::optional<WorkingValues> values_;
+    std::vector<Control> controls_;
+    std::unique_ptr<TextBlock> message_;
+    std::unique_ptr<PushButton> ok_;
+    std::unique_ptr<PushButton> cancel_;
+    Fault fault_;
+};
+
+}  // namespace calquo

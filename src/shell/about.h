@@ -1,0 +1,30 @@
+// The window that says what the program is: its picture, its name, its version and its maker's site.
+#pragma once
+
+#include <memory>
+
+#include "widgets/dialog_window.h"
+#include "widgets/panel.h"
+
+namespace calquo {
+
+class About : public DialogWindow {
+public:
+    About() = default;
+    ~About();
+
+    /// Shows the window in the middle of `parent`, a window or a control, or brings it to the front. Returns the
+    /// window, which is to get the focus back.
+    WindowHandle open(WindowHandle parent);
+
+protected:
+    Size build() override;
+    void forgetWidgets() override;
+    WindowHandle focused() const override;
+
+private:
+    std::unique_ptr<Panel> panel_;
+    const Component* close_ = nullptr;  ///< The button, on the panel.
+};
+
+}  // namespace calquo

@@ -1,0 +1,52 @@
+// The number field's window.
+#include "widgets/number_field.h"
+
+#include <algorithm>
+
+#include "widgets/fonts.h"
+#include "widgets/toolkit.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+constexpr wchar_t widestNumber[] = L"00000";
+
+// At 96 dots per inch; the border and the field's inner margins included.
+constexpr int spareWidth = 14;
+constexpr int spareHeight = 8;
+
+}  // namespace
+
+static_assert(NumberField::changeNotice == EN_CHANGE);
+
+const Component::WidgetClass& NumberField::widgetClass() {
+    static const WidgetClass registered = registerClass(L"EDIT", L"CalquoNumberField");
+    return registered;
+}
+
+NumberField::NumberField(WindowHandle parent, std::uint16_t command, std::uint32_t number, std::string_view description)
+    : Component(
+          widgetClass(),
+          {parent, command, ES_AUTOHSCROLL | ES_RIGHT | WS_TABSTOP, "|" + std::string(description), WS_EX_CLIENTEDGE},
+          nullptr) {
+    showIn(textFont());
+    const Size written = extentOf(textFont(), widestNumber);
+    const int dots = dotsPerInch();
+    setPreferredSize(
+        {written.width + scaledToScreen(spareWidth, dots), written.height + scaledToScreen(spareHeight, dots)});
+    SetWindowTextW(handle(), std::to_wstring(number).c_str());
+}
+
+std::string NumberField::typed() const {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle())) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(handle(), text.data(), static_cast<int>(text.size()))));
+    std::string narrow(text.size(), '?');
+    std::transform(text.begin(), text.end(), narrow.begin(),
+                   [](wchar_t unit) { return unit < 0x80 ? static_cast<char>(unit) : '?'; });
+    return narrow;
+}
+
+void NumberField::selectAll() { SendMessageW(handle(), EM_SETSEL, 0, -1); }
+
+}  // namespace calquo
