@@ -372,11 +372,17 @@ TEST(Button, ChangesItsLook) {
     EXPECT_EQ(tool.text.data(), std::wstring(L"Restore"));
 }
 
-TEST(Button, HasTheArrowWhereTheProgramHasNoCursorForIt) {
+TEST(Button, HasTheHandOfTheProgramFile) {
     Stage stage;
     const auto button = placedButton(stage, {.label = "x", .description = ""});
-    EXPECT_EQ(GetClassLongPtrW(button->handle(), GCLP_HCURSOR),
-              reinterpret_cast<ULONG_PTR>(LoadCursorW(nullptr, IDC_ARROW)));
+    const auto cursor = reinterpret_cast<HICON>(GetClassLongPtrW(button->handle(), GCLP_HCURSOR));
+    ICONINFO hand{};
+    ASSERT_NE(GetIconInfo(cursor, &hand), 0);
+    // The system's arrow would point with its corner.
+    EXPECT_EQ(hand.xHotspot, 11U);
+    EXPECT_EQ(hand.yHotspot, 2U);
+    DeleteObject(hand.hbmMask);
+    DeleteObject(hand.hbmColor);
 }
 
 TEST(Tooltip, IsMadeWhenTheMouseComesToADescription) {
