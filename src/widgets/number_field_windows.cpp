@@ -12,9 +12,10 @@ namespace {
 
 constexpr wchar_t widestNumber[] = L"00000";
 
-// At 96 dots per inch; the border and the field's inner margins included.
+/// For the border and the field's inner margins, at 96 dots per inch.
 constexpr int spareWidth = 14;
-constexpr int spareHeight = 8;
+/// Within the border, in pixels of every screen: the system writes at the upper edge, whatever the field's height is.
+constexpr int spareHeight = 4;
 
 }  // namespace
 
@@ -32,9 +33,8 @@ NumberField::NumberField(WindowHandle parent, std::uint16_t command, std::uint32
           nullptr) {
     showIn(textFont());
     const Size written = extentOf(textFont(), widestNumber);
-    const int dots = dotsPerInch();
-    setPreferredSize(
-        {written.width + scaledToScreen(spareWidth, dots), written.height + scaledToScreen(spareHeight, dots)});
+    setPreferredSize({written.width + scaledToScreen(spareWidth, dotsPerInch()),
+                      written.height + 2 * GetSystemMetrics(SM_CYEDGE) + spareHeight});
     SetWindowTextW(handle(), std::to_wstring(number).c_str());
 }
 

@@ -1,0 +1,435 @@
+// The dialogs of the formats on the main window: their controls, the keyboard, and what becomes of what is typed.
+#include "format/format_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "program.h"
+#include "resources.h"
+
+namespace calquo {
+namespace {
+
+constexpr unsigned modifyAutomatic = 0x4511, modifyScientific = 0x4512, modifyInteger = 0x4515;
+constexpr unsigned modifyFractional = 0x4517, selectInteger = 0x515, resetFormats = 0x541;
+
+HWND dialog() { return FindWindowW(L"Format", nullptr); }
+
+std::string textOf(HWND window) {
+    std::array<char, 200> text{};
+    GetWindowTextA(window, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+RECT placeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+std::vector<HWND> childrenOf(HWND window) {
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        children.push_back(child);
+    }
+    return children;
+}
+
+/// The child of the dialog with a text, null when there is none.
+HWND childNamed(std::string_view text) {
+    const auto children = childrenOf(dialog());
+    const auto found =
+        std::find_if(children.begin(), children.end(), [&](HWND child) { return textOf(child) == text; });
+    return found == children.end() ? nullptr : *found;
+}
+
+/// The control of an attribute: beside its label, or with the label on it.
+HWND controlOf(char letter, FormatKind kind = FormatKind::Automatic) {
+    const Attribute& attribute = *attributeOf(kind, letter);
+    const HWND named = childNamed(attribute.label);
+    return attribute.control == AttributeControl::CheckBox ? named : GetWindow(named, GW_HWNDNEXT);
+}
+
+/// What the dialog says is wrong.
+std::string message() { return textOf(GetWindow(childNamed("Ok"), GW_HWNDPREV)); }
+
+void press(WPARAM key) {
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+    Program::serveMessages();
+}
+
+void pressWithAlt(wchar_t character) {
+    PostMessageW(GetFocus(), WM_SYSCHAR, character, 1 << 29);
+    Program::serveMessages();
+}
+
+/// Types into a field in place of what stands there.
+void type(HWND field, std::string_view text) {
+    SetFocus(field);
+    SendMessageW(field, EM_SETSEL, 0, -1);
+    PostMessageW(field, WM_CHAR, '\b', 1);
+    for (const char character : text) {
+        PostMessageW(field, WM_CHAR, static_cast<WPARAM>(character), 1);
+    }
+    Program::serveMessages();
+}
+
+void click(HWND button) {
+    SendMessageW(button, BM_CLICK, 0, 0);
+    Program::serveMessages();
+}
+
+NumericFormat wordOf(const Program& program, FormatKind kind = FormatKind::Automatic) {
+    return program.settings().format(kind);
+}
+
+/// Sets the letter's bits of a word; the control shows this state.
+bool isOn(HWND box) { return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+TEST(FormatDialog, EveryKindShowsItsAttributesInOrder) {
+    Program program;
+    for (std::size_t index = 0; index < formatKinds.size(); ++index) {
+        SCOPED_TRACE(formatKinds[index].title);
+        const auto kind = static_cast<FormatKind>(index);
+        program.command(modifyAutomatic + static_cast<unsigned>(index));
+        ASSERT_NE(dialog(), nullptr);
+        EXPECT_EQ(textOf(dialog()), formatKinds[index].title);
+        EXPECT_TRUE(IsWindowVisible(dialog()));
+        EXPECT_EQ(GetWindow(dialog(), GW_OWNER), program.handle());
+        std::vector<HWND> expected;
+        for (const Attribute* const attribute : attributesOf(kind)) {
+            const HWND control = controlOf(attribute->letter, kind);
+            ASSERT_NE(control, nullptr) << attribute->label;
+            expected.push_back(control);
+            const std::uint32_t value = getField(defaultFormats[index], attribute->field);
+            switch (attribute->control) {
+                case AttributeControl::NumberField:
+                    EXPECT_EQ(textOf(control), std::to_string(value));
+                    break;
+                case AttributeControl::Selector:
+                    EXPECT_EQ(SendMessageW(control, CB_GETCURSEL, 0, 0), static_cast<LRESULT>(value));
+                    EXPECT_EQ(SendMessageW(control, CB_GETCOUNT, 0, 0), 5);
+                    break;
+                case AttributeControl::CheckBox:
+                    EXPECT_EQ(isOn(control), value != 0) << attribute->label;
+                    break;
+            }
+        }
+        expected.push_back(childNamed("Ok"));
+        expected.push_back(childNamed("Cancel"));
+        // From Cancel, which has the focus, Tab comes to the first control and then to each in its order.
+        EXPECT_EQ(GetFocus(), expected.back());
+        std::vector<HWND> visited(expected.size());
+        for (HWND& window : visited) {
+            press(VK_TAB);
+            window = GetFocus();
+        }
+        EXPECT_EQ(visited, expected);
+        press(VK_ESCAPE);
+        EXPECT_EQ(dialog(), nullptr);
+    }
+}
+
+TEST(FormatDialog, ShowsAllOfItsPartsApart) {
+    Program program;
+    for (unsigned command = modifyAutomatic; command <= modifyFractional; ++command) {
+        program.command(command);
+        RECT area{};
+        GetClientRect(dialog(), &area);
+        MapWindowPoints(dialog(), nullptr, reinterpret_cast<POINT*>(&area), 2);
+        const auto children = childrenOf(dialog());
+        for (auto child = children.begin(); child != children.end(); ++child) {
+            const RECT place = placeOf(*child);
+            RECT common{};
+            IntersectRect(&common, &place, &area);
+            EXPECT_TRUE(EqualRect(&common, &place)) << textOf(*child);
+            EXPECT_FALSE(IsRectEmpty(&place)) << textOf(*child);
+            for (auto other = child + 1; other != children.end(); ++other) {
+                const RECT otherPlace = placeOf(*other);
+                EXPECT_FALSE(IntersectRect(&common, &place, &otherPlace)) << textOf(*child) << ", " << textOf(*other);
+            }
+        }
+        press(VK_ESCAPE);
+    }
+}
+
+TEST(FormatDialog, AppliesWithEnterWhereverTheFocusIs) {
+    for (const char* const focused : {"field", "box", "Ok", "Cancel"}) {
+        SCOPED_TRACE(focused);
+        Program program;
+        program.command(modifyAutomatic);
+        type(controlOf('D'), "2");
+        click(controlOf('+'));
+        const std::string name = focused;
+        SetFocus(name == "field" ? controlOf('X') : name == "box" ? controlOf('W') : childNamed(name));
+        press(VK_RETURN);
+        EXPECT_EQ(dialog(), nullptr);
+        EXPECT_EQ(wordOf(program), 0x03121045u);
+        // The next result shows it.
+        EXPECT_EQ(GetFocus(), program.workArea());
+        program.setText(L"10000/3");
+        SendMessageW(program.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+        EXPECT_EQ(program.text(), L"10000/3 = +3,333.33\n\n+3,333.33");
+    }
+}
+
+TEST(FormatDialog, ClosesWithoutApplying) {
+    const auto byEscape = [] { press(VK_ESCAPE); };
+    const auto byCancel = [] { click(childNamed("Cancel")); };
+    const auto byCaption = [] { SendMessageW(dialog(), WM_CLOSE, 0, 0); };
+    Program program;
+    for (const auto& close : {std::function<void()>(byEscape), {byCancel}, {byCaption}}) {
+        program.command(modifyAutomatic);
+        type(controlOf('D'), "2");
+        click(controlOf('+'));
+        close();
+        EXPECT_EQ(dialog(), nullptr);
+        EXPECT_EQ(wordOf(program), defaultFormats[0]);
+        EXPECT_EQ(GetFocus(), program.workArea());
+        // Opened again it shows the word, not what was typed.
+        program.command(modifyAutomatic);
+        EXPECT_EQ(textOf(controlOf('D')), "5");
+        EXPECT_FALSE(isOn(controlOf('+')));
+        press(VK_ESCAPE);
+    }
+}
+
+TEST(FormatDialog, EachControlSetsItsAttribute) {
+    struct Row {
+        FormatKind kind;
+        char letter;
+        int value;
+        NumericFormat expected;
+    };
+    const Row rows[] = {
+        {FormatKind::Automatic, 'G', 8, 0x082A1044},  {FormatKind::Automatic, 'S', 31, 0x032FD044},
+        {FormatKind::Automatic, 'D', 0, 0x03021044},  {FormatKind::Automatic, 'X', 15, 0x032A1E44},
+        {FormatKind::Automatic, 'I', 0, 0x032A1004},  {FormatKind::Automatic, 'Z', 1, 0x032A1054},
+        {FormatKind::Automatic, 'W', 0, 0x032A1040},  {FormatKind::Automatic, 'F', 1, 0x032A104C},
+        {FormatKind::Automatic, '.', 1, 0x032A1046},  {FormatKind::Automatic, '+', 1, 0x032A1045},
+        {FormatKind::Scientific, 'E', 1, 0x13222044}, {FormatKind::Currency, '.', 1, 0x33122036},
+        {FormatKind::Integer, 'T', 4, 0x4480200C},    {FormatKind::Fractional, 'D', 1, 0x63080004},
+    };
+    Program program;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::Message() << formatKinds[static_cast<std::size_t>(row.kind)].title << ' ' << row.letter);
+        program.command(resetFormats);
+        program.command(modifyAutomatic + static_cast<unsigned>(row.kind));
+        const HWND control = controlOf(row.letter, row.kind);
+        switch (attributeOf(row.kind, row.letter)->control) {
+            case AttributeControl::NumberField:
+                type(control, std::to_string(row.value));
+                break;
+            case AttributeControl::Selector:
+                SetFocus(control);
+                for (int step = 0; step < row.value; ++step) {
+                    press(VK_DOWN);
+                }
+                break;
+            case AttributeControl::CheckBox:
+                click(control);
+                break;
+        }
+        click(childNamed("Ok"));
+        EXPECT_EQ(dialog(), nullptr);
+        EXPECT_EQ(wordOf(program, row.kind), row.expected);
+        for (const FormatKind other : {FormatKind::FixedPoint, FormatKind::Rational}) {
+            EXPECT_EQ(wordOf(program, other), defaultFormats[static_cast<std::size_t>(other)]);
+        }
+    }
+}
+
+TEST(FormatDialog, SaysWhatIsWrongWithANumber) {
+    Program program;
+    program.command(modifyAutomatic);
+    EXPECT_EQ(message(), "");
+    const std::string wanted = "Fixed point exponent limit: please enter a whole number from 2 to 15.";
+    for (const char* const typed : {"16", "1", "", "x", "3.5", "-3"}) {
+        type(controlOf('X'), typed);
+        EXPECT_EQ(textOf(controlOf('X')), typed);
+        EXPECT_EQ(message(), wanted) << typed;
+        SetFocus(controlOf('I'));
+        press(VK_RETURN);
+        ASSERT_NE(dialog(), nullptr) << typed;
+        EXPECT_EQ(GetFocus(), controlOf('X')) << typed;
+        EXPECT_EQ(wordOf(program), defaultFormats[0]) << typed;
+    }
+    // With two faults, the first of them; and the second once that is mended.
+    type(controlOf('G'), "9");
+    EXPECT_EQ(message(), "Number of digits in a group: please enter a whole number from 2 to 8.");
+    type(controlOf('G'), "4");
+    EXPECT_EQ(message(), wanted);
+    type(controlOf('X'), "7");
+    EXPECT_EQ(message(), "");
+    press(VK_RETURN);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(wordOf(program), 0x042A0E44u);
+}
+
+/// The pixels of a window that are more red than anything else.
+int redPixels(HWND window) {
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    RECT area{};
+    GetClientRect(window, &area);
+    const HDC context = GetDC(window);
+    int count = 0;
+    for (int top = 0; top < area.bottom; ++top) {
+        for (int left = 0; left < area.right; ++left) {
+            const COLORREF pixel = GetPixel(context, left, top);
+            count += GetRValue(pixel) > GetGValue(pixel) + 80 && GetRValue(pixel) > GetBValue(pixel) + 80 ? 1 : 0;
+        }
+    }
+    ReleaseDC(window, context);
+    return count;
+}
+
+TEST(FormatDialog, MarksTheFaultInColour) {
+    Program program;
+    program.command(modifyAutomatic);
+    const HWND field = controlOf('G'), said = GetWindow(childNamed("Ok"), GW_HWNDPREV);
+    EXPECT_EQ(redPixels(field) + redPixels(said), 0);
+    type(field, "88");
+    EXPECT_GT(redPixels(field), 5);
+    EXPECT_GT(redPixels(said), 100);
+    EXPECT_EQ(redPixels(controlOf('D')), 0);
+    type(field, "8");
+    EXPECT_EQ(redPixels(field) + redPixels(said), 0);
+}
+
+TEST(FormatDialog, StopsAtWhatTheWordHasNoRoomFor) {
+    Program program;
+    program.command(modifyAutomatic);
+    type(controlOf('X'), "15");
+    type(controlOf('S'), "64");
+    type(controlOf('D'), "7");
+    type(controlOf('G'), "5");
+    click(controlOf('+'));
+    EXPECT_EQ(message(), "");
+    press(VK_RETURN);
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_EQ(message(), "Maximum significant digits: a format cannot keep more than 31.");
+    EXPECT_EQ(GetFocus(), controlOf('S'));
+    EXPECT_EQ(wordOf(program), 0x053A1044u) << "the group size and the digits stand ahead of it, and nothing else";
+    type(controlOf('S'), "31");
+    EXPECT_EQ(message(), "");
+    press(VK_RETURN);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(wordOf(program), 0x053FDE45u);
+}
+
+TEST(FormatDialog, MarkedLettersLeadToTheControls) {
+    Program program;
+    program.command(modifyScientific);
+    const auto at = [](char letter) { return controlOf(letter, FormatKind::Scientific); };
+    pressWithAlt('s');
+    EXPECT_EQ(GetFocus(), at('S'));
+    pressWithAlt('n');
+    EXPECT_EQ(GetFocus(), at('G'));
+    pressWithAlt('e');
+    EXPECT_TRUE(isOn(at('E')));
+    pressWithAlt('z');
+    EXPECT_FALSE(isOn(at('I')));
+    press(VK_RETURN);
+    EXPECT_EQ(wordOf(program, FormatKind::Scientific), 0x13222004u);
+    program.command(modifyInteger);
+    pressWithAlt('t');
+    EXPECT_EQ(GetFocus(), controlOf('T', FormatKind::Integer));
+}
+
+TEST(FormatDialog, ASecondOneBringsTheFirstForward) {
+    Program program;
+    program.command(modifyAutomatic);
+    const HWND first = dialog();
+    type(controlOf('D'), "9");
+    SetFocus(program.workArea());
+    program.command(modifyInteger);
+    EXPECT_EQ(dialog(), first);
+    EXPECT_EQ(FindWindowExW(nullptr, first, L"Format", nullptr), nullptr);
+    EXPECT_EQ(GetActiveWindow(), first);
+    EXPECT_EQ(textOf(first), "Automatic Format");
+    EXPECT_EQ(textOf(controlOf('D')), "9");
+    press(VK_RETURN);
+    EXPECT_EQ(wordOf(program), 0x034A1044u);
+    EXPECT_EQ(wordOf(program, FormatKind::Integer), defaultFormats[4]);
+    program.command(selectInteger);
+    program.command(modifyInteger);
+    EXPECT_EQ(textOf(dialog()), "Integer Format");
+    EXPECT_EQ(program.settings().selectedFormat(), FormatKind::Integer);
+}
+
+TEST(FormatDialog, GetsTheFocusBackUnlessTheWindowIsClicked) {
+    Program program;
+    program.command(modifyAutomatic);
+    SetFocus(controlOf('D'));
+    SetFocus(dialog());
+    EXPECT_EQ(GetFocus(), childNamed("Cancel"));
+    SetActiveWindow(program.handle());
+    EXPECT_EQ(GetFocus(), childNamed("Cancel"));
+    // A click is for what lies under it.
+    SendMessageW(program.handle(), WM_ACTIVATE, WA_CLICKACTIVE, 0);
+    EXPECT_EQ(GetFocus(), program.workArea());
+    SetActiveWindow(dialog());
+    SetActiveWindow(program.handle());
+    EXPECT_EQ(GetFocus(), program.workArea());
+    program.setText(L"2+3");
+    SendMessageW(program.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+    EXPECT_EQ(program.text(), L"2+3 = 5\n\n5");
+}
+
+TEST(FormatDialog, StandsOverTheWorkAreaAndOnTheScreen) {
+    RECT screen{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    for (const POINT corner : {POINT{200, 100}, {-250, -100}, {screen.right - 150, screen.bottom - 120}}) {
+        MemoryStorage storage;
+        Settings(storage).setWindowRect({corner.x, corner.y, corner.x + 500, corner.y + 400});
+        Program program(std::move(storage));
+        program.command(modifyFractional);
+        const RECT place = placeOf(dialog()), around = placeOf(program.workArea());
+        RECT common{};
+        IntersectRect(&common, &place, &screen);
+        EXPECT_TRUE(EqualRect(&common, &place)) << corner.x;
+        EXPECT_TRUE(IntersectRect(&common, &place, &around)) << corner.x;
+        if (corner.x == 200) {
+            EXPECT_NEAR(place.left + place.right, around.left + around.right, 1);
+            EXPECT_NEAR(place.top + place.bottom, around.top + around.bottom, 1);
+        }
+    }
+}
+
+TEST(FormatDialog, ClosesWithTheWindow) {
+    Program program;
+    program.command(modifyAutomatic);
+    type(controlOf('D'), "2");
+    program.close();
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(wordOf(program), defaultFormats[0]);
+}
+
+TEST(FormatDialog, LeavesNothingBehind) {
+    Program program;
+    const auto use = [&](unsigned command) {
+        program.command(command);
+        type(GetWindow(childNamed("&Number of digits in a group"), GW_HWNDNEXT), "9");
+        SendMessageW(GetFocus(), WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));  // the tooltip
+        press(VK_RETURN);
+        press(VK_ESCAPE);
+    };
+    for (unsigned command = modifyAutomatic; command <= modifyFractional; ++command) {
+        use(command);  // what is made once and shared stays
+    }
+    const Resources before = heldResources();
+    for (int round = 0; round < 5; ++round) {
+        for (unsigned command = modifyAutomatic; command <= modifyFractional; ++command) {
+            use(command);
+        }
+    }
+    const Resources after = heldResources();
+    EXPECT_EQ(after.drawingObjects, before.drawingObjects);
+    EXPECT_EQ(after.windows, before.windows);
+}
+
+}  // namespace
+}  // namespace calquo
