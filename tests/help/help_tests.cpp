@@ -1,0 +1,276 @@
+// The help's pages as they are written: their examples give what they show, their links lead somewhere, and nothing
+// that the program has is missing.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "console/calq.h"
+#include "console/options.h"
+#include "engine/keywords.h"
+#include "panels/catalogue.h"
+#include "shell/menu_tree.h"
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::ostringstream text;
+    text << stream.rdbuf();
+    EXPECT_TRUE(stream) << path;
+    return text.str();
+}
+
+/// The pages of the table of contents, by their names.
+const std::map<std::string, std::string>& pages() {
+    static const std::map<std::string, std::string> all = [] {
+        std::map<std::string, std::string> result;
+        std::istringstream names(contentOf(std::filesystem::path(CALQUO_HELP_SOURCES) / "contents.txt"));
+        for (std::string name; names >> name;) {
+            result[name] = contentOf(std::filesystem::path(CALQUO_HELP_PAGES) / (name + ".html"));
+        }
+        return result;
+    }();
+    return all;
+}
+
+/// What a reader sees of a piece of HTML.
+std::string plainText(std::string_view html) {
+    constexpr std::array<std::pair<std::string_view, char>, 4> references = {
+        {{"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&quot;", '"'}}};
+    std::string text;
+    while (!html.empty()) {
+        if (html.front() == '<') {
+            html.remove_prefix(html.find('>') + 1);
+            continue;
+        }
+        const auto* const reference = std::find_if(references.begin(), references.end(),
+                                                   [&](const auto& row) { return html.starts_with(row.first); });
+        const bool found = reference != references.end();
+        text += found ? reference->second : html.front();
+        html.remove_prefix(found ? reference->first.size() : 1);
+    }
+    return text;
+}
+
+/// Takes what stands in front of `end` from the front of the HTML.
+std::string_view takeUntil(std::string_view& html, std::string_view end) {
+    const std::string_view piece = html.substr(0, html.find(end));
+    html.remove_prefix(piece.size());
+    return piece;
+}
+
+struct Example {
+    std::string place;
+    std::string line;
+    std::string result;  ///< Empty where none is shown.
+    std::vector<std::string> options;
+};
+
+/// Every line of the work area that a page shows.
+std::vector<Example> examplesOf(const std::string& name, std::string_view html) {
+    constexpr std::string_view calqMark = "<!-- calq:", lines = "<pre class=\"lines\">", line = "<td class=\"line\">",
+                               result = "<td class=\"result\">", code = "<code>";
+    std::vector<Example> examples;
+    std::vector<std::string> options;
+    const auto addRecord = [&](const std::string& record) {
+        const std::size_t equals = record.find(" = ");
+        if (equals != std::string::npos) {
+            examples.push_back({name, record.substr(0, equals), record.substr(equals + 3), options});
+        }
+    };
+    for (takeUntil(html, "<"); !html.empty(); html.remove_prefix(1), takeUntil(html, "<")) {
+        if (html.starts_with(calqMark)) {
+            std::istringstream words(std::string(takeUntil(html, "-->")).substr(calqMark.size()));
+            options.assign(std::istream_iterator<std::string>(words), {});
+        } else if (html.starts_with("</table>")) {
+            options.clear();
+        } else if (html.starts_with(lines)) {
+            std::istringstream records(plainText(takeUntil(html, "</pre>")));
+            for (std::string record; std::getline(records, record);) {
+                addRecord(record);
+            }
+            options.clear();
+        } else if (html.starts_with(line)) {
+            Example example{name, plainText(takeUntil(html, "</td>")), "", options};
+            html.remove_prefix(std::string_view("</td>").size());
+            if (html.starts_with(result)) {
+                example.result = plainText(takeUntil(html, "</td>"));
+            }
+            examples.push_back(example);
+        } else if (html.starts_with(code)) {
+            addRecord(plainText(takeUntil(html, "</code>")));
+        }
+    }
+    return examples;
+}
+
+TEST(Help, ExamplesGiveWhatIsShown) {
+    std::size_t count = 0;
+    for (const auto& [name, html] : pages()) {
+        for (const Example& example : examplesOf(name, html)) {
+            std::vector<const char*> words;
+            std::transform(example.options.begin(), example.options.end(), std::back_inserter(words),
+                           [](const std::string& word) { return word.c_str(); });
+            LineAnswerer answerer(parseOptions(words));
+            std::string answer, differences;
+            if (example.result.empty()) {
+                EXPECT_TRUE(answerer.answer(example.line, answer)) << name << ": " << example.line << ": " << answer;
+            } else {
+                answerer.check(example.line + " = " + example.result, name, differences);
+                EXPECT_EQ(differences, "");
+            }
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 300u);
+}
+
+TEST(Help, LinksLeadToPagesAndPlacesThatThereAre) {
+    std::size_t count = 0;
+    for (const auto& [name, html] : pages()) {
+        std::string_view rest = html;
+        constexpr std::string_view mark = "href=\"", ending = ".html";
+        for (takeUntil(rest, mark); !rest.empty(); takeUntil(rest, mark)) {
+            rest.remove_prefix(mark.size());
+            const std::string target(takeUntil(rest, "\""));
+            if (target == "style.css") {
+                continue;
+            }
+            const std::size_t hash = std::min(target.find('#'), target.size());
+            const std::string file = target.substr(0, hash);
+            const bool known = file.empty() || file.ends_with(ending);
+            const auto page = pages().find(file.empty() ? name : file.substr(0, file.size() - ending.size()));
+            ASSERT_TRUE(known && page != pages().end()) << name << ": " << target;
+            if (hash < target.size()) {
+                const std::string place = "id=\"" + target.substr(hash + 1) + "\"";
+                EXPECT_NE(page->second.find(place), std::string::npos) << name << ": " << target;
+            }
+            ++count;
+        }
+    }
+    EXPECT_GT(count, keywordCount);
+}
+
+TEST(Help, EveryNameHasOneEntryAndALinkToItInTheListOfNames) {
+    const std::string& list = pages().at("names");
+    for (std::size_t index = 1; index <= keywordCount; ++index) {
+        const std::string name(nameOf(index));
+        std::string anchor = "name-";
+        std::transform(name.begin(), name.end(), std::back_inserter(anchor),
+                       [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
+        const std::string arguments = argumentsOf(index).empty() ? "" : "(" + std::string(argumentsOf(index)) + ")";
+        const std::string entry = "id=\"" + anchor + "\"><code>" + name + arguments + "</code>";
+        std::size_t entries = 0;
+        for (const auto& [page, html] : pages()) {
+            if (html.find(entry) != std::string::npos) {
+                ++entries;
+                const std::string link = "<a href=\"" + page + ".html#" + anchor + "\"><code>" + name + "</code></a>";
+                EXPECT_NE(list.find(link), std::string::npos) << link;
+            }
+        }
+        EXPECT_EQ(entries, 1u) << entry;
+    }
+}
+
+TEST(Help, EveryErrorHasASectionWithALineThatEndsInIt) {
+    const std::string& html = pages().at("errors");
+    for (std::uint32_t code = 0; code <= static_cast<std::uint32_t>(ErrorCode::DivisionByZero); ++code) {
+        const std::string message = errorMessage(code);
+        std::string_view section = html;
+        takeUntil(section, ">" + message + "</h3>");
+        ASSERT_FALSE(section.empty()) << message;
+        section.remove_prefix(1);
+        section = takeUntil(section, "<h");
+        // No line leads to these two; one that did would be a fault of the program.
+        const bool hasExample = code != static_cast<std::uint32_t>(ErrorCode::InvalidExpression) &&
+                                code != static_cast<std::uint32_t>(ErrorCode::InternalFault);
+        const auto examples = examplesOf("errors", section);
+        EXPECT_EQ(std::any_of(examples.begin(), examples.end(),
+                              [&](const Example& example) { return example.result == "Error (" + message + ")"; }),
+                  hasExample)
+            << message;
+    }
+}
+
+/// A label without the mark of its key and its shortcut.
+std::string shownLabel(std::string_view label) {
+    std::string text(label.substr(0, label.find('\t')));
+    std::erase(text, '&');
+    return text;
+}
+
+void expectEntriesExplained(const std::vector<MenuEntry>& entries) {
+    for (const MenuEntry& entry : entries) {
+        const std::string& page = pages().at(findPanel(entry.identifier) != nullptr ? "panels" : "menus");
+        EXPECT_NE(plainText(page).find(shownLabel(entry.label)), std::string::npos) << entry.label;
+        expectEntriesExplained(entry.children);
+    }
+}
+
+TEST(Help, EveryEntryOfTheMenuIsExplained) { expectEntriesExplained(mainMenu()); }
+
+TEST(Help, EveryOptionOfCalqIsExplained) {
+    const std::string page = plainText(pages().at("calq"));
+    std::istringstream words(helpText());
+    std::size_t count = 0;
+    for (std::string word; words >> word;) {
+        if (word.starts_with("--") && word.size() > 2 && std::isalpha(static_cast<unsigned char>(word.back())) != 0) {
+            EXPECT_NE(page.find(word), std::string::npos) << word;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 5u);
+}
+
+#ifndef _WIN32
+
+/// What a command prints.
+std::string outputOf(const std::string& command) {
+    FILE* const pipe = popen(command.c_str(), "r");
+    std::string output;
+    for (int character = std::fgetc(pipe); character != EOF; character = std::fgetc(pipe)) {
+        output += static_cast<char>(character);
+    }
+    pclose(pipe);
+    return output;
+}
+
+TEST(Help, CommandsPrintWhatIsShown) {
+    const std::string folder = std::filesystem::path(CALQUO_PROGRAM).parent_path().string();
+    std::size_t count = 0;
+    for (const auto& [name, html] : pages()) {
+        std::string_view rest = html;
+        constexpr std::string_view block = "<pre class=\"console\">";
+        for (takeUntil(rest, block); !rest.empty(); rest.remove_prefix(1), takeUntil(rest, block)) {
+            std::string_view remaining = rest;
+            const std::string shown = plainText(takeUntil(remaining, "</pre>"));
+            std::istringstream lines(shown);
+            std::string printed;
+            for (std::string line; std::getline(lines, line);) {
+                if (line.starts_with("$ ")) {
+                    printed += line + "\n" + outputOf("PATH='" + folder + "':$PATH; " + line.substr(2));
+                    ++count;
+                }
+            }
+            EXPECT_EQ(printed, shown) << name;
+        }
+    }
+    EXPECT_GT(count, 5u);
+}
+
+#endif
+
+}  // namespace
+}  // namespace calquo
