@@ -59,19 +59,25 @@ void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu,
     }
 }
 
-/// Alt opens the menu as it goes down; when F4 follows, the user meant the window.
-LRESULT CALLBACK closeByAltF4(int code, WPARAM wide, LPARAM extra) {
+/// Alt opens the menu as it goes down. When F4 follows, the user meant the window; when Alt is held, it repeats itself,
+/// which would close the menu.
+LRESULT CALLBACK hearAltInMenu(int code, WPARAM wide, LPARAM extra) {
     const MSG& message = *reinterpret_cast<const MSG*>(extra);
-    if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN && message.wParam == VK_F4) {
-        EndMenu();
-        PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
-        return 1;
+    if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN) {
+        if (message.wParam == VK_F4) {
+            EndMenu();
+            PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
+            return 1;
+        }
+        if (message.wParam == VK_MENU && (HIWORD(message.lParam) & KF_REPEAT) != 0) {
+            return 1;
+        }
     }
     return CallNextHookEx(nullptr, code, wide, extra);
 }
 
 void track(HMENU menu, HWND owner, Point corner) {
-    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, closeByAltF4, nullptr, GetCurrentThreadId());
+    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, hearAltInMenu, nullptr, GetCurrentThreadId());
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, corner.left, corner.top, 0, owner, nullptr);
     UnhookWindowsHookEx(hook);
 }

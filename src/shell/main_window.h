@@ -47,6 +47,7 @@ private:
 
     std::optional<MessageAnswer> hearCreation(const Message& message);
     std::optional<MessageAnswer> hearDestruction(const Message& message);
+    std::optional<MessageAnswer> hearEndOfSession(const Message& message);
     std::optional<MessageAnswer> forgetWindow(const Message& message);
     std::optional<MessageAnswer> hearActivation(const Message& message);
     std::optional<MessageAnswer> passFocusOn(const Message& message);
@@ -60,6 +61,8 @@ private:
     std::optional<MessageAnswer> hearSystemKey(const Message& message);
     std::optional<MessageAnswer> hearSystemCommand(const Message& message);
     std::optional<MessageAnswer> hearCommand(const Message& message);
+
+    void shutDown();
 
     void runCommand(std::uint16_t identifier);
     void togglePanel(std::uint16_t identifier);
@@ -104,6 +107,7 @@ private:
     std::unique_ptr<WorkArea> workArea_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.
     WindowHandle lastFocus_ = nullptr;
+    bool created_ = false;
     bool enlarging_ = false;
 };
 

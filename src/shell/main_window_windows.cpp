@@ -13,6 +13,7 @@
 #include "shell/program_title.h"
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
+#include "widgets/painting.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -32,9 +33,18 @@ constexpr Color panelGround{236, 239, 243};
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
 constexpr int menuOffset = 8;
 
-/// What a button's command message says of it.
-constexpr WORD pressedNotification = 2;
-constexpr WORD clickedNotification = 3;
+/// Does something when it goes out of scope.
+template <typename Action>
+class AtEnd {
+public:
+    explicit AtEnd(Action action) : action_(action) {}
+    ~AtEnd() { action_(); }
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+
+private:
+    Action action_;
+};
 
 Rectangle rectangleOf(const RECT& corners) {
     return {corners.left, corners.top, corners.right - corners.left, corners.bottom - corners.top};
@@ -42,12 +52,6 @@ Rectangle rectangleOf(const RECT& corners) {
 
 RECT cornersOf(const Rectangle& place) {
     return {place.left, place.top, place.left + place.width, place.top + place.height};
-}
-
-Size clientSize(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.right, client.bottom};
 }
 
 constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
@@ -78,38 +82,43 @@ int dotsPerInchOfScreen() {
     return dots;
 }
 
-Rectangle workAreaOf(HMONITOR monitor) {
+struct Screen {
+    Rectangle whole;
+    Rectangle desk;  ///< Without the taskbar.
+};
+
+Screen screenOf(HMONITOR monitor) {
     MONITORINFO description{};
     description.cbSize = sizeof description;
     GetMonitorInfoW(monitor, &description);
-    return rectangleOf(description.rcWork);
+    return {rectangleOf(description.rcMonitor), rectangleOf(description.rcWork)};
 }
 
 BOOL CALLBACK noteScreen(HMONITOR monitor, HDC, LPRECT, LPARAM screens) {
-    reinterpret_cast<std::vector<Rectangle>*>(screens)->push_back(workAreaOf(monitor));
+    reinterpret_cast<std::vector<Rectangle>*>(screens)->push_back(screenOf(monitor).desk);
     return TRUE;
 }
 
 /// The screens without their taskbars, the one nearest to the window first.
 std::vector<Rectangle> screensAround(HWND window) {
-    std::vector<Rectangle> screens = {workAreaOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST))};
+    std::vector<Rectangle> screens = {screenOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).desk};
     EnumDisplayMonitors(nullptr, nullptr, noteScreen, reinterpret_cast<LPARAM>(&screens));
     return screens;
 }
 
-/// The width of the frame at which the user sizes the window.
-Size sizingFrame() {
-    const int padding = GetSystemMetrics(SM_CXPADDEDBORDER);
-    return {GetSystemMetrics(SM_CXSIZEFRAME) + padding, GetSystemMetrics(SM_CYSIZEFRAME) + padding};
+/// The window around a client area of `client`, by its upper left corner in the client's coordinates.
+Rectangle windowAround(Size client) {
+    RECT around{0, 0, client.width, client.height};
+    AdjustWindowRectEx(&around, windowStyle, FALSE, extendedStyle);
+    return rectangleOf(around);
 }
 
-/// The maximized window: the desktop's work area, with all but one pixel of the frame around it.
-Rectangle maximizedPlace() {
-    RECT desk{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
-    const Size frame = sizingFrame();
-    InflateRect(&desk, frame.width - 1, frame.height - 1);
-    return rectangleOf(desk);
+/// The maximized window: the screen without its taskbar, with all but one pixel of the sizing frame around it.
+Rectangle maximizedPlace(HWND window) {
+    const Rectangle desk = screenOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).desk;
+    const Rectangle frame = windowAround({0, 0});
+    return {desk.left + frame.left + 1, desk.top + frame.top + 1, desk.width + frame.width - 2,
+            desk.height + frame.height - 2};
 }
 
 }  // namespace
@@ -141,7 +150,9 @@ struct MainWindow::Procedure {
         description.lpfnWndProc = receive;
         description.hInstance = program;
         description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(iconResource));
-        description.hIconSm = description.hIcon;
+        description.hIconSm =
+            static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(iconResource), IMAGE_ICON,
+                                          GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_SCROLLBAR + 1);
         description.lpszClassName = name.c_str();
@@ -160,6 +171,7 @@ struct MainWindow::MessageRow {
 const MainWindow::MessageRow MainWindow::messageRows[] = {
     {WM_CREATE, &MainWindow::hearCreation},
     {WM_DESTROY, &MainWindow::hearDestruction},
+    {WM_ENDSESSION, &MainWindow::hearEndOfSession},
     {WM_NCDESTROY, &MainWindow::forgetWindow},
     {WM_ACTIVATE, &MainWindow::hearActivation},
     {WM_SETFOCUS, &MainWindow::passFocusOn},
@@ -266,22 +278,40 @@ std::optional<MessageAnswer> MainWindow::hearCreation(const Message&) {
     moveWhereItCanBeReached();
     layOut();
     seedRandomFromClock();
+    created_ = true;
     return 0;
 }
 
 std::optional<MessageAnswer> MainWindow::hearDestruction(const Message&) {
+    // Whatever happens here, the program ends with its window.
+    const AtEnd quit([] { PostQuitMessage(0); });
+    shutDown();
+    return 0;
+}
+
+std::optional<MessageAnswer> MainWindow::hearEndOfSession(const Message& message) {
+    // The system ends the program after this, without another message.
+    if (message.wide != 0) {
+        shutDown();
+        settings_.saveAll();
+    }
+    return 0;
+}
+
+void MainWindow::shutDown() {
+    if (!created_) {
+        return;  // what is stored is worth more than the half of a window
+    }
     std::vector<std::uint16_t> identifiers(panels_.size());
     std::transform(panels_.begin(), panels_.end(), identifiers.begin(),
                    [](const auto& panel) { return panel->command(); });
     settings_.setSelectedPanels(identifiers);
-    PostQuitMessage(0);
-    return 0;
 }
 
 std::optional<MessageAnswer> MainWindow::forgetWindow(const Message&) {
     SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
     window_.release();
-    return 0;
+    return std::nullopt;
 }
 
 std::optional<MessageAnswer> MainWindow::close(const Message&) {
@@ -319,10 +349,8 @@ std::optional<MessageAnswer> MainWindow::passFocusOn(const Message&) {
 }
 
 std::optional<MessageAnswer> MainWindow::paint(const Message&) {
-    PAINTSTRUCT painting{};
-    const HDC context = BeginPaint(handle(), &painting);
-    caption_->paint(context, layOutWindow(clientSize(handle()), parts()).title);
-    EndPaint(handle(), &painting);
+    const Painting painting(handle());
+    caption_->paint(painting.context(), layOutWindow(clientSize(handle()), parts()).title);
     return 0;
 }
 
@@ -337,10 +365,11 @@ std::optional<MessageAnswer> MainWindow::chooseGround(const Message& message) {
 std::optional<MessageAnswer> MainWindow::eraseGround(const Message& message) {
     // The ground of the panels goes on below the last of them.
     const HDC context = reinterpret_cast<HDC>(message.wide);
-    RECT client{};
-    GetClientRect(handle(), &client);
+    const Size client = clientSize(handle());
+    const int strip = caption_ == nullptr ? 0 : caption_->left().preferredSize().height;
+    const RECT column{0, strip, client.width, client.height};
     SetDCBrushColor(context, colorReference(panelGround));
-    FillRect(context, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    FillRect(context, &column, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     return 1;
 }
 
@@ -365,19 +394,17 @@ WindowParts MainWindow::parts() const {
 }
 
 Size MainWindow::smallestWindow() const {
-    const Size client = smallestClient(parts());
-    RECT around{0, 0, client.width, client.height};
-    AdjustWindowRectEx(&around, windowStyle, FALSE, extendedStyle);
+    const Rectangle needed = windowAround(smallestClient(parts()));
     // More than the screen has would put a part of the window out of reach.
-    const Rectangle most = maximizedPlace();
-    const Size size{rectangleOf(around).width, rectangleOf(around).height};
-    return {std::min(size.width, most.width), std::min(size.height, most.height)};
+    const Rectangle most = maximizedPlace(handle());
+    return {std::min(needed.width, most.width), std::min(needed.height, most.height)};
 }
 
 std::optional<MessageAnswer> MainWindow::answerSizeLimits(const Message& message) {
     MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(message.extra);
-    const Rectangle most = maximizedPlace();
-    limits.ptMaxPosition = {most.left, most.top};
+    const Rectangle most = maximizedPlace(handle());
+    const Rectangle screen = screenOf(MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST)).whole;
+    limits.ptMaxPosition = {most.left - screen.left, most.top - screen.top};
     limits.ptMaxSize = {most.width, most.height};
     limits.ptMaxTrackSize = limits.ptMaxSize;
     if (caption_ != nullptr) {
@@ -389,14 +416,16 @@ std::optional<MessageAnswer> MainWindow::answerSizeLimits(const Message& message
 
 void MainWindow::moveWhereItCanBeReached() {
     const Rectangle place = windowRectangle(handle());
-    const Rectangle reachable = reachablePlace(place, smallestWindow(), screensAround(handle()));
+    // A stored place counts as it is: the layout enlarges it where it must. The system's choice may have no size.
+    const Size least = settings_.windowRect() ? Size{} : smallestWindow();
+    const Rectangle reachable = reachablePlace(place, least, screensAround(handle()));
     if (reachable != place) {
         MoveWindow(handle(), reachable.left, reachable.top, reachable.width, reachable.height, FALSE);
     }
 }
 
 std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
-    if (workArea_ == nullptr) {
+    if (!created_) {
         return 0;
     }
     if (IsIconic(handle()) == 0) {
@@ -413,7 +442,8 @@ std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
 void MainWindow::layOut() {
     const Rectangle window = windowRectangle(handle());
     const Size least = smallestWindow();
-    if ((window.width < least.width || window.height < least.height) && !enlarging_) {
+    const bool sizable = IsZoomed(handle()) == 0 && IsIconic(handle()) == 0;
+    if (sizable && !enlarging_ && (window.width < least.width || window.height < least.height)) {
         enlarging_ = true;
         SetWindowPos(handle(), nullptr, 0, 0, std::max(window.width, least.width),
                      std::max(window.height, least.height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -422,8 +452,10 @@ void MainWindow::layOut() {
     const WindowLayout layout = layOutWindow(clientSize(handle()), parts());
     place(caption_->left(), layout.leftCaption);
     place(caption_->right(), layout.rightCaption);
+    const bool hidden = settings_.boolean(BooleanSetting::HideButtons);
     for (std::size_t index = 0; index < panels_.size(); ++index) {
         place(*panels_[index], layout.panels[index]);
+        hidden ? panels_[index]->hide() : panels_[index]->show();
     }
     workArea_->moveTo(layout.workArea);
 }
@@ -441,11 +473,14 @@ void MainWindow::openMenuAtCaption() {
 }
 
 std::optional<MessageAnswer> MainWindow::hearSystemKey(const Message& message) {
-    const bool opensMenu = message.wide == VK_MENU || (message.wide == VK_F10 && message.code == WM_SYSKEYDOWN);
-    if (!opensMenu) {
+    if (message.wide != VK_MENU && (message.wide != VK_F10 || message.code == WM_SYSKEYUP)) {
         return std::nullopt;
     }
-    openMenuAtCaption();
+    // A held key repeats itself, and with Shift or Control the key belongs to the keyboard's layout.
+    const bool repeated = message.code == WM_SYSKEYDOWN && (HIWORD(message.extra) & KF_REPEAT) != 0;
+    if (!repeated && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0) {
+        openMenuAtCaption();
+    }
     return 0;
 }
 
@@ -458,10 +493,10 @@ std::optional<MessageAnswer> MainWindow::hearSystemCommand(const Message& messag
 
 std::optional<MessageAnswer> MainWindow::hearCommand(const Message& message) {
     const HWND control = reinterpret_cast<HWND>(message.extra);
-    const WORD notification = HIWORD(message.wide);
+    const auto notice = static_cast<ButtonNotice>(HIWORD(message.wide));
     if (control == nullptr) {
         runCommand(LOWORD(message.wide));
-    } else if (notification == pressedNotification || notification == clickedNotification) {
+    } else if (notice == ButtonNotice::Pressed || notice == ButtonNotice::Clicked) {
         if (const Component* const button = Component::of(control)) {
             hearButton(*button);
         }
@@ -480,12 +515,12 @@ void MainWindow::runCommand(std::uint16_t identifier) {
 
 void MainWindow::togglePanel(std::uint16_t identifier) {
     const bool open = !menu_.isChecked(identifier);
-    menu_.setChecked(identifier, open);
     if (open) {
         openPanel(identifier);
     } else {
         std::erase_if(panels_, [&](const auto& panel) { return panel->command() == identifier; });
     }
+    menu_.setChecked(identifier, open);
     layOutAndRefresh();
 }
 

@@ -7,7 +7,6 @@
 #include "shell/registry_storage.h"
 #include "shell/settings.h"
 #include "shell/single_instance.h"
-#include "values/errors.h"
 #include "widgets/windows_api.h"
 
 namespace {
@@ -42,7 +41,8 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     SetProcessDPIAware();
     try {
         return runProgram(showCommand);
-    } catch (const calquo::Except&) {
+    } catch (...) {
+        // Whatever it was, there is no window in which to say so.
         return noWindow;
     }
 }

@@ -31,7 +31,8 @@ int runMessageLoop(const std::function<void()>& report) {
 }
 
 void reportSpecialCase() {
-    MessageBoxW(nullptr, L"A special case could not be handled.", L"Special case", MB_OK | MB_ICONEXCLAMATION);
+    MessageBoxW(GetActiveWindow(), L"A special case could not be handled.", L"Special case",
+                MB_OK | MB_ICONEXCLAMATION);
 }
 
 }  // namespace calquo

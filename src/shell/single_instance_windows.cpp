@@ -7,8 +7,9 @@
 namespace calquo {
 
 RunningMark::RunningMark() {
+    const std::wstring title = wideProgramTitle();
     SetLastError(ERROR_SUCCESS);
-    mutex_ = CreateMutexW(nullptr, TRUE, wideProgramTitle().c_str());
+    mutex_ = CreateMutexW(nullptr, TRUE, title.c_str());
     // Any error at all, such as a mutex of another user, counts as another instance.
     first_ = GetLastError() == ERROR_SUCCESS;
 }
@@ -29,7 +30,7 @@ bool bringRunningProgramForward() {
         return false;
     }
     if (IsIconic(window) != 0) {
-        ShowWindow(window, SW_RESTORE);
+        ShowWindowAsync(window, SW_RESTORE);  // does not wait for a program that hangs
     }
     SetForegroundWindow(window);
     return true;

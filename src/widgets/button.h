@@ -38,12 +38,12 @@ private:
     static const WidgetClass& widgetClass();
 
     std::optional<MessageAnswer> hear(const Message& message);
-    MessageAnswer press(const Message& message);
-    MessageAnswer repeat(const Message& message);
-    MessageAnswer release(const Message& message);
-    MessageAnswer loseCapture(const Message& message);
-    MessageAnswer paint(const Message& message);
-    MessageAnswer keepBackground(const Message& message);
+    std::optional<MessageAnswer> press(const Message& message);
+    std::optional<MessageAnswer> repeat(const Message& message);
+    std::optional<MessageAnswer> release(const Message& message);
+    std::optional<MessageAnswer> loseCapture(const Message& message);
+    std::optional<MessageAnswer> paint(const Message& message);
+    std::optional<MessageAnswer> keepBackground(const Message& message);
 
     void redraw();
     void notify(ButtonNotice notice);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "widgets/paint_buffer.h"
+#include "widgets/painting.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -18,41 +19,6 @@ constexpr UINT_PTR repeatTimer = 1;
 std::string storedText(const ButtonDescription& description) {
     return std::string(description.label) + '|' + std::string(description.description);
 }
-
-Size clientSize(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.right, client.bottom};
-}
-
-/// The painting of a window's invalid part, which is valid afterwards, whatever happens.
-class Painting {
-public:
-    explicit Painting(HWND window) : window_(window), context_(BeginPaint(window, &painting_)) {}
-    ~Painting() { EndPaint(window_, &painting_); }
-    Painting(const Painting&) = delete;
-    Painting& operator=(const Painting&) = delete;
-
-    HDC context() const { return context_; }
-
-private:
-    HWND window_;
-    PAINTSTRUCT painting_{};
-    HDC context_;
-};
-
-/// Selects an object into a context while it lives.
-class Selection {
-public:
-    Selection(HDC context, HGDIOBJ object) : context_(context), previous_(SelectObject(context, object)) {}
-    ~Selection() { SelectObject(context_, previous_); }
-    Selection(const Selection&) = delete;
-    Selection& operator=(const Selection&) = delete;
-
-private:
-    HDC context_;
-    HGDIOBJ previous_;
-};
 
 /// Paints the rectangles with the null pen; some systems leave out the last column and row of each with it.
 void paintLayers(HDC context, const std::vector<RoundedRectangle>& layers) {
@@ -107,7 +73,7 @@ void paintSymbol(PaintBuffer& buffer, Symbol symbol, Size area, Color color) {
 /// Which member hears which message.
 struct Button::MessageRow {
     UINT code;
-    MessageAnswer (Button::*hear)(const Message&);
+    std::optional<MessageAnswer> (Button::*hear)(const Message&);
 };
 
 const Button::MessageRow Button::messageRows[] = {
@@ -146,10 +112,10 @@ void Button::setLook(const ButtonDescription& description) {
 std::optional<MessageAnswer> Button::hear(const Message& message) {
     const auto* const row = std::find_if(std::begin(messageRows), std::end(messageRows),
                                          [&](const MessageRow& candidate) { return candidate.code == message.code; });
-    return row == std::end(messageRows) ? std::nullopt : std::optional((this->*row->hear)(message));
+    return row == std::end(messageRows) ? std::nullopt : (this->*row->hear)(message);
 }
 
-MessageAnswer Button::press(const Message&) {
+std::optional<MessageAnswer> Button::press(const Message&) {
     SetCapture(handle());
     const ButtonNotice notice = press_.press();
     redraw();
@@ -162,7 +128,13 @@ MessageAnswer Button::press(const Message&) {
     return 0;
 }
 
-MessageAnswer Button::repeat(const Message&) {
+std::optional<MessageAnswer> Button::repeat(const Message& message) {
+    if (message.wide != repeatTimer) {
+        return std::nullopt;
+    }
+    if (GetCapture() != handle()) {
+        return loseCapture(message);
+    }
     const ButtonNotice notice = press_.repeat();
     if (notice == ButtonNotice::None) {
         return 0;  // a tick that was already on its way when the timer stopped
@@ -174,7 +146,7 @@ MessageAnswer Button::repeat(const Message&) {
     return 0;
 }
 
-MessageAnswer Button::release(const Message& message) {
+std::optional<MessageAnswer> Button::release(const Message& message) {
     const POINT place{static_cast<short>(LOWORD(message.extra)), static_cast<short>(HIWORD(message.extra))};
     const Size size = clientSize(handle());
     const bool inside = place.x >= 0 && place.y >= 0 && place.x < size.width && place.y < size.height;
@@ -189,7 +161,7 @@ MessageAnswer Button::release(const Message& message) {
     return 0;
 }
 
-MessageAnswer Button::loseCapture(const Message&) {
+std::optional<MessageAnswer> Button::loseCapture(const Message&) {
     if (press_.isPressed()) {
         press_.cancel();
         KillTimer(handle(), repeatTimer);
@@ -208,12 +180,12 @@ void Button::notify(ButtonNotice notice) {
     }
 }
 
-MessageAnswer Button::keepBackground(const Message&) {
+std::optional<MessageAnswer> Button::keepBackground(const Message&) {
     // Painting covers everything.
     return 1;
 }
 
-MessageAnswer Button::paint(const Message&) {
+std::optional<MessageAnswer> Button::paint(const Message&) {
     const Painting painting(handle());
     const Size size = clientSize(handle());
     PaintBuffer buffer(size);

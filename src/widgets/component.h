@@ -55,6 +55,7 @@ public:
 
     /// Moves the window to `place`, in pixels of the parent's client area.
     void moveTo(const Rectangle& place);
+    const Rectangle& place() const { return place_; }
     void show();
     void hide();
     void giveFocus();

@@ -64,4 +64,7 @@ using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
 using MenuOwner = HandleOwner<MenuHandle, destroyMenu>;
 using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
 
+/// A library of the system's own, never one of that name that lies beside the program; none when it cannot be loaded.
+LibraryOwner loadSystemLibrary(const wchar_t* name);
+
 }  // namespace calquo

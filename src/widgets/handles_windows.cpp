@@ -17,4 +17,8 @@ void destroyWindow(WindowHandle window) { DestroyWindow(window); }
 
 void freeLibrary(ModuleHandle library) { FreeLibrary(library); }
 
+LibraryOwner loadSystemLibrary(const wchar_t* name) {
+    return LibraryOwner(LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
+}
+
 }  // namespace calquo

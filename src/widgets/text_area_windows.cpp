@@ -110,7 +110,7 @@ const TextArea::MessageRow TextArea::messageRows[] = {
 };
 
 const Component::WidgetClass& TextArea::widgetClass() {
-    static const LibraryOwner library(LoadLibraryW(controlLibrary));
+    static const LibraryOwner library(loadSystemLibrary(controlLibrary));
     static const WidgetClass registered = registerClass(unicodeClass, controlClass);
     return registered;
 }
@@ -137,6 +137,11 @@ std::optional<MessageAnswer> TextArea::hear(const Message& message) {
 }
 
 std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
+    // The keys of the menu are the top-level window's, although the control would keep them.
+    const bool menuKey = message.wide == VK_MENU || message.wide == VK_F10;
+    if (menuKey && message.code == WM_SYSKEYDOWN) {
+        return SendMessageW(GetAncestor(handle(), GA_ROOT), message.code, message.wide, message.extra);
+    }
     const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
     if (keys_ && keys_({static_cast<std::uint32_t>(message.wide), modified})) {
         return 0;
@@ -174,6 +179,9 @@ void TextArea::typeInNormalStyle() {
 }
 
 void TextArea::moveTo(const Rectangle& place) {
+    if (place == this->place()) {
+        return;  // the control breaks its lines anew for every rectangle
+    }
     Component::moveTo(place);
     const int space = scaledToScreen(margin, dotsPerInch());
     RECT inside{space, space, place.width - space, place.height - space};

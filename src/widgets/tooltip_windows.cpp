@@ -11,7 +11,7 @@ using InitializeControls = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
 
 /// Loads the control's library, which costs the program's start nothing this way.
 bool prepareControl() {
-    static const LibraryOwner library(LoadLibraryW(L"comctl32.dll"));
+    static const LibraryOwner library(loadSystemLibrary(L"comctl32.dll"));
     if (!library) {
         return false;
     }
@@ -36,7 +36,8 @@ WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const
         CW_USEDEFAULT, CW_USEDEFAULT, widget, nullptr, GetModuleHandleW(nullptr), nullptr));
     std::wstring tip = wideText(description);
     TTTOOLINFOW tool{};
-    tool.cbSize = sizeof tool;
+    // Without the last member, which version 5 of the controls does not know.
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = widget;
     tool.uId = reinterpret_cast<UINT_PTR>(widget);

@@ -36,7 +36,7 @@ public:
     static const std::uint32_t resultReplaceQuery;
 
     /// An empty work area, whose results are written under what `format` gives at that time. The F1 key sends
-    /// `helpCommand` to `parent`, and the Alt and F10 keys go to it as they are.
+    /// `helpCommand` to `parent`.
     WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format);
 
     CurrentLine currentLine() const;
@@ -67,7 +67,6 @@ private:
     void evaluate();
     void evaluateIntoSelection();
     void askForHelp();
-    void openMenu();
 
     void apply(const Paragraph& line, const LineEdit& edit);
 

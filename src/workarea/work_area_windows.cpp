@@ -67,9 +67,6 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
     {VK_RETURN, Modifiers::Held, &WorkArea::insertLineEnd},
     {VK_F1, Modifiers::Any, &WorkArea::askForHelp},
     {VK_F9, Modifiers::Released, &WorkArea::evaluateIntoSelection},
-    // The control keeps these to itself, although they are the window's.
-    {VK_MENU, Modifiers::Any, &WorkArea::openMenu},
-    {VK_F10, Modifiers::Released, &WorkArea::openMenu},
 };
 
 WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format)
@@ -115,8 +112,6 @@ void WorkArea::evaluateIntoSelection() {
 }
 
 void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0); }
-
-void WorkArea::openMenu() { SendMessageW(parent(), WM_SYSKEYDOWN, VK_MENU, 0); }
 
 CurrentLine WorkArea::currentLine() const {
     const TextRange selected = selection();

@@ -2,7 +2,9 @@
 #include "desk.h"
 
 #include <algorithm>
-#include <array>
+
+#include "held_key.h"
+#include "widgets/kept_exception.h"
 
 namespace calquo {
 namespace {
@@ -16,26 +18,6 @@ LRESULT CALLBACK receive(HWND window, UINT code, WPARAM first, LPARAM second) {
     }
     return DefWindowProcW(window, code, first, second);
 }
-
-/// Tells the system that a key is held, while it lives.
-class HeldKey {
-public:
-    explicit HeldKey(int key) : key_(key) { hold(0x80); }
-    ~HeldKey() { hold(0); }
-
-private:
-    void hold(BYTE state) const {
-        if (key_ == 0) {
-            return;
-        }
-        std::array<BYTE, 256> keys{};
-        GetKeyboardState(keys.data());
-        keys[static_cast<std::size_t>(key_)] = state;
-        SetKeyboardState(keys.data());
-    }
-
-    int key_;
-};
 
 /// 'n' for the normal style, 'r' for the result style, '?' for any other.
 char styleOfSelection(HWND control) {
@@ -95,6 +77,7 @@ void Desk::press(int key, int modifier) {
         SendMessageW(control(), alt ? WM_SYSCHAR : WM_CHAR, character, 1);
     }
     SendMessageW(control(), alt ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(key), 1);
+    rethrowKeptException();
 }
 
 void Desk::select(std::size_t begin, std::size_t end) {

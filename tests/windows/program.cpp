@@ -3,7 +3,9 @@
 
 #include <algorithm>
 
+#include "held_key.h"
 #include "widgets/dialog_window.h"
+#include "widgets/kept_exception.h"
 
 namespace calquo {
 namespace {
@@ -13,6 +15,14 @@ BOOL CALLBACK noteButton(HWND window, LPARAM list) {
         reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     }
     return TRUE;
+}
+
+LRESULT CALLBACK closeMenu(int code, WPARAM wide, LPARAM extra) {
+    if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(extra)->message == WM_INITMENUPOPUP) {
+        ++Program::menusOpened;
+        EndMenu();
+    }
+    return CallNextHookEx(nullptr, code, wide, extra);
 }
 
 }  // namespace
@@ -79,6 +89,16 @@ void Program::click(HWND window) {
     serveMessages();
 }
 
+void Program::press(HWND window, UINT message, WPARAM key, LPARAM details, int held) {
+    const HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, closeMenu, nullptr, GetCurrentThreadId());
+    {
+        const HeldKey holding(held);
+        SendMessageW(window, message, key, details);
+    }
+    UnhookWindowsHookEx(hook);
+    serveMessages();
+}
+
 RECT Program::placeOf(HWND child) const {
     RECT place{};
     GetWindowRect(child, &place);
@@ -99,7 +119,9 @@ void Program::serveMessages() {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
+        rethrowKeptException();
     }
+    rethrowKeptException();  // of what was sent before
 }
 
 void Program::close() {

@@ -37,6 +37,10 @@ public:
     /// Presses and releases the left mouse button in the middle of a window.
     static void click(HWND window);
 
+    /// Sends a key's message to a window with `held` (or no key, 0) held. Menus that open are counted and closed.
+    void press(HWND window, UINT message, WPARAM key, LPARAM details, int held = 0);
+    static inline int menusOpened = 0;
+
     /// The place of a child in the client area.
     RECT placeOf(HWND child) const;
     RECT client() const;
