@@ -139,7 +139,7 @@ Options parseOptions(std::span<const char* const> arguments) {
 
 std::string helpText() {
     constexpr std::size_t textColumn = 22;
-    std::string text = "Usage: calq [OPTION...] [LINE...]\n       calq --check [OPTION...] [FILE...]\n\n";
+    std::string text = "Usage: calq [OPTION...] [LINE...]\n  or:  calq --check [OPTION...] [FILE...]\n\n";
     text += programName;
     text +=
         " evaluates each LINE, or without one each line of standard input, and writes one\n"
