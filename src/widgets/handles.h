@@ -4,12 +4,14 @@
 
 #include <utility>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the system's own names.
 struct HBITMAP__;
 struct HDC__;
 struct HFONT__;
 struct HINSTANCE__;
 struct HMENU__;
 struct HWND__;
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace calquo {
 
