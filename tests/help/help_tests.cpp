@@ -170,14 +170,21 @@ TEST(Help, EveryNameHasOneEntryAndALinkToItInTheListOfNames) {
         std::string anchor = "name-";
         std::transform(name.begin(), name.end(), std::back_inserter(anchor),
                        [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
-        const std::string arguments = argumentsOf(index).empty() ? "" : "(" + std::string(argumentsOf(index)) + ")";
-        const std::string entry = "id=\"" + anchor + "\"><code>" + name + arguments + "</code>";
+        std::ostringstream call;
+        call << name;
+        if (!argumentsOf(index).empty()) {
+            call << '(' << argumentsOf(index) << ')';
+        }
+        std::ostringstream code;
+        code << "id=\"" << anchor << "\"><code>" << call.str() << "</code>";
+        const std::string entry = code.str();
         std::size_t entries = 0;
         for (const auto& [page, html] : pages()) {
             if (html.find(entry) != std::string::npos) {
                 ++entries;
-                const std::string link = "<a href=\"" + page + ".html#" + anchor + "\"><code>" + name + "</code></a>";
-                EXPECT_NE(list.find(link), std::string::npos) << link;
+                std::ostringstream link;
+                link << "<a href=\"" << page << ".html#" << anchor << "\"><code>" << name << "</code></a>";
+                EXPECT_NE(list.find(link.str()), std::string::npos) << link.str();
             }
         }
         EXPECT_EQ(entries, 1u) << entry;
