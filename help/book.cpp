@@ -182,9 +182,9 @@ std::string Book::projectText() const {
         "[OPTIONS]\nCompatibility=1.1 or later\nCompiled file=Calquo2.chm\nContents file=Calquo2.hhc\n"
         "Index file=Calquo2.hhk\nDefault Window=main\nDefault topic=" +
         start + "\nTitle=" + title + "\nFull-text search=Yes\nLanguage=0x409 English (United States)\n\n";
-    // Contents, index and search beside the page (240 of 1040 pixels), following it, and the usual buttons above.
+    // Contents, index, search and favourites in 290 pixels beside the page, and the usual buttons above.
     text += "[WINDOWS]\nmain=\"" + title + "\",\"Calquo2.hhc\",\"Calquo2.hhk\",\"" + start + "\",\"" + start +
-            "\",,,,,0x63520,240,0x10384e,[80,60,1120,780],,,,,,,0\n\n[FILES]\n";
+            "\",,,,,0x63520,290,0x10384e,[80,60,1120,780],,,,,,,0\n\n[FILES]\n";
     for (const Chapter& chapter : chapters_) {
         text += fileOf(chapter.page) + "\n";
     }
