@@ -138,6 +138,7 @@ work_in_prefix_copy() {
 
 # Ends whatever still runs in the copy of the prefix and removes it.
 leave_prefix_copy() {
+    [ -n "$prefix_copy" ] || return 0
     with_wine "$1" wineserver -k || true
     with_wine "$1" timeout 30 wineserver -w || true
     rm -rf "$(wine_prefix "$1")"
