@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 
+#include "dialog_keys.h"
 #include "program.h"
 #include "resources.h"
 #include "values/program.h"
@@ -42,11 +43,6 @@ HWND childNamed(const std::string& text) {
     return nullptr;
 }
 
-void press(WPARAM key) {
-    PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
-    Program::serveMessages();
-}
-
 TEST(About, NamesTheProgramItsVersionAndItsSite) {
     Program program;
     program.command(showAbout);
@@ -57,7 +53,7 @@ TEST(About, NamesTheProgramItsVersionAndItsSite) {
         const HWND child = childNamed(text);
         EXPECT_TRUE(child != nullptr && IsWindowVisible(child)) << text;
     }
-    EXPECT_EQ(GetFocus(), childNamed("Close"));
+    EXPECT_EQ(settledFocus(), childNamed("Close"));
     RECT area{};
     GetWindowRect(about(), &area);
     for (const HWND child : children()) {
@@ -104,13 +100,14 @@ TEST(About, IsOneWindowThatClosesInEveryWay) {
         program.command(showAbout);
         const HWND first = about();
         SetActiveWindow(program.handle());
-        EXPECT_EQ(GetFocus(), childNamed("Close")) << "the focus does not come back";
+        EXPECT_EQ(settledFocus(), childNamed("Close")) << "the focus does not come back";
         program.command(showAbout);
+        settle();
         EXPECT_EQ(about(), first);
         EXPECT_EQ(FindWindowExW(nullptr, first, nullptr, L"About Calquo 2"), nullptr);
         close();
         EXPECT_EQ(about(), nullptr);
-        EXPECT_EQ(GetFocus(), program.workArea());
+        EXPECT_EQ(settledFocus(), program.workArea());
     }
 }
 
@@ -118,6 +115,7 @@ TEST(About, LeavesNothingBehind) {
     Program program;
     const auto use = [&] {
         program.command(showAbout);
+        settle();
         RedrawWindow(about(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         press(VK_ESCAPE);
     };
