@@ -11,9 +11,11 @@
 #include "panels/button_panel.h"
 #include "shell/about.h"
 #include "shell/caption_strip.h"
+#include "shell/file_commands.h"
 #include "shell/help.h"
 #include "shell/main_menu.h"
 #include "shell/settings.h"
+#include "shell/user_dialogs.h"
 #include "shell/window_layout.h"
 #include "widgets/component.h"
 #include "workarea/work_area.h"
@@ -23,8 +25,9 @@ namespace calquo {
 class MainWindow {
 public:
     /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
-    /// there; `settings` must outlive the window. Raises InternalFault when the system refuses.
-    explicit MainWindow(Settings& settings);
+    /// there; `settings` must outlive the window. The user is asked by `dialogs`. Raises InternalFault when the system
+    /// refuses.
+    explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs());
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow();
@@ -47,6 +50,7 @@ private:
 
     std::optional<MessageAnswer> hearCreation(const Message& message);
     std::optional<MessageAnswer> hearDestruction(const Message& message);
+    std::optional<MessageAnswer> hearQuestionForEnd(const Message& message);
     std::optional<MessageAnswer> hearEndOfSession(const Message& message);
     std::optional<MessageAnswer> forgetWindow(const Message& message);
     std::optional<MessageAnswer> hearActivation(const Message& message);
@@ -62,11 +66,15 @@ private:
     std::optional<MessageAnswer> hearSystemCommand(const Message& message);
     std::optional<MessageAnswer> hearCommand(const Message& message);
 
+    bool saveBeforeEnd();
     void shutDown();
 
     void runCommand(std::uint16_t identifier);
     void togglePanel(std::uint16_t identifier);
     void clearWorkArea(std::uint16_t identifier);
+    void readDefaultFile(std::uint16_t identifier);
+    void saveDefaultFile(std::uint16_t identifier);
+    void chooseFile(std::uint16_t identifier);
     void toggleOption(std::uint16_t identifier);
     void toggleHiddenButtons(std::uint16_t identifier);
     void toggleAngle(std::uint16_t identifier);
@@ -98,6 +106,7 @@ private:
     void layOutAndRefresh();
 
     Settings& settings_;
+    UserDialogs dialogs_;
     WindowOwner window_;
     MainMenu menu_;
     Help help_;
@@ -105,9 +114,11 @@ private:
     About about_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
+    std::unique_ptr<FileCommands> files_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.
     WindowHandle lastFocus_ = nullptr;
     bool created_ = false;
+    bool savedBeforeEnd_ = false;  ///< Or left unsaved, as the user wants it.
     bool enlarging_ = false;
 };
 

@@ -171,6 +171,7 @@ struct MainWindow::MessageRow {
 const MainWindow::MessageRow MainWindow::messageRows[] = {
     {WM_CREATE, &MainWindow::hearCreation},
     {WM_DESTROY, &MainWindow::hearDestruction},
+    {WM_QUERYENDSESSION, &MainWindow::hearQuestionForEnd},
     {WM_ENDSESSION, &MainWindow::hearEndOfSession},
     {WM_NCDESTROY, &MainWindow::forgetWindow},
     {WM_ACTIVATE, &MainWindow::hearActivation},
@@ -202,6 +203,11 @@ struct MainWindow::CommandRow {
 const MainWindow::CommandRow MainWindow::commandRows[] = {
     {panelCommands, &MainWindow::togglePanel},
     {Command::ClearWorkArea, &MainWindow::clearWorkArea},
+    {Command::ReadDefaultFile, &MainWindow::readDefaultFile},
+    {Command::SaveDefaultFile, &MainWindow::saveDefaultFile},
+    {Command::SelectDefaultFile, &MainWindow::chooseFile},
+    {Command::ReadFromFile, &MainWindow::chooseFile},
+    {Command::SaveAsFile, &MainWindow::chooseFile},
     {Command::ReadDefaultAtStartup, &MainWindow::toggleOption},
     {Command::SaveDefaultAtExit, &MainWindow::toggleOption},
     {selectFormatCommands, &MainWindow::selectFormat},
@@ -228,7 +234,8 @@ const MainWindow::CaptionRow MainWindow::captionRows[] = {
     {'C', &MainWindow::closeByButton},
 };
 
-MainWindow::MainWindow(Settings& settings) : settings_(settings) {
+MainWindow::MainWindow(Settings& settings, UserDialogs dialogs)
+    : settings_(settings), dialogs_(std::move(dialogs)) {
     const std::wstring title = wideProgramTitle();
     Procedure::registerClass(title);
     constexpr int systemsChoice = CW_USEDEFAULT;
@@ -271,12 +278,17 @@ std::optional<MessageAnswer> MainWindow::hearCreation(const Message&) {
         std::make_unique<WorkArea>(handle(), identifierOf(Command::WorkArea), identifierOf(Command::HelpContents),
                                    [this] { return settings_.format(settings_.selectedFormat()); });
     workArea_->giveFocus();
+    files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
     menu_.showMarks([this](std::uint16_t identifier) { return isMarked(identifier, settings_); });
     for (const std::uint16_t identifier : settings_.selectedPanels()) {
         openPanel(identifier);
     }
     moveWhereItCanBeReached();
     layOut();
+    if (isChecked(identifierOf(Command::ReadDefaultAtStartup))) {
+        // Behind the layout: the text is broken into lines once, at the width that it will have.
+        files_->readDefaultAtStartup();
+    }
     seedRandomFromClock();
     created_ = true;
     return 0;
@@ -289,18 +301,29 @@ std::optional<MessageAnswer> MainWindow::hearDestruction(const Message&) {
     return 0;
 }
 
+std::optional<MessageAnswer> MainWindow::hearQuestionForEnd(const Message&) { return saveBeforeEnd() ? 1 : 0; }
+
 std::optional<MessageAnswer> MainWindow::hearEndOfSession(const Message& message) {
     // The system ends the program after this, without another message.
     if (message.wide != 0) {
         shutDown();
         settings_.saveAll();
     }
+    savedBeforeEnd_ = false;
     return 0;
+}
+
+bool MainWindow::saveBeforeEnd() {
+    savedBeforeEnd_ = !isChecked(identifierOf(Command::SaveDefaultAtExit)) || files_->saveDefaultAtExit();
+    return savedBeforeEnd_;
 }
 
 void MainWindow::shutDown() {
     if (!created_) {
         return;  // what is stored is worth more than the half of a window
+    }
+    if (!savedBeforeEnd_) {
+        saveBeforeEnd();  // nobody has asked before
     }
     std::vector<std::uint16_t> identifiers(panels_.size());
     std::transform(panels_.begin(), panels_.end(), identifiers.begin(),
@@ -315,7 +338,9 @@ std::optional<MessageAnswer> MainWindow::forgetWindow(const Message&) {
 }
 
 std::optional<MessageAnswer> MainWindow::close(const Message&) {
-    destroyWindow(handle());
+    if (saveBeforeEnd()) {
+        destroyWindow(handle());
+    }
     return 0;
 }
 
@@ -531,6 +556,12 @@ void MainWindow::openPanel(std::uint16_t identifier) {
 }
 
 void MainWindow::clearWorkArea(std::uint16_t) { workArea_->clear(); }
+
+void MainWindow::readDefaultFile(std::uint16_t) { files_->readDefault(); }
+
+void MainWindow::saveDefaultFile(std::uint16_t) { files_->saveDefault(); }
+
+void MainWindow::chooseFile(std::uint16_t identifier) { files_->actOnChosenFile(static_cast<Command>(identifier)); }
 
 void MainWindow::toggleOption(std::uint16_t identifier) {
     const bool on = !menu_.isChecked(identifier);

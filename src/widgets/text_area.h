@@ -77,6 +77,21 @@ public:
     /// Puts a line end in place of the selection, as one step for undo.
     void insertLineEnd();
 
+    /// The whole text as rich text in UTF-8, in the control's own words; raises bad_alloc when memory runs out.
+    std::string contentAsRichText() const;
+    /// The whole text in UTF-16, line ends as "\r\n"; raises bad_alloc when memory runs out.
+    std::wstring contentAsPlainText() const;
+
+    /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret behind it.
+    /// What it says nothing of looks normal. False, with the text as it was, when the control does not take it. Undo
+    /// brings the old text back.
+    bool replaceContentByRichText(std::string_view text);
+    /// The same for plain text, which looks normal; line ends are "\r".
+    bool replaceContentByPlainText(std::wstring_view text);
+
+    /// Leaves nothing to undo or redo.
+    void forgetSteps();
+
 private:
     struct MessageRow;
     static const MessageRow messageRows[];
@@ -94,6 +109,10 @@ private:
     void typeInNormalStyle();
     std::string richText(const std::vector<StyledRun>& runs) const;
     void replaceSelection(const std::vector<StyledRun>& runs);
+
+    std::string streamOut(std::uint32_t format) const;
+    bool replaceContent(std::string_view bytes, std::uint32_t format);
+    bool startInNormalStyle();
 
     CharacterStyle normal_;
     KeyListener keys_;

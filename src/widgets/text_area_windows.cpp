@@ -5,6 +5,7 @@
 #include <cstring>
 #include <cwchar>
 #include <limits>
+#include <new>
 
 #include "widgets/fonts.h"
 #include "widgets/windows_api.h"
@@ -16,6 +17,7 @@ constexpr wchar_t controlLibrary[] = L"Riched20.dll";
 constexpr wchar_t controlClass[] = L"RichEdit20A";
 constexpr wchar_t unicodeClass[] = L"RichEdit20W";
 constexpr DWORD controlStyle = WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
+constexpr UINT unicodeCodePage = 1200;
 constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
 
 /// The fonts to choose from: the first that is installed is taken. All have digits of equal width, so that results
@@ -60,6 +62,16 @@ CHARFORMAT2W formatOf(CharacterStyle style) {
     return format;
 }
 
+/// The style with its font, and without anything that a style does not say.
+CHARFORMAT2W wholeFormatOf(CharacterStyle style, const std::wstring& fontName) {
+    CHARFORMAT2W format = formatOf(style);
+    format.dwMask |= CFM_EFFECTS | CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_OFFSET;
+    format.yHeight = fontPoints * twipsPerPoint;
+    format.bCharSet = DEFAULT_CHARSET;
+    std::wcsncpy(format.szFaceName, fontName.c_str(), LF_FACESIZE - 1);
+    return format;
+}
+
 /// The style that a character would be typed in.
 CharacterStyle styleAtCaret(HWND window) {
     CHARFORMAT2W format{};
@@ -76,6 +88,24 @@ DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) 
     text.remove_prefix(length);
     *count = static_cast<LONG>(length);
     return 0;
+}
+
+/// Takes a piece of the control's text to the end of `text`, a string's address.
+DWORD CALLBACK takePiece(DWORD_PTR text, LPBYTE piece, LONG length, LONG* count) {
+    try {
+        reinterpret_cast<std::string*>(text)->append(reinterpret_cast<const char*>(piece),
+                                                     static_cast<std::size_t>(length));
+    } catch (const std::bad_alloc&) {
+        return ERROR_NOT_ENOUGH_MEMORY;
+    }
+    *count = length;
+    return 0;
+}
+
+/// The number of UTF-16 units in the text; a line end counts as one.
+std::int32_t lengthOf(HWND window) {
+    GETTEXTLENGTHEX wanted{GTL_NUMCHARS | GTL_PRECISE, unicodeCodePage};
+    return static_cast<std::int32_t>(SendMessageW(window, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&wanted), 0));
 }
 
 /// While it lives, the window does not paint what happens to it.
@@ -159,11 +189,7 @@ std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
 }
 
 void TextArea::chooseLook() {
-    CHARFORMAT2W format = formatOf(normal_);
-    format.dwMask |= CFM_FACE | CFM_SIZE | CFM_CHARSET;
-    format.yHeight = fontPoints * twipsPerPoint;
-    format.bCharSet = DEFAULT_CHARSET;
-    std::wcsncpy(format.szFaceName, fontName_.c_str(), LF_FACESIZE - 1);
+    const CHARFORMAT2W format = wholeFormatOf(normal_, fontName_);
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
     SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, paper);
 }
@@ -267,5 +293,77 @@ void TextArea::replaceSelection(const std::vector<StyledRun>& runs) {
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, readPiece};
     SendMessageW(handle(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
 }
+
+// --- The whole text -------------------------------------------------------------------------------------------------
+
+std::string TextArea::streamOut(std::uint32_t format) const {
+    std::string text;
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, takePiece};
+    SendMessageW(handle(), EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
+    if (stream.dwError != 0) {
+        throw std::bad_alloc();
+    }
+    return text;
+}
+
+std::string TextArea::contentAsRichText() const { return streamOut(SF_RTF | SF_USECODEPAGE | CP_UTF8 << 16); }
+
+std::wstring TextArea::contentAsPlainText() const {
+    const std::string bytes = streamOut(SF_TEXT | SF_UNICODE);
+    std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
+    std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
+    return text;
+}
+
+bool TextArea::replaceContentByRichText(std::string_view text) { return replaceContent(text, SF_RTF); }
+
+bool TextArea::replaceContentByPlainText(std::wstring_view text) {
+    const auto* const bytes = reinterpret_cast<const char*>(text.data());
+    return replaceContent({bytes, text.size() * sizeof(wchar_t)}, SF_TEXT | SF_UNICODE);
+}
+
+bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
+    const PaintingPause pause(handle());
+    const TextRange before = selection();
+    const bool wasEmpty = lengthOf(handle()) == 0;
+    // In place of a selection, the stream is one step for undo and takes its look from the first character.
+    const bool restyled = startInNormalStyle();
+    SendMessageW(handle(), EM_SETSEL, 0, -1);
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&bytes), 0, readPiece};
+    SendMessageW(handle(), EM_STREAMIN, format | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+    const std::int32_t length = lengthOf(handle());
+    if (stream.dwError == 0) {
+        select({length, length});
+        return true;
+    }
+    if (!wasEmpty || length != 0) {
+        SendMessageW(handle(), EM_UNDO, 0, 0);
+    }
+    if (restyled) {
+        SendMessageW(handle(), EM_UNDO, 0, 0);
+    }
+    select(before);
+    return false;
+}
+
+/// Makes the first character look normal, or the caret where there is none; true when that is a step for undo.
+bool TextArea::startInNormalStyle() {
+    const CHARFORMAT2W wanted = wholeFormatOf(normal_, fontName_);
+    const bool isEmpty = lengthOf(handle()) == 0;
+    select({0, isEmpty ? 0 : 1});
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    SendMessageW(handle(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    const bool isNormal = CharacterStyle{format.crTextColor, (format.dwEffects & CFE_BOLD) != 0} == normal_ &&
+                          (format.dwEffects & CFM_EFFECTS) == wanted.dwEffects && format.yHeight == wanted.yHeight &&
+                          std::wcscmp(format.szFaceName, wanted.szFaceName) == 0;
+    if (isNormal) {
+        return false;
+    }
+    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&wanted));
+    return !isEmpty;
+}
+
+void TextArea::forgetSteps() { SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0); }
 
 }  // namespace calquo

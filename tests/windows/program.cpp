@@ -27,9 +27,9 @@ LRESULT CALLBACK closeMenu(int code, WPARAM wide, LPARAM extra) {
 
 }  // namespace
 
-Program::Program(MemoryStorage stored) : storage_(std::move(stored)), settings_(storage_) {
+Program::Program(MemoryStorage stored, UserDialogs dialogs) : storage_(std::move(stored)), settings_(storage_) {
     settings_.loadAll();
-    window_.emplace(settings_);
+    window_.emplace(settings_, std::move(dialogs));
     serveMessages();
 }
 

@@ -14,8 +14,8 @@ namespace calquo {
 
 class Program {
 public:
-    /// A window on the settings that `stored` holds.
-    explicit Program(MemoryStorage stored = {});
+    /// A window on the settings that `stored` holds, whose user is asked by `dialogs`.
+    explicit Program(MemoryStorage stored = {}, UserDialogs dialogs = systemDialogs());
 
     MainWindow& window() { return *window_; }
     HWND handle() const { return window_->handle(); }

@@ -1,0 +1,118 @@
+// What the file commands do, and whom they ask.
+#include "shell/file_commands.h"
+
+#include "shell/file_messages.h"
+#include "widgets/windows_api.h"
+#include "workarea/disk_file.h"
+#include "workarea/file_fault.h"
+
+namespace calquo {
+namespace {
+
+/// Shows that the program is busy, while it lives.
+class WaitCursor {
+public:
+    WaitCursor() : before_(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
+    ~WaitCursor() { SetCursor(before_); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    HCURSOR before_;
+};
+
+}  // namespace
+
+FileCommands::FileCommands(WindowHandle owner, WorkArea& workArea, Settings& settings, const UserDialogs& dialogs)
+    : owner_(owner), workArea_(workArea), settings_(settings), dialogs_(dialogs), file_(workArea) {}
+
+std::wstring FileCommands::defaultFile() const { return fullFileName(settings_.text(TextSetting::DefaultFile)); }
+
+void FileCommands::readDefaultAtStartup() {
+    const std::wstring file = defaultFile();
+    defaultIsUnread_ = true;
+    try {
+        const WaitCursor busy;
+        file_.read(file);
+        defaultIsUnread_ = false;
+    } catch (const FileFault& fault) {
+        if (!isAbsence(fault.failure)) {
+            dialogs_.showBox(owner_, readFailedBox(file, fault));
+        }
+    }
+    workArea_.forgetSteps();
+}
+
+bool FileCommands::saveDefaultAtExit() {
+    const std::wstring file = defaultFile();
+    if (defaultIsUnread_ && fileExists(file)) {
+        const BoxAnswer answer = dialogs_.showBox(owner_, replaceUnreadFileBox(file));
+        if (answer != BoxAnswer::Yes) {
+            return answer == BoxAnswer::No;
+        }
+    }
+    for (;;) {
+        try {
+            const WaitCursor busy;
+            file_.write(file);
+            return true;
+        } catch (const FileFault& fault) {
+            if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
+                return false;
+            }
+        }
+    }
+}
+
+void FileCommands::readDefault() {
+    if (read(defaultFile())) {
+        defaultIsUnread_ = false;
+    }
+}
+
+void FileCommands::saveDefault() {
+    if (save(defaultFile())) {
+        defaultIsUnread_ = false;
+    }
+}
+
+void FileCommands::actOnChosenFile(Command command) {
+    const FileChoice choice =
+        dialogs_.chooseFile(owner_, fileRequestOf(command, settings_.text(TextSetting::DefaultFile)));
+    if (choice.errorCode != 0) {
+        dialogs_.showBox(owner_, dialogFailedBox(choice.errorCode));
+    } else if (choice.name.empty()) {
+        return;
+    } else if (command == Command::ReadFromFile) {
+        read(choice.name);
+    } else if (command == Command::SaveAsFile) {
+        save(choice.name);
+    } else {
+        settings_.setText(TextSetting::DefaultFile, choice.name);
+        defaultIsUnread_ = false;
+    }
+}
+
+bool FileCommands::read(const std::wstring& file) {
+    try {
+        const WaitCursor busy;
+        file_.read(file);
+        return true;
+    } catch (const FileFault& fault) {
+        dialogs_.showBox(owner_, readFailedBox(file, fault));
+        return false;
+    }
+}
+
+bool FileCommands::save(const std::wstring& file) {
+    try {
+        const WaitCursor busy;
+        file_.write(file);
+        return true;
+    } catch (const FileFault& fault) {
+        dialogs_.showBox(owner_, saveFailedBox(file, fault));
+        return false;
+    }
+}
+
+}  // namespace calquo

@@ -1,0 +1,69 @@
+// Titles and texts, each in one place.
+#include "shell/file_messages.h"
+
+#include <string_view>
+
+#include "values/program.h"
+
+namespace calquo {
+namespace {
+
+struct RequestRow {
+    Command command;
+    FileDialog dialog;
+    const wchar_t* title;
+};
+constexpr RequestRow requestRows[] = {
+    {Command::SelectDefaultFile, FileDialog::Save, L"Select the Default Work Area File"},
+    {Command::ReadFromFile, FileDialog::Open, L"Retrieving the Work Area Content"},
+    {Command::SaveAsFile, FileDialog::Save, L"Saving the Work Area Content"},
+};
+
+std::wstring caption() {
+    constexpr std::string_view name = programName;
+    return {name.begin(), name.end()};
+}
+
+BoxText failureBox(BoxKind kind, const std::wstring& whatFailed, const std::wstring& file, const FileFault& fault) {
+    return {kind, caption(), whatFailed + L"\n" + file + L"\n\n" + reasonOf(fault)};
+}
+
+constexpr wchar_t cannotRead[] = L"The work area cannot be read from the file";
+constexpr wchar_t cannotSave[] = L"The work area cannot be saved to the file";
+
+}  // namespace
+
+FileRequest fileRequestOf(Command command, const std::wstring& defaultFile) {
+    const RequestRow* row = requestRows;
+    while (row->command != command) {
+        ++row;
+    }
+    return {row->dialog, row->title, defaultFile};
+}
+
+BoxText dialogFailedBox(std::uint32_t errorCode) {
+    return {BoxKind::Failure, L"Error #" + std::to_wstring(errorCode), L"File selection error, no action taken."};
+}
+
+BoxText readFailedBox(const std::wstring& file, const FileFault& fault) {
+    return failureBox(BoxKind::Failure, cannotRead, file, fault);
+}
+
+BoxText saveFailedBox(const std::wstring& file, const FileFault& fault) {
+    return failureBox(BoxKind::Failure, cannotSave, file, fault);
+}
+
+BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
+    BoxText box = failureBox(BoxKind::RetryOrCancel, cannotSave, file, fault);
+    box.text += L"\n\nCancel keeps Calquo open, so that you can save the work area elsewhere.";
+    return box;
+}
+
+BoxText replaceUnreadFileBox(const std::wstring& file) {
+    return {BoxKind::YesNoOrCancel, caption(),
+            L"The work area is about to be saved to its default file\n" + file +
+                L"\n\nThat file could not be read when Calquo started. Is the work area to replace it?\n\n"
+                L"No ends Calquo without saving; Cancel keeps it open."};
+}
+
+}  // namespace calquo

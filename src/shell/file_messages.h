@@ -1,0 +1,31 @@
+// The words of the file commands: the titles of their dialogs, and what their message boxes say.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "shell/command_ids.h"
+#include "shell/user_dialogs.h"
+#include "workarea/file_fault.h"
+
+namespace calquo {
+
+/// The request of a command that lets the user choose a file; `defaultFile` stands in the dialog at first.
+FileRequest fileRequestOf(Command command, const std::wstring& defaultFile);
+
+/// The dialog itself failed, with one of the system's extended error codes.
+BoxText dialogFailedBox(std::uint32_t errorCode);
+
+BoxText readFailedBox(const std::wstring& file, const FileFault& fault);
+BoxText saveFailedBox(const std::wstring& file, const FileFault& fault);
+/// At the program's end: Cancel keeps it open.
+BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault);
+/// At the program's end, where the default file that is about to be replaced has not been read at the start.
+BoxText replaceUnreadFileBox(const std::wstring& file);
+
+/// Whether the failure says that there is no file.
+constexpr bool isAbsence(FileFailure failure) {
+    return failure == FileFailure::Missing || failure == FileFailure::FolderMissing;
+}
+
+}  // namespace calquo

@@ -1,0 +1,234 @@
+// Which encoding bytes are in, and the way from and to UTF-16.
+#include "workarea/plain_text.h"
+
+#include <algorithm>
+#include <array>
+
+#include "workarea/file_fault.h"
+#include "workarea/text_cost.h"
+#include "workarea/utf8.h"
+
+namespace calquo {
+namespace {
+
+constexpr char32_t replacement = 0xFFFD;
+constexpr std::size_t bytesInUnit = 2;
+
+struct MarkRow {
+    std::string_view mark;
+    TextEncoding encoding;
+};
+constexpr MarkRow markRows[] = {
+    {"\xEF\xBB\xBF", TextEncoding::Utf8WithMark},
+    {"\xFF\xFE", TextEncoding::Utf16LittleEndian},
+    {"\xFE\xFF", TextEncoding::Utf16BigEndian},
+};
+
+constexpr char16_t byteOrderMark = 0xFEFF;
+
+/// The characters 80 to 9F of Windows-1252; all others have their own number in Unicode.
+constexpr std::size_t firstOwn = 0x80;
+constexpr std::array<char16_t, 32> windows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+std::string_view markOf(TextEncoding encoding) {
+    const auto row = std::find_if(std::begin(markRows), std::end(markRows),
+                                  [&](const MarkRow& candidate) { return candidate.encoding == encoding; });
+    return row == std::end(markRows) ? std::string_view() : row->mark;
+}
+
+bool isUtf16(TextEncoding encoding) {
+    return encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
+}
+
+bool isUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto character = firstUtf8Character(bytes);
+        if (!character) {
+            return false;
+        }
+        bytes.remove_prefix(character->length);
+    }
+    return true;
+}
+
+TextEncoding encodingOf(std::string_view bytes) {
+    for (const MarkRow& row : markRows) {
+        if (!bytes.starts_with(row.mark)) {
+            continue;
+        }
+        const bool valid = isUtf16(row.encoding) ? bytes.size() % bytesInUnit == 0 : isUtf8(bytes);
+        return valid ? row.encoding : TextEncoding::Windows1252;
+    }
+    return isUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252;
+}
+
+std::u16string unitsOf(std::string_view bytes, TextEncoding encoding) {
+    std::u16string units;
+    units.reserve(isUtf16(encoding) ? bytes.size() / bytesInUnit : bytes.size());
+    if (isUtf16(encoding)) {
+        const std::size_t low = encoding == TextEncoding::Utf16LittleEndian ? 0 : 1;
+        for (std::size_t index = 0; index < bytes.size(); index += bytesInUnit) {
+            const auto lowByte = static_cast<unsigned char>(bytes[index + low]);
+            const auto highByte = static_cast<unsigned char>(bytes[index + 1 - low]);
+            units += static_cast<char16_t>(highByte << 8 | lowByte);
+        }
+    } else if (encoding == TextEncoding::Windows1252) {
+        for (const char byte : bytes) {
+            const auto code = static_cast<unsigned char>(byte);
+            const bool isOwn = code >= firstOwn && code < firstOwn + windows1252.size();
+            units += isOwn ? windows1252[code - firstOwn] : char16_t{code};
+        }
+    } else {
+        while (!bytes.empty()) {
+            const Utf8Character character = firstUtf8Character(bytes).value_or(Utf8Character{replacement, 1});
+            appendUtf16(units, character.code);
+            bytes.remove_prefix(character.length);
+        }
+    }
+    return units;
+}
+
+/// Calls `takeUnit` for each unit that ends no line and `takeLineEnd` for each line end.
+template <typename TakeUnit, typename TakeLineEnd>
+void forEachUnit(std::u16string_view units, TakeUnit takeUnit, TakeLineEnd takeLineEnd) {
+    for (std::size_t index = 0; index < units.size(); ++index) {
+        if (units[index] == u'\n') {
+            takeLineEnd(LineEnd::LineFeed);
+        } else if (units[index] != u'\r') {
+            takeUnit(units[index]);
+        } else if (index + 1 < units.size() && units[index + 1] == u'\n') {
+            ++index;
+            takeLineEnd(LineEnd::CarriageReturnLineFeed);
+        } else {
+            takeLineEnd(LineEnd::CarriageReturn);
+        }
+    }
+}
+
+std::u16string_view charactersOf(LineEnd lineEnd) {
+    switch (lineEnd) {
+        case LineEnd::LineFeed:
+            return u"\n";
+        case LineEnd::CarriageReturn:
+            return u"\r";
+        case LineEnd::CarriageReturnLineFeed:
+            break;
+    }
+    return u"\r\n";
+}
+
+std::u16string withLineEnds(std::u16string_view characters, LineEnd lineEnd) {
+    std::u16string units;
+    units.reserve(characters.size());
+    const std::u16string_view end = charactersOf(lineEnd);
+    forEachUnit(
+        characters, [&](char16_t unit) { units += unit; }, [&](LineEnd) { units += end; });
+    return units;
+}
+
+/// The line end of all lines; CR LF where they differ or there is none.
+LineEnd commonLineEnd(std::u16string_view units) {
+    std::array<bool, 3> seen{};
+    forEachUnit(
+        units, [](char16_t) {}, [&](LineEnd lineEnd) { seen[static_cast<std::size_t>(lineEnd)] = true; });
+    for (const LineEnd lineEnd : {LineEnd::LineFeed, LineEnd::CarriageReturn}) {
+        if (seen[static_cast<std::size_t>(lineEnd)] && std::count(seen.begin(), seen.end(), true) == 1) {
+            return lineEnd;
+        }
+    }
+    return LineEnd::CarriageReturnLineFeed;
+}
+
+void refuseTooMuchText(std::u16string_view units) {
+    TextCost cost;
+    forEachUnit(
+        units, [&](char16_t) { cost.addCharacter(); }, [&](LineEnd) { cost.endLine(); });
+    cost.endLine();
+    if (cost.isTooMuch()) {
+        throw FileFault{FileFailure::TooMuchText, {}};
+    }
+}
+
+/// The first character of `units`, which must not be empty, and how many units it takes; half of a surrogate pair
+/// becomes the replacement character.
+std::pair<char32_t, std::size_t> firstUtf16Character(std::u16string_view units) {
+    const auto isWithin = [](char16_t unit, char32_t first) { return unit >= first && unit < first + 0x400; };
+    const char16_t unit = units.front();
+    if (isWithin(unit, 0xD800) && units.size() > 1 && isWithin(units[1], 0xDC00)) {
+        return {0x10000 + ((unit & 0x3FFu) << 10 | (units[1] & 0x3FFu)), 2};
+    }
+    const bool isHalf = isWithin(unit, 0xD800) || isWithin(unit, 0xDC00);
+    return {isHalf ? replacement : unit, 1};
+}
+
+void appendAsUtf8(std::string& bytes, std::u16string_view units) {
+    while (!units.empty()) {
+        const auto [code, length] = firstUtf16Character(units);
+        appendUtf8(bytes, code);
+        units.remove_prefix(length);
+    }
+}
+
+void appendAsUtf16(std::string& bytes, std::u16string_view units, TextEncoding encoding) {
+    for (const char16_t unit : units) {
+        const char low = static_cast<char>(unit & 0xFF);
+        const char high = static_cast<char>(unit >> 8);
+        const bool isLowFirst = encoding == TextEncoding::Utf16LittleEndian;
+        bytes += isLowFirst ? low : high;
+        bytes += isLowFirst ? high : low;
+    }
+}
+
+/// The text in Windows-1252; false where a character is missing there, or the bytes would be read as another text.
+bool appendAsWindows1252(std::string& bytes, std::u16string_view units) {
+    for (const char16_t unit : units) {
+        const auto own = std::find(windows1252.begin(), windows1252.end(), unit);
+        if (own != windows1252.end()) {
+            bytes += static_cast<char>(firstOwn + static_cast<std::size_t>(own - windows1252.begin()));
+        } else if (unit < firstOwn || (unit >= firstOwn + windows1252.size() && unit <= 0xFF)) {
+            bytes += static_cast<char>(unit);
+        } else {
+            return false;
+        }
+    }
+    return unitsOf(bytes, encodingOf(bytes)) == units;
+}
+
+}  // namespace
+
+PlainText decodePlainText(std::string_view bytes) {
+    const TextEncoding encoding = encodingOf(bytes);
+    const std::u16string units = unitsOf(bytes.substr(markOf(encoding).size()), encoding);
+    if (units.find(u'\0') != std::u16string::npos) {
+        throw FileFault{FileFailure::NotText, {}};
+    }
+    refuseTooMuchText(units);
+    return {withLineEnds(units, LineEnd::CarriageReturn), {encoding, commonLineEnd(units)}};
+}
+
+std::string encodePlainText(std::u16string_view characters, TextForm form) {
+    const std::u16string units = withLineEnds(characters, form.lineEnd);
+    std::string bytes;
+    if (form.encoding == TextEncoding::Windows1252) {
+        if (appendAsWindows1252(bytes, units)) {
+            return bytes;
+        }
+        form.encoding = TextEncoding::Utf8;
+    }
+    if (form.encoding == TextEncoding::Utf8 && units.starts_with(byteOrderMark)) {
+        form.encoding = TextEncoding::Utf8WithMark;
+    }
+    bytes = markOf(form.encoding);
+    if (isUtf16(form.encoding)) {
+        appendAsUtf16(bytes, units, form.encoding);
+    } else {
+        appendAsUtf8(bytes, units);
+    }
+    return bytes;
+}
+
+}  // namespace calquo

@@ -1,0 +1,373 @@
+// The program's file commands, its start and its end, with a user who answers from a list.
+#include "shell/file_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "file_folder.h"
+#include "program.h"
+#include "shell/command_ids.h"
+#include "workarea/disk_file.h"
+
+namespace calquo {
+namespace {
+
+constexpr unsigned readDefault = 0x140, saveDefault = 0x141, readAtStartup = 0x142, saveAtExit = 0x143,
+                   selectDefault = 0x144, readFrom = 0x160, saveAs = 0x161;
+
+/// The user: gives the answers in their order, then cancels, and notes what was asked.
+struct User {
+    UserDialogs dialogs() {
+        return {[this](WindowHandle, const BoxText& box) {
+                    boxes.push_back(box);
+                    if (atBox) {
+                        atBox();
+                    }
+                    return boxes.size() <= answers.size() ? answers[boxes.size() - 1] : BoxAnswer::Cancel;
+                },
+                [this](WindowHandle, const FileRequest& request) {
+                    requests.push_back(request);
+                    return choice;
+                }};
+    }
+
+    std::vector<BoxAnswer> answers;
+    FileChoice choice;
+    std::function<void()> atBox;
+    std::vector<BoxText> boxes;
+    std::vector<FileRequest> requests;
+};
+
+enum Option { ReadAtStartup = 0x10, SaveAtExit = 0x20 };
+
+/// The settings of a user whose default file is `file`.
+MemoryStorage stored(const std::wstring& file, unsigned options = 0) {
+    MemoryStorage storage;
+    storage.values[L"Default File"] = file;
+    storage.values[L"Flags"] = std::uint32_t{options};
+    return storage;
+}
+
+bool mentions(const BoxText& box, const std::wstring& words) { return box.text.find(words) != std::wstring::npos; }
+
+std::wstring answerOf(Program& program, std::wstring_view keys) {
+    for (const wchar_t unit : keys) {
+        SendMessageW(program.workArea(), WM_CHAR, unit, 1);
+    }
+    SendMessageW(program.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+    return program.text();
+}
+
+TEST(FileCommands, TheDefaultFileIsReadAndSavedOnCommand) {
+    for (const wchar_t* name : {L"d.rtf", L"d.txt"}) {
+        const FileFolder folder;
+        User user;
+        Program program(stored(folder.path(name)), user.dialogs());
+        program.setText(L"2+3");
+        program.command(saveDefault);
+        EXPECT_EQ(folder.bytes(name).starts_with("{\\rtf1"), name == std::wstring_view(L"d.rtf"));
+        program.setText(L"7");
+        program.command(readDefault);
+        EXPECT_EQ(program.text(), L"2+3");
+        EXPECT_EQ(answerOf(program, L"*4"), L"2+3*4 = 14\n\n14");
+        EXPECT_TRUE(user.boxes.empty());
+    }
+}
+
+TEST(FileCommands, FailuresOfCommandsNameTheFileAndChangeNothing) {
+    const FileFolder folder;
+    folder.put(L"d.rtf", "no rich text");
+    SetFileAttributesW(folder.path(L"d.rtf").c_str(), FILE_ATTRIBUTE_READONLY);
+    User user;
+    Program program(stored(folder.path(L"d.rtf")), user.dialogs());
+    program.setText(L"2+3");
+    const std::wstring missing = folder.path(L"none.txt");
+    for (const unsigned command : {readDefault, saveDefault}) {
+        program.command(command);
+    }
+    user.choice.name = missing;
+    program.command(readFrom);
+    ASSERT_EQ(user.boxes.size(), 3u);
+    EXPECT_TRUE(mentions(user.boxes[0], folder.path(L"d.rtf")) && mentions(user.boxes[0], L"no rich text"));
+    EXPECT_TRUE(mentions(user.boxes[1], folder.path(L"d.rtf")) && mentions(user.boxes[1], L"read-only"));
+    EXPECT_TRUE(mentions(user.boxes[2], missing) && mentions(user.boxes[2], L"not exist"));
+    for (const BoxText& box : user.boxes) {
+        EXPECT_EQ(box.kind, BoxKind::Failure);
+    }
+    EXPECT_EQ(program.text(), L"2+3");
+    EXPECT_EQ(folder.bytes(L"d.rtf"), "no rich text");
+}
+
+TEST(FileCommands, AChosenFileIsReadOrSavedByItsEnding) {
+    const FileFolder folder;
+    User user;
+    Program program(stored(L".\\WorkArea.rtf"), user.dialogs());
+    program.setText(L"2+3");
+    for (const wchar_t* name : {L"a.rtf", L"a.txt"}) {
+        user.choice.name = folder.path(name);
+        program.command(saveAs);
+    }
+    EXPECT_TRUE(folder.bytes(L"a.rtf").starts_with("{\\rtf1"));
+    EXPECT_EQ(folder.bytes(L"a.txt"), "2+3");
+    for (const wchar_t* name : {L"a.rtf", L"a.txt"}) {
+        program.setText(L"7");
+        user.choice.name = folder.path(name);
+        program.command(readFrom);
+        EXPECT_EQ(program.text(), L"2+3");
+    }
+    ASSERT_EQ(user.requests.size(), 4u);
+    for (const FileRequest& request : user.requests) {
+        EXPECT_EQ(request.name, L".\\WorkArea.rtf");
+    }
+    EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), L".\\WorkArea.rtf");
+    EXPECT_TRUE(user.boxes.empty());
+}
+
+TEST(FileCommands, ChoosingADefaultFileDoesNotReadOrWriteIt) {
+    const FileFolder folder;
+    folder.put(L"b.txt", "old");
+    User user;
+    Program program(stored(folder.path(L"a.txt")), user.dialogs());
+    program.setText(L"2+3");
+    user.choice.name = folder.path(L"b.txt");
+    program.command(selectDefault);
+    EXPECT_EQ(program.text(), L"2+3");
+    EXPECT_EQ(folder.bytes(L"b.txt"), "old");
+    EXPECT_EQ(std::get<std::wstring>(program.storage().values.at(L"Default File")), folder.path(L"b.txt"));
+    program.command(saveDefault);
+    EXPECT_EQ(folder.bytes(L"b.txt"), "2+3");
+}
+
+TEST(FileCommands, AClosedDialogDoesNothingAndAFailedOneIsNumbered) {
+    const FileFolder folder;
+    User user;
+    Program program(stored(folder.path(L"a.txt")), user.dialogs());
+    program.setText(L"2+3");
+    for (const unsigned command : {selectDefault, readFrom, saveAs}) {
+        user.choice = {};
+        program.command(command);
+        EXPECT_TRUE(user.boxes.empty());
+        user.choice.errorCode = 12290;
+        program.command(command);
+        ASSERT_EQ(user.boxes.size(), 1u);
+        EXPECT_EQ(user.boxes[0].caption, L"Error #12290");
+        user.boxes.clear();
+    }
+    EXPECT_EQ(program.text(), L"2+3");
+    EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), folder.path(L"a.txt"));
+    EXPECT_TRUE(folder.names().empty());
+}
+
+// --- The start ------------------------------------------------------------------------------------------------------
+
+TEST(FileCommands, TheStartReadsTheDefaultFileWhenWanted) {
+    const FileFolder folder;
+    folder.put(L"d.txt", "1+1\r\n2+3");
+    for (const unsigned options : {0u, unsigned{ReadAtStartup}}) {
+        User user;
+        Program program(stored(folder.path(L"d.txt"), options), user.dialogs());
+        EXPECT_EQ(program.text(), options == 0 ? L"" : L"1+1\n2+3");
+        EXPECT_TRUE(user.boxes.empty());
+        EXPECT_EQ(SendMessageW(program.workArea(), EM_CANUNDO, 0, 0), FALSE);
+        if (options != 0) {
+            EXPECT_EQ(answerOf(program, L"*4"), L"1+1\n2+3*4 = 14\n\n14");
+        }
+    }
+}
+
+TEST(FileCommands, TheStartIsSilentAboutAnAbsentFileAlone) {
+    const FileFolder folder;
+    folder.put(L"d.rtf", "no rich text");
+    struct Row {
+        const wchar_t* name;
+        std::size_t boxes;
+    };
+    for (const Row& row : {Row{L"none.rtf", 0}, Row{L"none\\x.rtf", 0}, Row{L"d.rtf", 1}}) {
+        User user;
+        Program program(stored(folder.path(row.name), ReadAtStartup), user.dialogs());
+        EXPECT_EQ(user.boxes.size(), row.boxes);
+        EXPECT_EQ(answerOf(program, L"2+3"), L"2+3 = 5\n\n5");
+    }
+}
+
+TEST(FileCommands, ARelativeDefaultFileLiesInTheCurrentFolder) {
+    const FileFolder folder;
+    folder.put(L"WorkArea.rtf", "{\\rtf1 2+3\\par}");
+    const std::wstring before = fullFileName(L".");
+    SetCurrentDirectoryW(folder.path(L"").c_str());
+    {
+        User user;
+        const Program program(stored(L".\\WorkArea.rtf", ReadAtStartup), user.dialogs());
+        EXPECT_EQ(program.text(), L"2+3");
+    }
+    SetCurrentDirectoryW(before.c_str());
+}
+
+// --- The end --------------------------------------------------------------------------------------------------------
+
+/// What a user's way to end the program does to its window.
+struct Ending {
+    const char* name;
+    void (*end)(Program&);
+};
+const Ending endings[] = {
+    {"close", [](Program& program) { program.close(); }},
+    {"exit", [](Program& program) { program.command(0x7FFF); }},
+};
+
+TEST(FileCommands, TheEndSavesTheDefaultFileWhenWanted) {
+    for (const Ending& ending : endings) {
+        SCOPED_TRACE(ending.name);
+        const FileFolder folder;
+        User user;
+        for (const unsigned options : {0u, unsigned{SaveAtExit}}) {
+            Program program(stored(folder.path(L"d.txt"), options), user.dialogs());
+            program.setText(L"2+3");
+            ending.end(program);
+            EXPECT_EQ(program.handle(), nullptr);
+            EXPECT_EQ(folder.bytes(L"d.txt"), options == 0 ? "(none)" : "2+3");
+        }
+        EXPECT_TRUE(user.boxes.empty());
+    }
+}
+
+TEST(FileCommands, TheMenusMarksDecide) {
+    const FileFolder folder;
+    folder.put(L"d.txt", "old");
+    User user;
+    Program program(stored(folder.path(L"d.txt"), SaveAtExit), user.dialogs());
+    program.command(saveAtExit);
+    program.command(readAtStartup);
+    EXPECT_EQ(program.text(), L"");
+    program.close();
+    EXPECT_EQ(folder.bytes(L"d.txt"), "old");
+}
+
+TEST(FileCommands, AFailedSaveAtTheEndIsTriedAgainOrKeepsTheWindow) {
+    const FileFolder folder;
+    folder.put(L"d.txt", "old");
+    const std::wstring file = folder.path(L"d.txt");
+    for (const Ending& ending : endings) {
+        SCOPED_TRACE(ending.name);
+        SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+        User user;
+        user.answers = {BoxAnswer::Retry, BoxAnswer::Cancel, BoxAnswer::Retry};
+        Program program(stored(file, SaveAtExit), user.dialogs());
+        program.setText(L"2+3");
+        ending.end(program);
+        ASSERT_NE(program.handle(), nullptr);
+        EXPECT_EQ(user.boxes.size(), 2u);
+        for (const BoxText& box : user.boxes) {
+            EXPECT_EQ(box.kind, BoxKind::RetryOrCancel);
+            EXPECT_TRUE(mentions(box, file) && mentions(box, L"read-only"));
+        }
+        EXPECT_EQ(program.text(), L"2+3");
+        EXPECT_EQ(folder.bytes(L"d.txt"), "old");
+        // The reason goes away while the third box is open.
+        user.atBox = [&] { SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL); };
+        ending.end(program);
+        EXPECT_EQ(program.handle(), nullptr);
+        EXPECT_EQ(user.boxes.size(), 3u);
+        EXPECT_EQ(folder.bytes(L"d.txt"), "2+3");
+        folder.put(L"d.txt", "old");
+    }
+}
+
+TEST(FileCommands, ADefaultFileThatCouldNotBeReadIsNotReplacedUnasked) {
+    struct Row {
+        BoxAnswer answer;
+        bool ends;
+        const char* bytes;
+    };
+    const Row rows[] = {
+        {BoxAnswer::Yes, true, "{\\rtf1"},
+        {BoxAnswer::No, true, "no rich text"},
+        {BoxAnswer::Cancel, false, "no rich text"},
+    };
+    for (const Row& row : rows) {
+        const FileFolder folder;
+        folder.put(L"d.rtf", "no rich text");
+        User user;
+        user.answers = {BoxAnswer::Ok, row.answer};
+        Program program(stored(folder.path(L"d.rtf"), ReadAtStartup | SaveAtExit), user.dialogs());
+        program.setText(L"2+3");
+        program.close();
+        ASSERT_EQ(user.boxes.size(), 2u);
+        EXPECT_EQ(user.boxes[1].kind, BoxKind::YesNoOrCancel);
+        EXPECT_TRUE(mentions(user.boxes[1], folder.path(L"d.rtf")));
+        EXPECT_EQ(program.handle() == nullptr, row.ends);
+        EXPECT_TRUE(folder.bytes(L"d.rtf").starts_with(row.bytes));
+    }
+}
+
+TEST(FileCommands, TheQuestionIsOverOnceTheDefaultFileIsTheUsersOwn) {
+    const std::vector<std::function<void(Program&, const FileFolder&, User&)>> ways = {
+        [](Program&, const FileFolder& folder, User&) { folder.put(L"e.rtf", "of somebody else"); },
+        [](Program& program, const FileFolder&, User&) { program.command(saveDefault); },
+        [](Program& program, const FileFolder& folder, User&) {
+            folder.put(L"d.rtf", "{\\rtf1 8}");
+            program.command(readDefault);
+        },
+        [](Program& program, const FileFolder& folder, User& user) {
+            folder.put(L"d.rtf", "new");
+            user.choice.name = folder.path(L"e.rtf");
+            program.command(selectDefault);
+        },
+    };
+    for (std::size_t way = 0; way < ways.size(); ++way) {
+        SCOPED_TRACE(way);
+        const FileFolder folder;
+        User user;
+        Program program(stored(folder.path(L"d.rtf"), ReadAtStartup | SaveAtExit), user.dialogs());
+        program.setText(L"2+3");
+        ways[way](program, folder, user);
+        program.close();
+        EXPECT_TRUE(user.boxes.empty());
+        EXPECT_EQ(program.handle(), nullptr);
+        EXPECT_TRUE(
+            folder
+                .bytes(fullFileName(program.settings().text(TextSetting::DefaultFile)).substr(folder.path(L"").size()))
+                .starts_with("{\\rtf1"));
+    }
+    // One that has appeared since the start is not.
+    const FileFolder folder;
+    User user;
+    Program program(stored(folder.path(L"d.txt"), ReadAtStartup | SaveAtExit), user.dialogs());
+    folder.put(L"d.txt", "from another machine");
+    program.close();
+    EXPECT_EQ(user.boxes.size(), 1u);
+    EXPECT_EQ(folder.bytes(L"d.txt"), "from another machine");
+}
+
+TEST(FileCommands, TheEndOfTheSessionSavesOrWaits) {
+    const FileFolder folder;
+    User user;
+    Program program(stored(folder.path(L"none\\d.txt"), SaveAtExit), user.dialogs());
+    program.setText(L"2+3");
+    EXPECT_EQ(SendMessageW(program.handle(), WM_QUERYENDSESSION, 0, 0), FALSE);
+    SendMessageW(program.handle(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(user.boxes.size(), 1u);
+    user.choice.name = folder.path(L"d.txt");
+    program.command(selectDefault);
+    EXPECT_EQ(SendMessageW(program.handle(), WM_QUERYENDSESSION, 0, 0), TRUE);
+    EXPECT_EQ(folder.bytes(L"d.txt"), "2+3");
+    // Somebody else wants to stay, and the user goes on.
+    SendMessageW(program.handle(), WM_ENDSESSION, FALSE, 0);
+    program.setText(L"7*8");
+    program.close();
+    EXPECT_EQ(folder.bytes(L"d.txt"), "7*8");
+    EXPECT_EQ(user.boxes.size(), 1u);
+}
+
+TEST(FileCommands, AWindowThatIsDestroyedUnaskedStillSaves) {
+    const FileFolder folder;
+    User user;
+    Program program(stored(folder.path(L"d.txt"), SaveAtExit), user.dialogs());
+    program.setText(L"2+3");
+    DestroyWindow(program.handle());
+    EXPECT_EQ(folder.bytes(L"d.txt"), "2+3");
+}
+
+}  // namespace
+}  // namespace calquo

@@ -1,0 +1,443 @@
+// Real files and the real control: what comes back, and what is left when something goes wrong.
+#include "workarea/work_area_file.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+
+#include "desk.h"
+#include "file_folder.h"
+#include "widgets/handles.h"
+#include "workarea/disk_file.h"
+#include "workarea/file_fault.h"
+
+namespace calquo {
+namespace {
+
+using namespace std::string_view_literals;
+
+/// A work area with its files in a folder.
+struct Sheet {
+    std::optional<FileFailure> read(std::wstring_view name) {
+        return failureOf([&] { file.read(folder.path(name)); });
+    }
+    std::optional<FileFailure> write(std::wstring_view name) {
+        return failureOf([&] { file.write(folder.path(name)); });
+    }
+
+    template <typename Action>
+    static std::optional<FileFailure> failureOf(Action action) {
+        try {
+            action();
+            return std::nullopt;
+        } catch (const FileFault& fault) {
+            return fault.failure;
+        }
+    }
+
+    FileFolder folder;
+    Desk desk;
+    WorkAreaFile file{desk.workArea()};
+};
+
+/// Holds a file open, as another program might.
+class OpenFile {
+public:
+    OpenFile(const std::wstring& name, DWORD access, DWORD sharing)
+        : handle_(CreateFileW(name.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr)) {}
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() { CloseHandle(handle_); }
+
+private:
+    HANDLE handle_;
+};
+constexpr DWORD shareNothing = 0;
+constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+std::string repeated(std::size_t count, std::string_view text) {
+    std::string all;
+    while (count-- > 0) {
+        all += text;
+    }
+    return all;
+}
+
+/// Every character of the first plane that is not for UTF-16 itself, in lines of different lengths.
+std::string everyCharacter() {
+    std::string bytes;
+    for (unsigned code = 1; code <= 0xFFFF; ++code) {
+        if (code == '\r' || code == '\n' || (code >= 0xD800 && code <= 0xDFFF)) {
+            continue;
+        }
+        if (code < 0x80) {
+            bytes += static_cast<char>(code);
+        } else if (code < 0x800) {
+            bytes += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))};
+        } else {
+            bytes += {static_cast<char>(0xE0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3F)),
+                      static_cast<char>(0x80 | (code & 0x3F))};
+        }
+        if (code % 61 == 0) {
+            bytes += "\r\n";
+        }
+    }
+    return bytes;
+}
+
+// --- What comes back ------------------------------------------------------------------------------------------------
+
+TEST(WorkAreaFile, PlainTextComesBackByteForByte) {
+    const std::string files[] = {
+        "",
+        "2+3 = 5",
+        "2+3 = 5\r\n\r\n5\r\n",
+        "\r\n",
+        "\r\n\r\n",
+        "\t2\n\n3\n",
+        "2\r3\r",
+        "{\\rtf1 2+3\\par}",
+        "\xC2\xB5 \xE2\x88\x9E \xF0\x9F\x98\x80\r\n",
+        "\xEF\xBB\xBF"
+        "2\xC2\xB5\r\n",
+        "5 \x80 \x81\xFF\r\n",
+        std::string("\xFF\xFE"
+                    "2\0\r\0\n\0\x1E\x22\x3D\xD8\x00\xDE"sv),
+        std::string("\xFE\xFF\0"
+                    "2\0\n"sv),
+        everyCharacter(),
+        // Pairs of units, and of line ends, across every boundary of the control's own pieces.
+        repeated(5'000,
+                 "\xF0\x9F\x98\x80"
+                 "1\r\n\xF0\x9F\x98\x80\r\n"),
+    };
+    for (const std::string& bytes : files) {
+        SCOPED_TRACE(testing::PrintToString(bytes.substr(0, 40)));
+        Sheet sheet;
+        sheet.desk.type("8 = 8");
+        sheet.folder.put(L"in.txt", bytes);
+        ASSERT_EQ(sheet.read(L"in.txt"), std::nullopt);
+        ASSERT_EQ(sheet.write(L"out.txt"), std::nullopt);
+        EXPECT_TRUE(sheet.folder.bytes(L"out.txt") == bytes);
+    }
+}
+
+TEST(WorkAreaFile, TheFormOfTheTextThatWasReadHoldsForTheNextSave) {
+    Sheet sheet;
+    sheet.folder.put(L"legacy.txt", "5 \x80\n");
+    ASSERT_EQ(sheet.read(L"legacy.txt"), std::nullopt);
+    EXPECT_EQ(sheet.desk.text(), L"5 \u20AC\n");
+    sheet.desk.type("+\n");
+    ASSERT_EQ(sheet.write(L"legacy.txt"), std::nullopt);
+    EXPECT_EQ(sheet.folder.bytes(L"legacy.txt"), "5 \x80\n+\n");
+    // A failure to read is no reading.
+    ASSERT_EQ(sheet.read(L"none.rtf"), FileFailure::Missing);
+    ASSERT_EQ(sheet.write(L"legacy.txt"), std::nullopt);
+    EXPECT_EQ(sheet.folder.bytes(L"legacy.txt"), "5 \x80\n+\n");
+    sheet.folder.put(L"rich.rtf", "{\\rtf1 5\\'80\\par\\par}");
+    ASSERT_EQ(sheet.read(L"rich.rtf"), std::nullopt);
+    ASSERT_EQ(sheet.write(L"new"), std::nullopt);
+    EXPECT_EQ(sheet.folder.bytes(L"new"), "5\xE2\x82\xAC\r\n");
+}
+
+TEST(WorkAreaFile, RichTextKeepsItsStyles) {
+    const wchar_t* const lines[] = {
+        L"2+3",
+        L"2+",
+        L"\u221E+\u0100\u4E2D\U0001F600{\\b}",
+        L"",
+    };
+    Sheet sheet;
+    for (const wchar_t* line : lines) {
+        sheet.desk.type(line);
+        sheet.desk.press(VK_RETURN);
+        sheet.desk.select(1'000, 1'000);
+        sheet.desk.press(VK_RETURN, VK_CONTROL);
+    }
+    const std::wstring picture = sheet.desk.picture();
+    ASSERT_EQ(sheet.write(L"Sheet.RTF"), std::nullopt);
+    const std::string bytes = sheet.folder.bytes(L"Sheet.RTF");
+    EXPECT_TRUE(bytes.starts_with("{\\rtf1"));
+    EXPECT_EQ(bytes.find_first_of("\0\x80\xC2\xE2\xF0"sv), std::string::npos);
+
+    Sheet other;
+    other.folder.put(L"x.rtf", bytes);
+    other.desk.type("8 = 8");
+    ASSERT_EQ(other.read(L"x.rtf"), std::nullopt);
+    EXPECT_EQ(other.desk.picture(), picture);
+    ASSERT_EQ(other.write(L"x.rtf"), std::nullopt);
+    EXPECT_EQ(other.folder.bytes(L"x.rtf"), bytes);
+}
+
+TEST(WorkAreaFile, OtherProgramsStylesStayToo) {
+    Sheet sheet;
+    sheet.folder.put(L"x.rtf",
+                     "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}{\\f1 Courier New;}}{\\colortbl;\\red255\\green0\\blue0;}"
+                     "\\f0\\fs40 large {\\f1\\i slanted} {\\cf1\\ul red}\\par\\pard\\qc {\\strike gone}\\par}");
+    ASSERT_EQ(sheet.read(L"x.rtf"), std::nullopt);
+    EXPECT_EQ(sheet.desk.text(), L"large slanted red\ngone");
+    struct Row {
+        int place;
+        DWORD effects;
+        LONG height;
+        COLORREF color;
+        const wchar_t* font;
+    };
+    const Row rows[] = {
+        {0, 0, 400, 0, L"Arial"},
+        {8, CFE_ITALIC, 400, 0, L"Courier New"},
+        {14, CFE_UNDERLINE, 400, RGB(255, 0, 0), L"Arial"},
+        {19, CFE_STRIKEOUT, 400, 0, L"Arial"},
+    };
+    for (const bool again : {false, true}) {
+        if (again) {
+            ASSERT_EQ(sheet.write(L"y.rtf"), std::nullopt);
+            ASSERT_EQ(sheet.read(L"y.rtf"), std::nullopt);
+        }
+        for (const Row& row : rows) {
+            sheet.desk.select(static_cast<std::size_t>(row.place), static_cast<std::size_t>(row.place) + 1);
+            CHARFORMAT2W format{};
+            format.cbSize = sizeof format;
+            SendMessageW(sheet.desk.control(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+            EXPECT_EQ(format.dwEffects & (CFM_BOLD | CFM_ITALIC | CFM_UNDERLINE | CFM_STRIKEOUT), row.effects);
+            EXPECT_EQ(format.yHeight, row.height) << row.place;
+            EXPECT_EQ(format.crTextColor, row.color) << row.place;
+            EXPECT_EQ(std::wstring(format.szFaceName), row.font);
+        }
+    }
+}
+
+TEST(WorkAreaFile, AnEmptyFileIsAnEmptySheet) {
+    for (const wchar_t* name : {L"x.rtf", L"x.txt"}) {
+        Sheet sheet;
+        sheet.desk.type("2+3");
+        sheet.folder.put(name, "");
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+        EXPECT_EQ(sheet.desk.text(), L"");
+    }
+}
+
+// --- Reading --------------------------------------------------------------------------------------------------------
+
+TEST(WorkAreaFile, OneGoesOnAtTheEndOfWhatWasRead) {
+    for (const wchar_t* name : {L"x.rtf", L"x.txt"}) {
+        SCOPED_TRACE(name);
+        Sheet sheet;
+        sheet.desk.type("2+3");
+        sheet.desk.press(VK_RETURN);
+        ASSERT_EQ(sheet.write(name), std::nullopt);
+        sheet.desk.select(0, 100);
+        sheet.desk.press(VK_DELETE);
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+        sheet.desk.type("*4");
+        sheet.desk.press(VK_RETURN);
+        const bool rich = name == std::wstring_view(L"x.rtf");
+        EXPECT_EQ(sheet.desk.picture(), rich ? L"2+3< = 5>\n\n5*4< = 20>\n\n20|" : L"2+3 = 5\n\n5*4< = 20>\n\n20|");
+    }
+}
+
+TEST(WorkAreaFile, UndoBringsBackWhatReadingReplaced) {
+    for (const wchar_t* name : {L"x.rtf", L"x.txt"}) {
+        SCOPED_TRACE(name);
+        Sheet sheet;
+        sheet.folder.put(L"x.txt", "new\r\ntext");
+        sheet.folder.put(L"x.rtf", "{\\rtf1 new\\par text\\par}");
+        sheet.desk.type("2+3");
+        sheet.desk.press(VK_RETURN);
+        const std::wstring before = sheet.desk.picture();
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+        EXPECT_EQ(sheet.desk.picture(), L"new\ntext|");
+        sheet.desk.undo();
+        EXPECT_EQ(sheet.desk.picture(), before);
+        sheet.desk.undo();
+        EXPECT_EQ(sheet.desk.text(), L"2+3");
+    }
+}
+
+TEST(WorkAreaFile, WhatIsReadDoesNotLookLikeWhatItReplaces) {
+    for (const wchar_t* name : {L"x.rtf", L"x.txt"}) {
+        SCOPED_TRACE(name);
+        Sheet sheet;
+        sheet.folder.put(L"x.txt", "new\r\ntext");
+        sheet.folder.put(L"x.rtf", "{\\rtf1 new\\par text\\par}");
+        sheet.desk.type("2+3");
+        sheet.desk.press(VK_RETURN);
+        sheet.desk.select(0, 3);
+        sheet.desk.press(VK_DELETE);
+        ASSERT_EQ(sheet.desk.picture(), L"|< = 5>\n\n5");
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+        EXPECT_EQ(sheet.desk.picture(), L"new\ntext|");
+        sheet.desk.undo();
+        EXPECT_EQ(sheet.desk.text(), L" = 5\n\n5");
+    }
+}
+
+/// The work area before something that must not change it.
+struct Snapshot {
+    explicit Snapshot(Desk& desk)
+        : picture((desk.select(1, 2), desk.picture())),
+          canUndo(SendMessageW(desk.control(), EM_CANUNDO, 0, 0)),
+          canRedo(SendMessageW(desk.control(), EM_CANREDO, 0, 0)) {}
+    friend bool operator==(const Snapshot&, const Snapshot&) = default;
+
+    std::wstring picture;
+    LRESULT canUndo, canRedo;
+};
+
+TEST(WorkAreaFile, AFileThatCannotBeReadLeavesTheWorkAreaAsItWas) {
+    struct Row {
+        const wchar_t* name;
+        std::string bytes;
+        FileFailure failure;
+    };
+    const Row rows[] = {
+        {L"text.rtf", "2+3 = 5\r\n", FileFailure::NotRichText},
+        {L"start.rtf", "{\\rt", FileFailure::NotRichText},
+        {L"zeros.rtf", std::string(100, '\0'), FileFailure::NotRichText},
+        {L"cut.rtf", "{\\rtf1 2+3{\\b  = 5", FileFailure::CutOff},
+        {L"deep.rtf", "{\\rtf1 2" + repeated(5'000, "{") + "3" + repeated(5'001, "}"), FileFailure::NestedTooDeeply},
+        // Wine's control counts the brace in the picture's data, and misses one at the end.
+        {L"data.rtf", "{\\rtf1 2{\\pict\\bin2 {{}\\par}", FileFailure::Refused},
+        {L"zeros.txt", std::string("2\0+3", 4), FileFailure::NotText},
+        {L"program.exe", std::string("MZ\x90\0\x03\0\0\0", 8), FileFailure::NotText},
+        {L"line.txt", std::string(3'000'000, '1'), FileFailure::TooMuchText},
+        {L"large.txt", repeated(50'000'000 / 8, "2+3*4\r\n"), FileFailure::TooLarge},
+        {L"large.rtf", "{\\rtf1 " + std::string(50'000'000, ' ') + "}", FileFailure::TooLarge},
+    };
+    Sheet sheet;
+    sheet.desk.type("2+3");
+    sheet.desk.press(VK_RETURN);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(row.name)));
+        const Snapshot before(sheet.desk);
+        sheet.folder.put(row.name, row.bytes);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(sheet.read(row.name), row.failure);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+        EXPECT_EQ(Snapshot(sheet.desk).picture, before.picture);
+        EXPECT_EQ(Snapshot(sheet.desk).canUndo, before.canUndo);
+    }
+    sheet.desk.undo();
+    EXPECT_EQ(sheet.desk.text(), L"2+3");
+}
+
+TEST(WorkAreaFile, ANameThatIsNoReadableFileLeavesTheWorkAreaAsItWas) {
+    Sheet sheet;
+    sheet.desk.type("2+3");
+    sheet.folder.put(L"held.txt", "1");
+    sheet.folder.put(L"written.txt", "1");
+    std::filesystem::create_directory(sheet.folder.path(L"folder.rtf"));
+    const OpenFile held(sheet.folder.path(L"held.txt"), GENERIC_READ, shareNothing);
+    const OpenFile written(sheet.folder.path(L"written.txt"), GENERIC_READ | GENERIC_WRITE, shareAll);
+    struct Row {
+        const wchar_t* name;
+        FileFailure failure;
+    };
+    const Row rows[] = {
+        {L"none.rtf", FileFailure::Missing},    {L"none\\x.rtf", FileFailure::FolderMissing},
+        {L"folder.rtf", FileFailure::IsFolder}, {L"a<b.rtf", FileFailure::InvalidName},
+        {L"held.txt", FileFailure::InUse},      {L"written.txt", FileFailure::InUse},
+    };
+    const Snapshot before(sheet.desk);
+    for (const Row& row : rows) {
+        EXPECT_EQ(sheet.read(row.name), row.failure) << testing::PrintToString(std::wstring(row.name));
+        EXPECT_EQ(Snapshot(sheet.desk), before);
+    }
+    EXPECT_EQ(Sheet::failureOf([&] { sheet.file.read(L"NUL"); }), FileFailure::IsDevice);
+}
+
+TEST(WorkAreaFile, AStreamThatFailsInTheMiddleIsTakenBack) {
+    for (const wchar_t* text : {L"", L"2+3", L"= 5\n\n5"}) {
+        Desk desk;
+        desk.type("7");
+        desk.press(VK_BACK);
+        desk.type(text);
+        const Snapshot before(desk);
+        EXPECT_FALSE(desk.workArea().replaceContentByRichText("{\\rtf1 new {\\b text\\par"));
+        EXPECT_FALSE(desk.workArea().replaceContentByRichText("no rich text"));
+        EXPECT_EQ(Snapshot(desk).picture, before.picture);
+        EXPECT_EQ(Snapshot(desk).canUndo, before.canUndo);
+    }
+}
+
+// --- Saving ---------------------------------------------------------------------------------------------------------
+
+TEST(WorkAreaFile, ASaveReplacesTheOldFileAndLeavesNothingElse) {
+    Sheet sheet;
+    sheet.desk.type("2+3");
+    sheet.folder.put(L"x.txt", std::string(100'000, 'x'));
+    sheet.folder.put(L"~Calquo is saving.tmp", std::string(100'000, 'y'));  // by the end of a machine
+    ASSERT_EQ(sheet.write(L"x.txt"), std::nullopt);
+    EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "2+3");
+    EXPECT_EQ(sheet.folder.names(), std::vector<std::wstring>{L"x.txt"});
+    ASSERT_EQ(sheet.write(L"\u221E \u4E2D.txt"), std::nullopt);
+    EXPECT_EQ(sheet.folder.bytes(L"\u221E \u4E2D.txt"), "2+3");
+}
+
+TEST(WorkAreaFile, AFileThatCannotBeReplacedStaysAsItWas) {
+    Sheet sheet;
+    sheet.desk.type("2+3");
+    for (const wchar_t* name : {L"readonly.txt", L"held.txt", L"shared.txt", L"file"}) {
+        sheet.folder.put(name, "old");
+    }
+    std::filesystem::create_directory(sheet.folder.path(L"folder.txt"));
+    const std::vector<std::wstring> names = sheet.folder.names();
+    SetFileAttributesW(sheet.folder.path(L"readonly.txt").c_str(), FILE_ATTRIBUTE_READONLY);
+    struct Row {
+        const wchar_t* name;
+        std::vector<FileFailure> failures;
+    };
+    const Row rows[] = {
+        {L"readonly.txt", {FileFailure::ReadOnly}},
+        {L"held.txt", {FileFailure::InUse}},
+        {L"shared.txt", {FileFailure::AccessDenied, FileFailure::InUse}},
+        {L"folder.txt", {FileFailure::IsFolder}},
+        {L"none\\x.txt", {FileFailure::FolderMissing}},
+        {L"file\\x.txt", {FileFailure::FolderMissing}},
+        {L"a<b.txt", {FileFailure::InvalidName}},
+    };
+    {
+        const OpenFile held(sheet.folder.path(L"held.txt"), GENERIC_READ, FILE_SHARE_READ);
+        const OpenFile shared(sheet.folder.path(L"shared.txt"), GENERIC_READ, shareAll);
+        const Snapshot before(sheet.desk);
+        for (const Row& row : rows) {
+            SCOPED_TRACE(testing::PrintToString(std::wstring(row.name)));
+            const auto failure = sheet.write(row.name);
+            ASSERT_TRUE(failure.has_value());
+            EXPECT_NE(std::find(row.failures.begin(), row.failures.end(), *failure), row.failures.end())
+                << static_cast<int>(*failure);
+            EXPECT_EQ(sheet.folder.names(), names);
+            EXPECT_EQ(Snapshot(sheet.desk), before);
+        }
+    }
+    for (const wchar_t* name : {L"readonly.txt", L"held.txt", L"shared.txt", L"file"}) {
+        EXPECT_EQ(sheet.folder.bytes(name), "old");
+    }
+    EXPECT_EQ(Sheet::failureOf([&] { sheet.file.write(L"NUL"); }), FileFailure::IsDevice);
+}
+
+TEST(WorkAreaFile, ATemporaryFileInUseSavesNothing) {
+    Sheet sheet;
+    sheet.desk.type("2+3");
+    sheet.folder.put(L"x.txt", "old");
+    sheet.folder.put(L"~Calquo is saving.tmp", "");
+    const OpenFile held(sheet.folder.path(L"~Calquo is saving.tmp"), GENERIC_READ, shareNothing);
+    EXPECT_EQ(sheet.write(L"x.txt"), FileFailure::InUse);
+    EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "old");
+}
+
+TEST(DiskFile, NamesAreWholeInTheFolderOfTheirTime) {
+    const FileFolder folder;
+    const std::wstring before = fullFileName(L".");
+    SetCurrentDirectoryW(folder.path(L"").c_str());
+    EXPECT_EQ(fullFileName(L".\\WorkArea.rtf"), folder.path(L"WorkArea.rtf"));
+    EXPECT_EQ(fullFileName(folder.path(L"a\\..\\b.rtf")), folder.path(L"b.rtf"));
+    SetCurrentDirectoryW(before.c_str());
+    EXPECT_EQ(fullFileName(L""), L"");
+}
+
+}  // namespace
+}  // namespace calquo
