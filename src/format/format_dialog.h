@@ -27,7 +27,7 @@ struct FormatPlace {
 class FormatDialog : public DialogWindow {
 public:
     FormatDialog() = default;
-    ~FormatDialog();
+    ~FormatDialog() override;
 
     /// Opens the dialog on the word that `place` keeps, in the middle of `parent`, a window or a control. A dialog that
     /// is open already comes to the front and stays with the word it is about. Returns the dialog's window.

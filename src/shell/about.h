@@ -11,7 +11,7 @@ namespace calquo {
 class About : public DialogWindow {
 public:
     About() = default;
-    ~About();
+    ~About() override;
 
     /// Shows the window in the middle of `parent`, a window or a control, or brings it to the front. Returns the
     /// window, which is to get the focus back.
