@@ -244,12 +244,12 @@ TEST(MainWindow, ASmallStoredRectangleStaysWhereItIs) {
 TEST(MainWindow, TheEndOfTheSessionSavesEverything) {
     Program program;
     program.command(basicKeypad);
-    program.command(0x143);
+    program.command(0x142);
     SendMessageW(program.handle(), WM_ENDSESSION, TRUE, 0);
     Settings saved(program.storage());
     saved.loadAll();
     EXPECT_EQ(saved.selectedPanels(), std::vector<std::uint16_t>{basicKeypad});
-    EXPECT_TRUE(saved.boolean(BooleanSetting::SaveDefaultAtExit));
+    EXPECT_TRUE(saved.boolean(BooleanSetting::ReadDefaultAtStartup));
 }
 
 TEST(MainWindow, AltAloneOpensTheMenuOnce) {
@@ -327,7 +327,7 @@ TEST(Commands, OptionsAreAMarkAndASetting) {
     };
     Program program;
     for (const Row& row : rows) {
-        for (const bool on : {true, false, true}) {
+        for (const bool on : {true, false, true, false}) {
             program.command(row.command);
             EXPECT_EQ(program.window().isChecked(static_cast<std::uint16_t>(row.command)), on) << row.command;
             EXPECT_EQ(program.settings().boolean(row.setting), on) << row.command;
