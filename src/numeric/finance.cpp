@@ -130,6 +130,9 @@ Real discounted(Real payment, const Schedule& schedule, Real growth) {
     return accumulated(payment, schedule.reversed(), -growth);
 }
 
+/// e^z - 1, divided by e^z where this is above 1.
+Real riseOverTop(Real z) { return z > 0 ? -std::expm1(-z) : std::expm1(z); }
+
 /// later - earlier e^z for z <= 0.
 Real difference(Real later, Real earlier, Real z) {
     // Near z = 0 the amounts' own difference has to be kept, far from it the smaller of the two.
@@ -138,9 +141,12 @@ Real difference(Real later, Real earlier, Real z) {
 
 /// The zero of a function of which the sign at the upper end is known and that at the lower end is the other one;
 /// low < high. Halves the interval until two neighbouring numbers are left, by orders of magnitude first: some 100
-/// evaluations at most.
+/// evaluations at most. A NaN if the signs at the ends are not these.
 template <typename Function>
 Real zeroBetween(Real low, Real high, bool positiveAtHigh, Function function) {
+    if ((function(high) > 0) != positiveAtHigh || (function(low) > 0) == positiveAtHigh) {
+        return std::numeric_limits<Real>::quiet_NaN();
+    }
     if (low < 0 && high > 0) {
         const Real middle = function(0);
         if (middle == 0) {
@@ -153,7 +159,7 @@ Real zeroBetween(Real low, Real high, bool positiveAtHigh, Function function) {
     Real near = high > 0 ? low : -high;
     Real far = high > 0 ? high : -low;
     const bool positiveAtFar = positiveAtHigh == (high > 0);
-    near = std::max(near, far * 1e-1000L);
+    near = std::max(near, std::numeric_limits<Real>::min());
     while (true) {
         const Real middle = far > 2 * near ? std::sqrt(near) * std::sqrt(far) : near + (far - near) / 2;
         if (middle <= near || middle >= far) {
@@ -245,8 +251,11 @@ public:
         if (atZero_ == 0) {
             return {0};
         }
-        // Beyond, even the slower of the two exponentials has left the range of numbers.
-        const Real reach = 25000 / std::min(duration_, period_);
+        // Beyond, even the slower of the two exponentials has left the range of numbers; where no constant stands
+        // beside them, their ratio has.
+        const bool ratioAlone = (first_ == 0 || payment_ == second_) && duration_ != period_;
+        const Real slower = std::min(duration_, period_);
+        const Real reach = 25000 / (ratioAlone ? std::min(slower, std::fabs(duration_ - period_)) : slower);
         const auto balance = [this](Real x) {
             const auto [a, b, c] = terms(x);
             return a + b + c;
@@ -260,6 +269,9 @@ public:
             return {};
         }
         const Real turn = zeroBetween(-reach, reach, first_ > 0, [this](Real x) { return slope(x); });
+        if (std::isnan(turn)) {
+            return {};
+        }
         // Where the two zeros are one, rounding may leave the balance on either side of it.
         constexpr Real rounding = 16 * std::numeric_limits<Real>::epsilon();
         const auto [a, b, c] = terms(turn);
@@ -286,15 +298,24 @@ private:
             return {first_ * std::expm1(t), payment_ * gain, atZero_};
         }
         if (std::fabs(t) <= 1) {
-            return {first_ * std::expm1(t), payment_ * (std::expm1(t) / std::expm1(q)), first_ - second_};
+            return {first_ * std::expm1(t), grown(payment_ * (std::expm1(t) / riseOverTop(q)), -std::max(Real{0}, q)),
+                    first_ - second_};
         }
+        // t - q; the slower of two exponentials that stand alone is divided out.
+        const Real apart = x * (duration_ - period_);
         if (x < 0) {
             // The last payment has not grown; all others have to s - 1.
-            const Real others =
-                (t < q ? std::exp(q) * std::expm1(t - q) : -std::exp(t) * std::expm1(q - t)) / std::expm1(q);
-            return {grown(first_, t), payment_ * others, payment_ - second_};
+            const Real others = payment_ * (std::expm1(-std::fabs(apart)) / std::expm1(q)) * (apart < 0 ? 1 : -1);
+            if (payment_ == second_) {
+                return {grown(first_, std::min(Real{0}, apart)), others, 0};
+            }
+            return {grown(first_, t), grown(others, std::max(t, q)), payment_ - second_};
         }
-        return {first_, payment_ * (-std::expm1(-t) / std::expm1(q)), -grown(second_, -t)};
+        const Real payments = payment_ * (riseOverTop(t) / riseOverTop(q));
+        if (first_ == 0) {
+            return {0, grown(payments, std::min(Real{0}, apart)), -grown(second_, std::min(Real{0}, -apart))};
+        }
+        return {first_, grown(payments, -q), -grown(second_, -t)};
     }
 
     /// The sign of f for x towards minus infinity: f = payment - second + (first - payment) G + payment g + ...
@@ -337,11 +358,10 @@ private:
         }
         const Real square = std::expm1(-std::fabs(t)) * std::expm1(-std::fabs(t));
         if (x < 0 && duration_ > period_) {
-            return second_ * square +
-                   (first_ - second_) * std::exp(t - q) * aboveTangent(duration_ + period_, period_, x);
+            return second_ * square + grown((first_ - second_) * aboveTangent(duration_ + period_, period_, x), t - q);
         }
         const Real above = (second_ - first_) * aboveTangent(duration_, period_, -x);
-        return x < 0 ? first_ * square * std::exp(q - t) + above : first_ * square + above * std::exp(-t);
+        return x < 0 ? grown(first_ * square, q - t) + above : first_ * square + grown(above, -t);
     }
 
     Real first_;
