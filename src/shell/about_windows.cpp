@@ -62,7 +62,8 @@ Size About::build() {
     int right = left;
     const auto place = [&](Component& widget, int distance) {
         const Size size = widget.preferredSize();
-        widget.moveTo({left, top, size.width, size.height});
+        // Into the margin: some systems write a text a little longer than they measure it.
+        widget.moveTo({left, top, size.width + scaled(margin) / 2, size.height});
         top += size.height + scaled(distance);
         right = std::max(right, left + size.width);
     };

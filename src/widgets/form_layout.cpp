@@ -75,7 +75,9 @@ FormLayout layOutForm(const FormParts& parts, int messageHeight) {
         const int height = heightOf(row);
         const int controlTop = top + (height - row.control.height) / 2;
         if (hasLabel(row)) {
-            layout.labels.push_back({left, top + (height - row.label.height) / 2, row.label.width, row.label.height});
+            // Into the gap beside it: some systems write a text a little longer than they measure it.
+            layout.labels.push_back({left, top + (height - row.label.height) / 2,
+                                     columns.labels + scaled(betweenColumns) / 2, row.label.height});
             layout.controls.push_back(
                 {left + width - columns.controls, controlTop, columns.controls, row.control.height});
         } else {
