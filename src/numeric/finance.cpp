@@ -397,8 +397,9 @@ Value fv(std::span<const Value> arguments) {
     const auto [first, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
     const Real growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    // Where amounts cancel, both have to have lost or gained by the same rounded growth.
-    if (growth <= 0) {
+    // Where amounts cancel, both have to have lost or gained by the same rounded growth. Payments alone grow over as
+    // long as they do, and do not vanish at the beginning first.
+    if (growth <= 0 || first == 0) {
         return finite(grown(first, growth * duration) + accumulated(payment, schedule, growth));
     }
     return finite(grown(first + discounted(payment, schedule, growth), growth * duration));
@@ -408,7 +409,7 @@ Value pv(std::span<const Value> arguments) {
     const auto [second, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
     const Real growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    if (growth >= 0) {
+    if (growth >= 0 || (second == 0 && std::isfinite(growth))) {
         return finite(grown(second, -growth * duration) - discounted(payment, schedule, growth));
     }
     return finite(grown(second - accumulated(payment, schedule, growth), -growth * duration));
@@ -418,11 +419,25 @@ Value pmt(std::span<const Value> arguments) {
     const auto [first, second, duration, annualRate, compounding, period, timing] = readArguments(arguments, 2, 4);
     const Real growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    // Seen from the side on which nothing overflows.
-    if (growth <= 0) {
-        return finite(difference(second, first, growth * duration) / accumulated(1, schedule, growth));
+    // Where all is lost at once, payments at the start have no part in the second value.
+    if (std::isinf(growth) && schedule.atStart) {
+        raise(ErrorCode::NoSolution);
     }
-    return finite(-difference(first, second, -growth * duration) / discounted(1, schedule, growth));
+    // Seen from the side on which nothing overflows: backwards in time where amounts grow.
+    const bool falls = growth <= 0;
+    const Real steepness = -std::fabs(growth);
+    const Real later = falls ? second : first;
+    const Real earlier = falls ? first : second;
+    const Real delay = schedule.atStart == falls ? period : 0;
+    const Real ratio = accumulated(1, {duration, period, false}, steepness);
+    Real payment = 0;
+    if (later == 0) {
+        payment = -grown(earlier / ratio, steepness * (duration - delay));
+    } else {
+        payment = difference(later, earlier, steepness * duration) / ratio;
+        payment = delay == 0 ? payment : grown(payment, -steepness * delay);
+    }
+    return finite(falls ? payment : -payment);
 }
 
 Value dur(std::span<const Value> arguments) {
@@ -435,12 +450,24 @@ Value dur(std::span<const Value> arguments) {
     if (!std::isfinite(growth)) {
         raise(ErrorCode::NoSolution);
     }
-    // With the value a of endless payments, (second + a) = (first + a) e^(xT).
-    const Real perPeriod = timing == 1 ? -std::expm1(-growth * period) : std::expm1(growth * period);
-    const Real endless = payment / perPeriod;
-    const Real duration = perPeriod == 0 || std::isinf(endless)
-                              ? (second - first) / payment * period
-                              : logarithmOfRatio(second + endless, first + endless, second - first) / growth;
+    // With the value a of endless payments, (second + a) = (first + a) e^(xT). Where e^(|x|p) is large, a is next to 0
+    // or to a payment: the rest, which the amounts may leave alone, is kept apart.
+    const Real shrinking = -std::fabs(growth * period);
+    const Real towards = growth > 0 ? payment : -payment;
+    const Real rest = grown(towards / -std::expm1(shrinking), shrinking);
+    const Real whole = (timing == 1) == (growth > 0) ? towards : 0;
+    const Real later = second + whole;
+    const Real earlier = first + whole;
+    Real duration = 0;
+    if (shrinking == 0 || std::isinf(rest)) {
+        duration = (second - first) / payment * period;
+    } else if (payment != 0 && !std::isnormal(rest) && growth > 0 && earlier == 0) {
+        duration = logarithmOfRatio(later, towards, later - towards) / growth + period;
+    } else if (payment != 0 && !std::isnormal(rest) && growth < 0 && later == 0) {
+        duration = logarithmOfRatio(towards, earlier, towards - earlier) / growth + period;
+    } else {
+        duration = logarithmOfRatio(later + rest, earlier + rest, second - first) / growth;
+    }
     if (duration < 0) {
         raise(ErrorCode::NoSolution);
     }
