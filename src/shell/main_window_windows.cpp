@@ -234,8 +234,7 @@ const MainWindow::CaptionRow MainWindow::captionRows[] = {
     {'C', &MainWindow::closeByButton},
 };
 
-MainWindow::MainWindow(Settings& settings, UserDialogs dialogs)
-    : settings_(settings), dialogs_(std::move(dialogs)) {
+MainWindow::MainWindow(Settings& settings, UserDialogs dialogs) : settings_(settings), dialogs_(std::move(dialogs)) {
     const std::wstring title = wideProgramTitle();
     Procedure::registerClass(title);
     constexpr int systemsChoice = CW_USEDEFAULT;

@@ -78,7 +78,7 @@ TEST(WindowPlace, OnlyAnUnreachableOneIsMoved) {
         {{-300, 10, 300, 200}, middle},
         {{-32000, -32000, 300, 200}, middle},
         {{1100, 400, 300, 200}, middle},  // below the second screen
-        {{10, 10, 0, 0}, middle},  // the system's choice for a window without a size
+        {{10, 10, 0, 0}, middle},         // the system's choice for a window without a size
         {{10, 10, 300, 99}, middle},
         {{largest, largest, largest, largest}, middle},
         {{10, 10, -300, -200}, middle},
