@@ -55,14 +55,16 @@ BoxText saveFailedBox(const std::wstring& file, const FileFault& fault) {
 
 BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
     BoxText box = failureBox(BoxKind::RetryOrCancel, cannotSave, file, fault);
-    box.text += L"\n\nCancel keeps Calquo open, so that you can save the work area elsewhere.";
+    box.text +=
+        L"\n\nCancel keeps Calquo open: then you can save the work area elsewhere, or turn off \"Save Default at "
+        L"Exit\".";
     return box;
 }
 
 BoxText replaceUnreadFileBox(const std::wstring& file) {
     return {BoxKind::YesNoOrCancel, caption(),
             L"The work area is about to be saved to its default file\n" + file +
-                L"\n\nThat file could not be read when Calquo started. Is the work area to replace it?\n\n"
+                L"\n\nThat file was not read when Calquo started. Is the work area to replace it?\n\n"
                 L"No ends Calquo without saving; Cancel keeps it open."};
 }
 
