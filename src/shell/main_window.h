@@ -99,6 +99,7 @@ private:
     void openHelpMenu(const Component& button);
 
     bool canHaveFocus(WindowHandle window) const;
+    void giveFocusToPart();
     WindowParts parts() const;
     Size smallestWindow() const;
     void moveWhereItCanBeReached();

@@ -367,8 +367,10 @@ bool MainWindow::canHaveFocus(WindowHandle window) const {
     return isDialog || IsChild(handle(), window) != 0;
 }
 
+void MainWindow::giveFocusToPart() { SetFocus(canHaveFocus(lastFocus_) ? lastFocus_ : workArea_->handle()); }
+
 std::optional<MessageAnswer> MainWindow::passFocusOn(const Message&) {
-    SetFocus(canHaveFocus(lastFocus_) ? lastFocus_ : workArea_->handle());
+    giveFocusToPart();
     return 0;
 }
 
@@ -456,6 +458,9 @@ std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
         caption_->showMaximized(IsZoomed(handle()) != 0);
         layOut();
         InvalidateRect(handle(), nullptr, FALSE);
+        if (GetFocus() == handle()) {
+            giveFocusToPart();  // what is minimized could not pass it on
+        }
     }
     // Also while minimized or maximized: the next start is to find the last rectangle that the system reported.
     const RECT corners = cornersOf(windowRectangle(handle()));
