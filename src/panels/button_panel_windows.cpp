@@ -44,9 +44,9 @@ struct Performer {
 }  // namespace
 
 ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry)
-    : Panel(parent, {entry.identifier, cataloguePanelStyle, Direction::Down}) {
+    : Panel(parent, {entry.identifier, cataloguePanelStyle, Direction::Down, true}) {
     for (const PanelRow row : entry.rows) {
-        Panel& rowPanel = add<Panel>(Panel::Creation{0, 0, Direction::Across});
+        Panel& rowPanel = add<Panel>(Panel::Creation{0, 0, Direction::Across, true});
         for (const PanelButton& button : row) {
             addButton(rowPanel, button);
         }
@@ -54,7 +54,7 @@ ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry)
 }
 
 ButtonPanel::ButtonPanel(WindowHandle parent, std::uint16_t identifier, PanelRow row)
-    : Panel(parent, {identifier, captionPanelStyle, Direction::Across}) {
+    : Panel(parent, {identifier, captionPanelStyle, Direction::Across, true}) {
     for (const PanelButton& button : row) {
         addButton(*this, button);
     }

@@ -20,8 +20,7 @@
 namespace calquo {
 namespace {
 
-constexpr DWORD windowStyle =
-    WS_POPUP | WS_VISIBLE | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN;
+constexpr DWORD windowStyle = WS_POPUP | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN;
 constexpr DWORD extendedStyle = WS_EX_APPWINDOW;
 
 /// What a usable work area measures at least, in buttons.

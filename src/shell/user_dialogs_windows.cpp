@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "values/errors.h"
+#include "widgets/handles.h"
 #include "widgets/windows_api.h"
 
 // Needs <windows.h> in front of it.
@@ -51,6 +53,35 @@ BoxAnswer showBox(WindowHandle owner, const BoxText& box) {
     return answerOf(MessageBoxW(owner, box.text.c_str(), box.caption.c_str(), row->type));
 }
 
+/// The library of the file dialogs. It brings half a dozen others with it, so it is loaded when a dialog is first
+/// wanted, and not at every start.
+class FileDialogLibrary {
+public:
+    /// Raises InternalFault when a function is missing.
+    FileDialogLibrary()
+        : library_(loadSystemLibrary(L"comdlg32.dll")),
+          open(find<decltype(&GetOpenFileNameW)>("GetOpenFileNameW")),
+          save(find<decltype(&GetSaveFileNameW)>("GetSaveFileNameW")),
+          errorCode(find<decltype(&CommDlgExtendedError)>("CommDlgExtendedError")) {}
+
+private:
+    template <typename Function>
+    Function find(const char* name) const {
+        const FARPROC function = library_ ? GetProcAddress(library_.get(), name) : nullptr;
+        if (function == nullptr) {
+            raise(ErrorCode::InternalFault);
+        }
+        return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(function));
+    }
+
+    LibraryOwner library_;
+
+public:
+    const decltype(&GetOpenFileNameW) open;
+    const decltype(&GetSaveFileNameW) save;
+    const decltype(&CommDlgExtendedError) errorCode;
+};
+
 /// Goes back at its end to the folder that was the current one, since a file dialog may leave another.
 class CurrentFolder {
 public:
@@ -79,8 +110,9 @@ FileChoice chooseFile(WindowHandle owner, const FileRequest& request) {
     dialog.lpstrTitle = request.title.c_str();
     dialog.lpstrDefExt = defaultExtension;
     dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOREADONLYRETURN | OFN_LONGNAMES;
-    const BOOL chosen = request.dialog == FileDialog::Open ? GetOpenFileNameW(&dialog) : GetSaveFileNameW(&dialog);
-    return chosen != 0 ? FileChoice{name.data(), 0} : FileChoice{{}, CommDlgExtendedError()};
+    static const FileDialogLibrary library;
+    const BOOL chosen = request.dialog == FileDialog::Open ? library.open(&dialog) : library.save(&dialog);
+    return chosen != 0 ? FileChoice{name.data(), 0} : FileChoice{{}, library.errorCode()};
 }
 
 }  // namespace

@@ -29,6 +29,9 @@ public:
     Color face() const { return face_; }
     bool isPressed() const { return press_.isPressed(); }
 
+    /// Draws its face; the font that it writes with stays selected.
+    void draw(DrawingContext context, Size size) override;
+
     /// Changes the texts, the symbol and the colour; the rest stays.
     void setLook(const ButtonDescription& description);
 

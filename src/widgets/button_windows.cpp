@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "widgets/paint_buffer.h"
 #include "widgets/painting.h"
+#include "widgets/shape_coverage.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -37,23 +39,35 @@ int widthOf(HDC context, const std::wstring& text) {
     return size.cx;
 }
 
-/// The widest font of the buttons in which a label takes up no more than `room` pixels.
-FontHandle fittingFont(HDC context, const std::wstring& label, int room) {
-    FontHandle font = buttonFont();
-    const Selection usual(context, font);
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context, &metrics);
-    for (LONG averageWidth = metrics.tmAveCharWidth; averageWidth > 0 && widthOf(context, label) > room;
-         --averageWidth) {
-        font = narrowButtonFont(static_cast<int>(averageWidth));
+/// Selects a font where it is not selected already: a selection is dear. The context must end before the font.
+void selectFont(HDC context, FontHandle font) {
+    if (GetCurrentObject(context, OBJ_FONT) != font) {
         SelectObject(context, font);
     }
-    return font;
+}
+
+/// Selects the widest font of the buttons in which a label takes up no more than `room` pixels.
+void selectFittingFont(HDC context, const std::wstring& label, int room) {
+    selectFont(context, buttonFont());
+    const int usual = widthOf(context, label);
+    if (usual <= room) {
+        return;
+    }
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context, &metrics);
+    // The search begins close to its end: labels widen about as their characters do.
+    const int averageWidth = metrics.tmAveCharWidth;
+    for (int width = std::min(averageWidth, averageWidth * room / usual + 1); width > 0; --width) {
+        selectFont(context, narrowButtonFont(width));
+        if (widthOf(context, label) <= room) {
+            return;
+        }
+    }
 }
 
 /// Writes the label in the middle of an area, narrower where it would not fit.
 void paintLabel(HDC context, const std::wstring& label, Size area, Color color) {
-    const Selection font(context, fittingFont(context, label, area.width - area.height / 4));
+    selectFittingFont(context, label, area.width - area.height / 4);
     SetTextColor(context, colorReference(color));
     SetBkMode(context, TRANSPARENT);
     RECT place{0, 0, area.width, area.height};
@@ -61,11 +75,25 @@ void paintLabel(HDC context, const std::wstring& label, Size area, Color color) 
               DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
 }
 
-/// Draws the symbol in the middle of an area.
-void paintSymbol(PaintBuffer& buffer, Symbol symbol, Size area, Color color) {
+/// Draws the symbol in the middle of an area of one colour.
+void paintSymbol(HDC context, Symbol symbol, Size area, Color ground, Color color) {
     const Coverage coverage = coverageOf(shapeOf(symbol), area.height * 3 / 5);
-    const Point place{(area.width - coverage.size.width) / 2, (area.height - coverage.size.height) / 2};
-    buffer.lay(coverage, place, color);
+    const auto [width, height] = coverage.size;
+    std::vector<std::uint32_t> pixels(coverage.alpha.size());
+    std::transform(coverage.alpha.begin(), coverage.alpha.end(), pixels.begin(), [&](std::uint8_t alpha) {
+        const Color pixel = mixed(ground, color, alpha * 100 / 255);
+        return std::uint32_t{pixel.red} << 16 | std::uint32_t{pixel.green} << 8 | pixel.blue;
+    });
+    BITMAPINFO description{};
+    description.bmiHeader.biSize = sizeof description.bmiHeader;
+    description.bmiHeader.biWidth = width;
+    description.bmiHeader.biHeight = -height;  // from the top
+    description.bmiHeader.biPlanes = 1;
+    description.bmiHeader.biBitCount = 32;
+    description.bmiHeader.biCompression = BI_RGB;
+    SetDIBitsToDevice(context, (area.width - width) / 2, (area.height - height) / 2, static_cast<DWORD>(width),
+                      static_cast<DWORD>(height), 0, 0, 0, static_cast<UINT>(height), pixels.data(), &description,
+                      DIB_RGB_COLORS);
 }
 
 }  // namespace
@@ -85,10 +113,11 @@ const Button::MessageRow Button::messageRows[] = {
     {WM_CAPTURECHANGED, &Button::loseCapture},
     {WM_PAINT, &Button::paint},
     {WM_ERASEBKGND, &Button::keepBackground},
+    {WM_NCPAINT, &Button::keepBackground},  // there is no frame to paint
 };
 
 const Component::WidgetClass& Button::widgetClass() {
-    static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor);
+    static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor, true);
     return registered;
 }
 
@@ -188,21 +217,25 @@ std::optional<MessageAnswer> Button::keepBackground(const Message&) {
 std::optional<MessageAnswer> Button::paint(const Message&) {
     const Painting painting(handle());
     const Size size = clientSize(handle());
-    PaintBuffer buffer(size);
+    const PaintBuffer buffer(painting.context(), size);
     const HDC context = buffer.context();
     const LRESULT background = SendMessageW(parent(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context),
                                             reinterpret_cast<LPARAM>(handle()));
     const RECT whole{0, 0, size.width, size.height};
     FillRect(context, &whole, reinterpret_cast<HBRUSH>(background));
+    draw(context, size);
+    buffer.show();
+    return 0;
+}
+
+void Button::draw(DrawingContext context, Size size) {
     const ButtonFace face = buttonFace(size, face_, press_.isPressed());
     paintLayers(context, face.layers);
     if (symbol_ == Symbol::None) {
         paintLabel(context, wideText(label()), size, face.textColor);
     } else {
-        paintSymbol(buffer, symbol_, size, face.textColor);
+        paintSymbol(context, symbol_, size, face.layers.back().color, face.textColor);
     }
-    buffer.show(painting.context());
-    return 0;
 }
 
 }  // namespace calquo

@@ -82,9 +82,10 @@ protected:
     };
 
     /// Registers `name` with the description of `systemClass`, but with the widgets' window procedure in front of the
-    /// system's. `cursor` is a resource of the program, shown where the program has it. Raises InternalFault when the
-    /// system refuses.
-    static WidgetClass registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor = 0);
+    /// system's. `cursor` is a resource of the program, shown where the program has it. Widgets of which a window has
+    /// many share one drawing context. Raises InternalFault when the system refuses.
+    static WidgetClass registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor = 0,
+                                     bool shareContext = false);
 
     /// Creates the window, without a size; raises InternalFault when the system refuses. `filter` hears the messages
     /// that follow the creation.
@@ -117,6 +118,7 @@ private:
     std::string text_;
     Size preferredSize_;
     Rectangle place_;
+    bool placed_ = false;  ///< A widget is shown when it first gets its place.
     int dropHeight_ = 0;
     WindowOwner window_;
     WindowOwner tooltip_;

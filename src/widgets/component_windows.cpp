@@ -1,6 +1,8 @@
 // A widget's window, and the window procedure that leads its messages to the widget.
 #include "widgets/component.h"
 
+#include <utility>
+
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
 #include "widgets/tooltip.h"
@@ -42,7 +44,8 @@ struct Component::Procedure {
     }
 };
 
-Component::WidgetClass Component::registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor) {
+Component::WidgetClass Component::registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor,
+                                                bool shareContext) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     WNDCLASSW description{};
     if (GetClassInfoW(nullptr, systemClass, &description) == 0) {
@@ -50,6 +53,9 @@ Component::WidgetClass Component::registerClass(const wchar_t* systemClass, cons
     }
     const WidgetClass made{name, reinterpret_cast<SystemProcedure>(description.lpfnWndProc)};
     description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+    if (shareContext) {
+        description.style = (description.style & ~static_cast<UINT>(CS_PARENTDC)) | CS_CLASSDC;
+    }
     description.lpfnWndProc = Procedure::receive;
     description.hInstance = program;
     description.lpszClassName = name;
@@ -69,9 +75,9 @@ Component::Component(const WidgetClass& widgetClass, const Creation& creation, M
       systemProcedure_(widgetClass.systemProcedure),
       text_(creation.text) {
     const HMENU identifier = reinterpret_cast<HMENU>(static_cast<std::uintptr_t>(command_));
-    const HWND created = CreateWindowExW(creation.extendedStyle, widgetClass.name, wideText(label()).c_str(),
-                                         WS_CHILD | WS_VISIBLE | creation.style, 0, 0, 0, 0, parent_, identifier,
-                                         GetModuleHandleW(nullptr), this);
+    const HWND created =
+        CreateWindowExW(creation.extendedStyle, widgetClass.name, wideText(label()).c_str(), WS_CHILD | creation.style,
+                        0, 0, 0, 0, parent_, identifier, GetModuleHandleW(nullptr), this);
     if (created == nullptr) {
         window_.release();
         raise(ErrorCode::InternalFault);
@@ -123,7 +129,9 @@ void Component::moveTo(const Rectangle& place) {
         return;
     }
     place_ = place;
-    MoveWindow(handle(), place.left, place.top, place.width, place.height + dropHeight_, TRUE);
+    const UINT showing = std::exchange(placed_, true) ? 0U : static_cast<UINT>(SWP_SHOWWINDOW);
+    SetWindowPos(handle(), nullptr, place.left, place.top, place.width, place.height + dropHeight_,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE | showing);
 }
 
 void Component::show() { ShowWindow(handle(), SW_SHOWNA); }

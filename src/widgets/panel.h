@@ -25,6 +25,8 @@ public:
         std::uint16_t command = 0;
         std::uint32_t style = 0;  ///< Bits of PanelStyle.
         Direction direction = Direction::Down;
+        /// Paints its children as well, all at once: they are widgets that can draw themselves.
+        bool paintsChildren = false;
     };
 
     Panel(WindowHandle parent, const Creation& creation);
@@ -45,6 +47,8 @@ public:
     Size preferredSize() const override;
     /// Places the children within the panel's present size, and theirs.
     void layOut() override;
+    /// Draws the children.
+    void draw(DrawingContext context, Size size) override;
     /// Passes the notification on to the panel's own parent, unchanged.
     std::optional<MessageAnswer> hearChildCommand(const Message& message) override;
 
@@ -53,10 +57,12 @@ private:
 
     void layOutDown(int width);
     void layOutAcross(int width);
+    void paintAll();
     std::optional<MessageAnswer> hear(const Message& message);
 
     Direction direction_;
     int margin_;
+    bool paintsChildren_;
     std::vector<std::unique_ptr<Component>> children_;
 };
 

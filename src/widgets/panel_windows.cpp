@@ -3,21 +3,32 @@
 
 #include <algorithm>
 
+#include "widgets/paint_buffer.h"
+#include "widgets/painting.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
+namespace {
+
+/// What paints its children must not leave them out.
+std::uint32_t styleOf(const Panel::Creation& creation) {
+    return WS_CLIPSIBLINGS | (creation.paintsChildren ? 0U : std::uint32_t{WS_CLIPCHILDREN});
+}
+
+}  // namespace
 
 const Component::WidgetClass& Panel::widgetClass() {
-    static const WidgetClass registered = registerClass(L"STATIC", L"CalquoPanel");
+    static const WidgetClass registered = registerClass(L"STATIC", L"CalquoPanel", 0, true);
     return registered;
 }
 
 Panel::Panel(WindowHandle parent, const Creation& creation)
-    : Component(widgetClass(), {parent, creation.command, WS_CLIPCHILDREN | WS_CLIPSIBLINGS, {}},
+    : Component(widgetClass(), {parent, creation.command, styleOf(creation), {}},
                 [this](const Message& message) { return hear(message); }),
       direction_(creation.direction),
-      margin_((creation.style & panelMargin) != 0 ? buttonSize() / 4 : 0) {}
+      margin_((creation.style & panelMargin) != 0 ? buttonSize() / 4 : 0),
+      paintsChildren_(creation.paintsChildren) {}
 
 Panel::~Panel() {
     // With the children's windows, which then need not vanish one by one.
@@ -72,12 +83,46 @@ void Panel::layOutAcross(int width) {
     }
 }
 
+void Panel::draw(DrawingContext context, Size) {
+    POINT origin{};
+    GetViewportOrgEx(context, &origin);
+    for (const auto& child : children_) {
+        const Rectangle place = child->place();
+        SetViewportOrgEx(context, origin.x + place.left, origin.y + place.top, nullptr);
+        child->draw(context, {place.width, place.height});
+    }
+    SetViewportOrgEx(context, origin.x, origin.y, nullptr);
+}
+
+void Panel::paintAll() {
+    const Painting painting(handle());
+    const Size size = clientSize(handle());
+    const PaintBuffer buffer(painting.context(), size);
+    const LRESULT background = SendMessageW(parent(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(buffer.context()),
+                                            reinterpret_cast<LPARAM>(handle()));
+    const RECT whole{0, 0, size.width, size.height};
+    FillRect(buffer.context(), &whole, reinterpret_cast<HBRUSH>(background));
+    draw(buffer.context(), size);
+    buffer.show();
+    RedrawWindow(handle(), nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+}
+
 std::optional<MessageAnswer> Panel::hearChildCommand(const Message& message) {
     return SendMessageW(parent(), message.code, message.wide, message.extra);
 }
 
 std::optional<MessageAnswer> Panel::hear(const Message& message) {
     switch (message.code) {
+        case WM_NCPAINT:
+            return 0;  // there is no frame to paint
+        case WM_ERASEBKGND:
+            return paintsChildren_ ? std::optional<MessageAnswer>(1) : std::nullopt;
+        case WM_PAINT:
+            if (paintsChildren_) {
+                paintAll();
+                return 0;
+            }
+            return std::nullopt;
         // Whatever stands on the panel has the panel's own background, which its parent chooses.
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
