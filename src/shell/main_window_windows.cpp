@@ -248,6 +248,8 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs) : settings_(sett
         rethrowKeptException();
         raise(ErrorCode::InternalFault);
     }
+    // A hundred buttons are shown at once, when they have their places, rather than one by one.
+    SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW | SWP_DEFERERASE);
 }
 
 MainWindow::~MainWindow() {

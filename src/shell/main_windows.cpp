@@ -27,8 +27,6 @@ int runProgram(int showCommand) {
     const Marks marks = settings.marks();
     setMarks(marks.decimal, marks.group);
     MainWindow window(settings);
-    // Painting erases what it has to; everything at once is faster than a message for each of a hundred buttons.
-    SetWindowPos(window.handle(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW | SWP_DEFERERASE);
     ShowWindow(window.handle(), showCommand);
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const int code = runMessageLoop(reportSpecialCase);
