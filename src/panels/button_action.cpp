@@ -13,9 +13,6 @@
 namespace calquo {
 namespace {
 
-/// Among the keypads, the one whose buttons do more than type.
-constexpr std::uint16_t numericBasePanel = 0xA113;
-
 /// What goes in front of and behind the selection.
 struct Surroundings {
     std::string prefix;

@@ -170,7 +170,7 @@ constexpr PanelSource panels[] = {
       keys("89AB*/"),
       keys("4567@,"),
       keys("0123.", enter)}},
-    {0xA113, PanelGroup::Keypads, "&Numeric base", {127, 127, 0},
+    {numericBasePanel, PanelGroup::Keypads, "&Numeric base", {127, 127, 0},
      {{{"2'", 1, "Base 2 prefix"},
        {"8'", 1, "Base 8 prefix"},
        {"16'", 1, "Base 16 prefix"},
@@ -410,9 +410,9 @@ const PanelEntry* findPanel(std::uint16_t identifier) {
 
 PanelRow captionPanel(std::uint16_t identifier) {
     switch (identifier) {
-        case 0x9011:
+        case leftCaptionPanel:
             return leftCaption;
-        case 0x9012:
+        case rightCaptionPanel:
             return rightCaption;
         default:
             return {};

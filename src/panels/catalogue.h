@@ -58,7 +58,14 @@ std::span<const PanelEntry> panelCatalogue();
 /// The panel of an identifier; null when there is none.
 const PanelEntry* findPanel(std::uint16_t identifier);
 
-/// The buttons of one of the two panels of the caption strip, which no menu shows; empty for another identifier.
+/// Among the keypads, the one whose buttons do more than type.
+inline constexpr std::uint16_t numericBasePanel = 0xA113;
+
+/// The two panels of the caption strip, which no menu shows.
+inline constexpr std::uint16_t leftCaptionPanel = 0x9011;
+inline constexpr std::uint16_t rightCaptionPanel = 0x9012;
+
+/// The buttons of one of the two; empty for another identifier.
 PanelRow captionPanel(std::uint16_t identifier);
 
 /// What the button that maximizes the window becomes while the window is maximized.

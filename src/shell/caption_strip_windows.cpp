@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "shell/command_ids.h"
 #include "shell/program_title.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
@@ -11,8 +10,6 @@
 namespace calquo {
 namespace {
 
-constexpr std::uint16_t leftIdentifier = identifierOf(Command::LeftCaptionPanel);
-constexpr std::uint16_t rightIdentifier = identifierOf(Command::RightCaptionPanel);
 constexpr std::string_view maximizeLabel = "M";
 
 /// The colours of the strip: behind everything, and of the buttons.
@@ -28,8 +25,8 @@ const CaptionColors& colorsOf(bool active) { return active ? activeColors : inac
 }  // namespace
 
 CaptionStrip::CaptionStrip(WindowHandle parent)
-    : left_(parent, leftIdentifier, captionPanel(leftIdentifier)),
-      right_(parent, rightIdentifier, captionPanel(rightIdentifier)) {
+    : left_(parent, leftCaptionPanel, captionPanel(leftCaptionPanel)),
+      right_(parent, rightCaptionPanel, captionPanel(rightCaptionPanel)) {
     giveLooks();
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "format/numeric_format.h"
+#include "panels/catalogue.h"
 
 namespace calquo {
 
@@ -26,8 +27,6 @@ enum class Command : std::uint16_t {
     ButtonsAddDegrees = 0x8031,
     ButtonsAddGradients = 0x8032,
     ButtonsAddRadians = 0x8033,
-    LeftCaptionPanel = 0x9011,  ///< The two caption panels are never in a menu.
-    RightCaptionPanel = 0x9012,
 };
 
 constexpr std::uint16_t identifierOf(Command command) { return static_cast<std::uint16_t>(command); }
@@ -51,8 +50,7 @@ inline constexpr CommandRange selectFormatCommands{0x511, 0x517};
 inline constexpr CommandRange modifyFormatCommands{selectFormatCommands.first + modifyFormatBase,
                                                    selectFormatCommands.last + modifyFormatBase};
 static_assert(selectFormatCommands.last - selectFormatCommands.first + 1 == formatKinds.size());
-static_assert(!panelCommands.contains(identifierOf(Command::LeftCaptionPanel)) &&
-              !panelCommands.contains(identifierOf(Command::RightCaptionPanel)));
+static_assert(!panelCommands.contains(leftCaptionPanel) && !panelCommands.contains(rightCaptionPanel));
 
 /// The format that an identifier of one of the two ranges is about.
 constexpr FormatKind formatOf(CommandRange range, std::uint16_t identifier) {

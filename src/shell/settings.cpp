@@ -10,6 +10,7 @@
 #include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "values/errors.h"
+#include "widgets/toolkit.h"
 
 namespace calquo {
 namespace {
@@ -206,10 +207,10 @@ void Settings::chooseAngle(AngleOption option) {
 }
 
 std::optional<int> Settings::buttonSize() const {
-    constexpr std::uint32_t smallest = 12;
     constexpr std::uint32_t largest = 200;
     const std::uint32_t stored = number(NumberSetting::ButtonSize);
-    return stored == 0 ? std::nullopt : std::optional(static_cast<int>(std::clamp(stored, smallest, largest)));
+    const int usable = std::max(static_cast<int>(std::min(stored, largest)), smallestButtonSize);
+    return stored == 0 ? std::nullopt : std::optional(usable);
 }
 
 std::optional<ScreenRectangle> Settings::windowRect() const {
