@@ -142,7 +142,8 @@ public:
             buffered_ += wordBits - bits_;
         }
         const auto range = std::int32_t{1} << bits_;
-        const auto value = static_cast<std::int32_t>(static_cast<std::uint32_t>(digit) & (range - 1)) + carry_;
+        const auto mask = static_cast<std::uint64_t>(range - 1);
+        const auto value = static_cast<std::int32_t>(digit & mask) + carry_;
         carry_ = value >= range / 2 ? 1 : 0;
         return value - carry_ * range;
     }
