@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "shell/command_ids.h"
 #include "shell/settings.h"
@@ -19,8 +20,9 @@ public:
     /// Reads the default file into the new work area; that there is none is no failure. Nothing is left to undo.
     void readDefaultAtStartup();
 
-    /// Saves the work area to the default file; false when the user wants to stay instead. A file that could not be
-    /// read at the start is not replaced unasked.
+    /// Saves the work area to the default file; false when the user wants to stay instead. A file that was to be read
+    /// at the start, or was chosen since, and has not been read or saved, is not replaced unasked. A work area that
+    /// nobody has touched, and that is empty, replaces no file at all.
     bool saveDefaultAtExit();
 
     void readDefault();
@@ -32,15 +34,17 @@ public:
 
 private:
     std::wstring defaultFile() const;
-    bool read(const std::wstring& file);
-    bool save(const std::wstring& file);
+    void read(const std::wstring& file);
+    void save(const std::wstring& file);
+    bool isKnown(const std::wstring& file) const;
 
     WindowHandle owner_;
     WorkArea& workArea_;
     Settings& settings_;
     const UserDialogs& dialogs_;
     WorkAreaFile file_;
-    bool defaultIsUnread_ = false;  ///< It was to be read at the start, but was not.
+    std::vector<std::wstring> known_;  ///< The files that have been read or saved, with their whole paths.
+    bool asksForUnknownDefault_ = false;
 };
 
 }  // namespace calquo

@@ -1,6 +1,8 @@
 // What the file commands do, and whom they ask.
 #include "shell/file_commands.h"
 
+#include <algorithm>
+
 #include "shell/file_messages.h"
 #include "widgets/windows_api.h"
 #include "workarea/disk_file.h"
@@ -30,11 +32,11 @@ std::wstring FileCommands::defaultFile() const { return fullFileName(settings_.t
 
 void FileCommands::readDefaultAtStartup() {
     const std::wstring file = defaultFile();
-    defaultIsUnread_ = true;
+    asksForUnknownDefault_ = true;
     try {
         const WaitCursor busy;
         file_.read(file);
-        defaultIsUnread_ = false;
+        known_.push_back(file);
     } catch (const FileFault& fault) {
         if (!isAbsence(fault.failure)) {
             dialogs_.showBox(owner_, readFailedBox(file, fault));
@@ -45,7 +47,11 @@ void FileCommands::readDefaultAtStartup() {
 
 bool FileCommands::saveDefaultAtExit() {
     const std::wstring file = defaultFile();
-    if (defaultIsUnread_ && fileExists(file)) {
+    const bool exists = fileExists(file);
+    if (exists && workArea_.isUntouchedAndEmpty()) {
+        return true;
+    }
+    if (exists && asksForUnknownDefault_ && !isKnown(file)) {
         const BoxAnswer answer = dialogs_.showBox(owner_, replaceUnreadFileBox(file));
         if (answer != BoxAnswer::Yes) {
             return answer == BoxAnswer::No;
@@ -55,6 +61,7 @@ bool FileCommands::saveDefaultAtExit() {
         try {
             const WaitCursor busy;
             file_.write(file);
+            known_.push_back(file);
             return true;
         } catch (const FileFault& fault) {
             if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
@@ -64,17 +71,9 @@ bool FileCommands::saveDefaultAtExit() {
     }
 }
 
-void FileCommands::readDefault() {
-    if (read(defaultFile())) {
-        defaultIsUnread_ = false;
-    }
-}
+void FileCommands::readDefault() { read(defaultFile()); }
 
-void FileCommands::saveDefault() {
-    if (save(defaultFile())) {
-        defaultIsUnread_ = false;
-    }
-}
+void FileCommands::saveDefault() { save(defaultFile()); }
 
 void FileCommands::actOnChosenFile(Command command) {
     const FileChoice choice =
@@ -89,30 +88,34 @@ void FileCommands::actOnChosenFile(Command command) {
         save(choice.name);
     } else {
         settings_.setText(TextSetting::DefaultFile, choice.name);
-        defaultIsUnread_ = false;
+        asksForUnknownDefault_ = true;
     }
 }
 
-bool FileCommands::read(const std::wstring& file) {
+void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.read(file);
-        return true;
+        known_.push_back(file);
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
-        return false;
     }
 }
 
-bool FileCommands::save(const std::wstring& file) {
+void FileCommands::save(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.write(file);
-        return true;
+        known_.push_back(file);
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, saveFailedBox(file, fault));
-        return false;
     }
+}
+
+bool FileCommands::isKnown(const std::wstring& file) const {
+    return std::any_of(known_.begin(), known_.end(), [&](const std::wstring& known) {
+        return CompareStringOrdinal(known.c_str(), -1, file.c_str(), -1, TRUE) == CSTR_EQUAL;
+    });
 }
 
 }  // namespace calquo

@@ -64,7 +64,7 @@ BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
 BoxText replaceUnreadFileBox(const std::wstring& file) {
     return {BoxKind::YesNoOrCancel, caption(),
             L"The work area is about to be saved to its default file\n" + file +
-                L"\n\nThat file was not read when Calquo started. Is the work area to replace it?\n\n"
+                L"\n\nWhat is in that file has not been read. Is the work area to replace it?\n\n"
                 L"No ends Calquo without saving; Cancel keeps it open."};
 }
 

@@ -20,7 +20,7 @@ BoxText readFailedBox(const std::wstring& file, const FileFault& fault);
 BoxText saveFailedBox(const std::wstring& file, const FileFault& fault);
 /// At the program's end: Cancel keeps it open.
 BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault);
-/// At the program's end, where the default file that is about to be replaced has not been read at the start.
+/// At the program's end, where the default file that is about to be replaced has not been read.
 BoxText replaceUnreadFileBox(const std::wstring& file);
 
 /// Whether the failure says that there is no file.

@@ -82,6 +82,9 @@ public:
     /// The whole text in UTF-16, line ends as "\r\n"; raises bad_alloc when memory runs out.
     std::wstring contentAsPlainText() const;
 
+    /// Whether there is no text and nobody has entered or deleted any.
+    bool isUntouchedAndEmpty() const;
+
     /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret behind it.
     /// What it says nothing of looks normal. False, with the text as it was, when the control does not take it. Undo
     /// brings the old text back.

@@ -315,6 +315,10 @@ std::wstring TextArea::contentAsPlainText() const {
     return text;
 }
 
+bool TextArea::isUntouchedAndEmpty() const {
+    return lengthOf(handle()) == 0 && SendMessageW(handle(), EM_GETMODIFY, 0, 0) == 0;
+}
+
 bool TextArea::replaceContentByRichText(std::string_view text) { return replaceContent(text, SF_RTF); }
 
 bool TextArea::replaceContentByPlainText(std::wstring_view text) {

@@ -13,7 +13,7 @@
 namespace calquo {
 namespace {
 
-constexpr unsigned readDefault = 0x140, saveDefault = 0x141, readAtStartup = 0x142, saveAtExit = 0x143,
+constexpr unsigned clear = 0x120, readDefault = 0x140, saveDefault = 0x141, readAtStartup = 0x142, saveAtExit = 0x143,
                    selectDefault = 0x144, readFrom = 0x160, saveAs = 0x161;
 
 /// The user: gives the answers in their order, then cancels, and notes what was asked.
@@ -314,6 +314,12 @@ TEST(FileCommands, TheQuestionIsOverOnceTheDefaultFileIsTheUsersOwn) {
             user.choice.name = folder.path(L"e.rtf");
             program.command(selectDefault);
         },
+        [](Program& program, const FileFolder& folder, User& user) {
+            user.choice.name = folder.path(L"e.rtf");
+            program.command(saveAs);
+            user.choice.name = folder.path(L"E.RTF");
+            program.command(selectDefault);
+        },
     };
     for (std::size_t way = 0; way < ways.size(); ++way) {
         SCOPED_TRACE(way);
@@ -330,14 +336,49 @@ TEST(FileCommands, TheQuestionIsOverOnceTheDefaultFileIsTheUsersOwn) {
                 .bytes(fullFileName(program.settings().text(TextSetting::DefaultFile)).substr(folder.path(L"").size()))
                 .starts_with("{\\rtf1"));
     }
-    // One that has appeared since the start is not.
+}
+
+TEST(FileCommands, ADefaultFileOfUnknownContentIsNotReplacedUnasked) {
+    struct Row {
+        const char* name;
+        unsigned options;
+        void (*act)(Program&, const FileFolder&, User&);
+        std::size_t boxes;
+    };
+    const Row rows[] = {
+        {"has appeared since the start", ReadAtStartup | SaveAtExit,
+         [](Program& program, const FileFolder&, User&) { program.setText(L"2+3"); }, 1},
+        {"has been chosen", SaveAtExit,
+         [](Program& program, const FileFolder& folder, User& user) {
+             program.setText(L"2+3");
+             user.choice.name = folder.path(L"d.txt");
+             program.command(selectDefault);
+         },
+         1},
+        {"was not read, and the work area is untouched", SaveAtExit, [](Program&, const FileFolder&, User&) {}, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const FileFolder folder;
+        User user;
+        Program program(stored(folder.path(L"d.txt"), row.options), user.dialogs());
+        folder.put(L"d.txt", "from another machine");
+        row.act(program, folder, user);
+        program.close();
+        EXPECT_EQ(user.boxes.size(), row.boxes);
+        EXPECT_EQ(folder.bytes(L"d.txt"), "from another machine");
+    }
+}
+
+TEST(FileCommands, AClearedWorkAreaIsSaved) {
     const FileFolder folder;
+    folder.put(L"d.txt", "old");
     User user;
-    Program program(stored(folder.path(L"d.txt"), ReadAtStartup | SaveAtExit), user.dialogs());
-    folder.put(L"d.txt", "from another machine");
+    Program program(stored(folder.path(L"d.txt"), SaveAtExit), user.dialogs());
+    program.setText(L"2+3");
+    program.command(clear);
     program.close();
-    EXPECT_EQ(user.boxes.size(), 1u);
-    EXPECT_EQ(folder.bytes(L"d.txt"), "from another machine");
+    EXPECT_EQ(folder.bytes(L"d.txt"), "");
 }
 
 TEST(FileCommands, TheEndOfTheSessionSavesOrWaits) {
