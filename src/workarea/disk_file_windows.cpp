@@ -73,7 +73,9 @@ void refuseWhatMayNotBeWritten(const std::wstring& name) {
     if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) {
         fail(FileFailure::ReadOnly);
     }
-    openFile(name, {GENERIC_WRITE, shareAll, OPEN_EXISTING});
+    // Who has it open without letting it be deleted does not let it be replaced either; the renaming itself would say
+    // no more than that access is denied.
+    openFile(name, {GENERIC_WRITE | DELETE, shareAll, OPEN_EXISTING});
 }
 
 /// A file that vanishes at its end, also at that of its process, unless it has taken another's name.

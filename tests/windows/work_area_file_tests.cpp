@@ -400,7 +400,7 @@ TEST(WorkAreaFile, AFileThatCannotBeReplacedStaysAsItWas) {
         {L"a<b.txt", {FileFailure::InvalidName}},
     };
     {
-        const OpenFile held(sheet.folder.path(L"held.txt"), GENERIC_READ, FILE_SHARE_READ);
+        const OpenFile held(sheet.folder.path(L"held.txt"), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
         const OpenFile shared(sheet.folder.path(L"shared.txt"), GENERIC_READ, shareAll);
         const Snapshot before(sheet.desk);
         for (const Row& row : rows) {
