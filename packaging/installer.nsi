@@ -27,12 +27,32 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
+; A program that runs can be neither replaced nor removed, and would write its settings again when it ends.
+!macro WAIT_FOR_END
+again:
+    FindWindow $0 "${NAME} ${VERSION} - ${SITE}" ; its window's class
+    StrCmp $0 0 ended
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAME} is running. Please end it, then try again." /SD IDCANCEL IDRETRY again
+    SetErrorLevel 2
+    Quit
+ended:
+!macroend
+
+Function .onInit
+    !insertmacro WAIT_FOR_END
+FunctionEnd
+
+Function un.onInit
+    !insertmacro WAIT_FOR_END
+FunctionEnd
+
 Section
     SetOutPath "$INSTDIR"
-    ; A program that runs cannot be replaced: NSIS then offers to try again.
     File "${FILES}\*.*"
     WriteUninstaller "$INSTDIR\Uninstall.exe"
 
+    ; Started from the menu, the program has its default sheet among the user's documents.
+    SetOutPath "$DOCUMENTS"
     CreateShortcut "$SMPROGRAMS\${NAME}.lnk" "$INSTDIR\${NAME}.exe"
 
     WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${NAME} ${VERSION}"
