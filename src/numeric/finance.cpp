@@ -5,12 +5,12 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <functional>
 #include <limits>
 #include <optional>
 #include <vector>
 
 #include "numeric/checks.h"
+#include "numeric/wide_logarithm.h"
 #include "values/durations.h"
 #include "values/errors.h"
 #include "values/extended.h"
@@ -49,56 +49,75 @@ Arguments readArguments(std::span<const Value> given, std::optional<std::size_t>
         }
         numbers[position] = number;
     }
+    if (std::any_of(numbers.begin(), numbers.end(), [](Real number) { return std::isnan(number); })) {
+        raise(ErrorCode::NoSolution);
+    }
     return numbers;
 }
 
 /// The answer as a value; 18 for what is none.
-Value finite(Real answer) {
-    if (!std::isfinite(answer)) {
+Value finite(Real number) {
+    if (!std::isfinite(number)) {
         raise(ErrorCode::NoSolution);
     }
-    return {answer};
+    return {number};
 }
-
-Real signOf(Real x) { return x > 0 ? Real{1} : x < 0 ? Real{-1} : Real{0}; }
-
-/// amount * factor, where an amount of 0 stays 0 however large the factor has grown.
-Real scaled(Real amount, Real factor) { return amount == 0 ? 0 : amount * factor; }
-
-/// amount * e^z, also where e^z alone leaves the range of numbers.
-Real grown(Real amount, Real z) {
-    const Real factor = std::exp(z);
-    if (std::isnormal(factor)) {
-        return amount * factor;
-    }
-    const Real root = std::exp(z / 2);
-    return scaled(scaled(amount, root), root);
-}
-
-/// ln(a / b) without loss where a and b lie close together; their difference is given, since it may be known better.
-Real logarithmOfRatio(Real a, Real b, Real difference) {
-    const Real ratio = a / b;
-    if (ratio > 0.5L && ratio < 2) {
-        return std::log1p(difference / b);
-    }
-    // A quotient beyond the range of numbers still has a logarithm.
-    const bool beyond = signOf(a) * signOf(b) > 0 && !std::isnormal(ratio);
-    return beyond ? std::log(std::fabs(a)) - std::log(std::fabs(b)) : std::log(ratio);
-}
+Value finite(const SignedWide& answer) { return finite(toReal(answer)); }
 
 // Everything below works with the growth x, the natural logarithm of what 1 becomes in one second: G = e^(xT),
-// g = e^(xp). In it the compounding period has no part but in the two conversions.
+// g = e^(xp). In it the compounding period has no part but in the two conversions. Numbers are wide, so that neither
+// amounts that nearly cancel cost digits of the answer nor factors that nearly cancel the answer itself.
 
-/// The growth of a nominal annual rate; minus infinity for a rate that takes everything, a NaN beyond it.
-Real growthOf(Real annualRate, Real compoundingPeriod) {
-    const Real perPeriod = annualRate * compoundingPeriod / year;
-    return annualRate / year * (perPeriod == 0 ? 1 : std::log1p(perPeriod) / perPeriod);
+/// Exponents of e from which on no amount is anything but 0 or beyond all numbers.
+constexpr Real steepest = 0x1p28L;
+
+/// The growth where all is lost at once: steeper than any other.
+constexpr SignedWide endless(normalized({0, 1}, 1 << 16), true);
+
+bool allIsLost(const SignedWide& growth) { return std::isinf(toReal(growth)); }
+
+/// The growth of a nominal annual rate; 18 for a rate that takes more than everything.
+SignedWide growthOf(Real annualRate, Real compoundingPeriod) {
+    const SignedWide continuous = SignedWide(annualRate) / year;
+    const SignedWide perPeriod = continuous * compoundingPeriod;
+    if (perPeriod.zero) {
+        return continuous;
+    }
+    // What rounds to everything counts as everything.
+    const Real rounded = toReal(perPeriod);
+    if (rounded < -1) {
+        raise(ErrorCode::NoSolution);
+    }
+    return rounded == -1 ? endless : wideLogarithmOfOnePlus(perPeriod) / compoundingPeriod;
 }
 
-/// The nominal annual rate of a growth; a NaN where all is lost at once and no period of compounding bounds the rate.
-Real rateOf(Real growth, Real compoundingPeriod) {
-    const Real perPeriod = growth * compoundingPeriod;
-    return perPeriod == 0 ? growth * year : std::expm1(perPeriod) / compoundingPeriod * year;
+/// The nominal annual rate of a growth, perhaps an infinity.
+Real rateOf(const SignedWide& growth, Real compoundingPeriod) {
+    const SignedWide perPeriod = growth * compoundingPeriod;
+    if (perPeriod.zero) {
+        return toReal(growth * year);
+    }
+    return toReal(perPeriod) > steepest ? positiveInfinity
+                                        : toReal(wideExponentialMinusOne(perPeriod) / compoundingPeriod * year);
+}
+
+/// amount * e^z; 18 where that is beyond all numbers.
+SignedWide grown(const SignedWide& amount, const SignedWide& z) {
+    const Real exponent = toReal(z);
+    if (amount.zero || exponent < -steepest) {
+        return 0;
+    }
+    if (exponent > steepest) {
+        raise(ErrorCode::NoSolution);
+    }
+    return amount * steepExponential(z);
+}
+
+/// ln(a / b) for a b > 0, without loss where a and b lie close together; their difference is given, since it may be
+/// known better.
+SignedWide logarithmOfRatio(const SignedWide& a, const SignedWide& b, const SignedWide& difference) {
+    const SignedWide change = difference / b;
+    return std::fabs(toReal(change)) < 0.5L ? wideLogarithmOfOnePlus(change) : wideLogarithm(a / b);
 }
 
 /// When payments are made.
@@ -111,333 +130,296 @@ struct Schedule {
     [[nodiscard]] Schedule reversed() const { return {duration, period, !atStart}; }
 };
 
-/// payment * s: what the payments have grown to at the end.
-Real accumulated(Real payment, const Schedule& schedule, Real growth) {
-    const Real falling = -std::fabs(growth);
-    const Real perPeriod = std::expm1(falling * schedule.period);
-    if (perPeriod == 0) {
-        return payment * (schedule.duration / schedule.period);
-    }
-    // (G - 1) / (g - 1) or, for a positive growth, the same over G / g.
-    const Real ratio = std::expm1(falling * schedule.duration) / perPeriod;
-    const Real shift =
-        (growth > 0 ? schedule.duration - schedule.period : 0) + (schedule.atStart ? schedule.period : 0);
-    return shift == 0 ? payment * ratio : grown(payment * ratio, growth * shift);
-}
+/// s, what payments of 1 have grown to at the end, as ratio * e^exponent with a moderate ratio.
+struct Accumulation {
+    SignedWide ratio;
+    SignedWide exponent;
 
-/// payment * s / G: what the payments are worth at the beginning.
-Real discounted(Real payment, const Schedule& schedule, Real growth) {
-    return accumulated(payment, schedule.reversed(), -growth);
-}
-
-/// e^z - 1, divided by e^z where this is above 1.
-Real riseOverTop(Real z) { return z > 0 ? -std::expm1(-z) : std::expm1(z); }
-
-/// later - earlier e^z for z <= 0.
-Real difference(Real later, Real earlier, Real z) {
-    // Near z = 0 the amounts' own difference has to be kept, far from it the smaller of the two.
-    return z > -1 ? later - earlier - earlier * std::expm1(z) : later - grown(earlier, z);
-}
-
-/// The zero of a function of which the sign at the upper end is known and that at the lower end is the other one;
-/// low < high. Halves the interval until two neighbouring numbers are left, by orders of magnitude first: some 100
-/// evaluations at most. A NaN if the signs at the ends are not these.
-template <typename Function>
-Real zeroBetween(Real low, Real high, bool positiveAtHigh, Function function) {
-    if ((function(high) > 0) != positiveAtHigh || (function(low) > 0) == positiveAtHigh) {
-        return std::numeric_limits<Real>::quiet_NaN();
-    }
-    if (low < 0 && high > 0) {
-        const Real middle = function(0);
-        if (middle == 0) {
-            return 0;
+    Accumulation(const Schedule& schedule, const SignedWide& growth) {
+        const SignedWide duration = schedule.duration;
+        const SignedWide period = schedule.period;
+        if (growth.zero) {
+            ratio = duration / period;
+            return;
         }
-        ((middle > 0) == positiveAtHigh ? high : low) = 0;
+        // (G - 1) / (g - 1) or, for a positive growth, the same over G / g.
+        const SignedWide falling = -absolute(growth);
+        ratio = wideExponentialMinusOne(falling * duration) / wideExponentialMinusOne(falling * period);
+        if (signOf(growth) > 0) {
+            exponent = growth * (schedule.atStart ? duration : duration - period);
+        } else {
+            exponent = growth * (schedule.atStart ? period : 0);
+        }
+    }
+};
+
+/// payment * s: what the payments have grown to at the end.
+SignedWide accumulated(Real payment, const Schedule& schedule, const SignedWide& growth) {
+    const Accumulation sum(schedule, growth);
+    return grown(payment * sum.ratio, sum.exponent);
+}
+
+/// first * G + payment * s = second.
+struct Balance {
+    SignedWide first;
+    SignedWide second;
+    SignedWide payment;
+    Schedule schedule;
+
+    /// The same seen backwards in time.
+    [[nodiscard]] Balance reversed() const { return {second, first, -payment, schedule.reversed()}; }
+};
+
+/// A sum, and the sum of its terms' magnitudes to judge it by.
+struct Sum {
+    SignedWide value;
+    SignedWide size;
+
+    Sum operator-() const { return {-value, size}; }
+};
+
+struct Term {
+    SignedWide factor;
+    SignedWide exponent = 0;  ///< of e
+};
+
+/// The sum of factor * e^exponent, divided by the largest of the powers.
+Sum sumOf(std::initializer_list<Term> terms) {
+    std::optional<SignedWide> highest;
+    for (const Term& term : terms) {
+        if (!term.factor.zero && (!highest || signOf(term.exponent - *highest) > 0)) {
+            highest = term.exponent;
+        }
+    }
+    Sum sum;
+    for (const Term& term : terms) {
+        const SignedWide value = term.factor.zero ? 0 : grown(term.factor, term.exponent - *highest);
+        sum.value = sum.value + value;
+        sum.size = sum.size + absolute(value);
+    }
+    return sum;
+}
+
+/// s - T/p at a growth next to 0, without the cancellation of the two.
+SignedWide gainNearby(const Schedule& schedule, const SignedWide& growth) {
+    const SignedWide t = growth * schedule.duration;
+    const SignedWide q = growth * schedule.period;
+    // e^t - 1 - T/p (e^q - 1) = t (t - q) (1/2! + (t + q)/3! + (t^2 + t q + q^2)/4! + ...).
+    SignedWide sum;
+    SignedWide numerator = 1;
+    SignedWide powerOfQ = 1;
+    SignedWide inverseFactorial = 0.5L;
+    for (int k = 3; k < 30; ++k) {
+        sum = sum + numerator * inverseFactorial;
+        powerOfQ = powerOfQ * q;
+        numerator = numerator * t + powerOfQ;
+        inverseFactorial = inverseFactorial / static_cast<Real>(k);
+    }
+    const SignedWide apart = growth * (SignedWide(schedule.duration) - schedule.period);
+    const SignedWide atEnd = t * apart * sum / wideExponentialMinusOne(q);
+    return schedule.atStart ? atEnd + wideExponentialMinusOne(t) : atEnd;
+}
+
+/// first * G + payment * s - second at a growth of 0.
+SignedWide balanceAtZero(const Balance& balance) {
+    const auto& [first, second, payment, schedule] = balance;
+    // Multiplied by the period the terms are exact. The least is added last, after the others may have cancelled.
+    std::array terms = {first * schedule.period, -second * schedule.period, payment * schedule.duration};
+    std::sort(terms.begin(), terms.end(),
+              [](const SignedWide& a, const SignedWide& b) { return signOf(absolute(a) - absolute(b)) > 0; });
+    return (terms[0] + terms[1] + terms[2]) / schedule.period;
+}
+
+/// first * G + payment * s - second at a growth not above 0, times a positive factor.
+Sum fallingBalance(const Balance& balance, const SignedWide& growth) {
+    const auto& [first, second, payment, schedule] = balance;
+    const SignedWide t = growth * schedule.duration;
+    const SignedWide q = growth * schedule.period;
+    if (growth.zero) {
+        const SignedWide atZero = balanceAtZero(balance);
+        return {atZero, absolute(atZero)};
+    }
+    if (!schedule.atStart && (first - payment).zero) {
+        // The first value is a payment at the start, and the last payment, at the end, a part of the second value.
+        return fallingBalance({0, second - payment, payment, {schedule.duration, schedule.period, true}}, growth);
+    }
+    if (toReal(t) >= -1) {
+        const SignedWide loss = first * wideExponentialMinusOne(t);
+        if (toReal(q) >= -1) {
+            return sumOf({{balanceAtZero(balance)}, {loss}, {payment * gainNearby(schedule, growth)}});
+        }
+        const Accumulation sum(schedule, growth);
+        return sumOf({{first - second}, {loss}, {payment * sum.ratio, sum.exponent}});
+    }
+    if (schedule.atStart) {
+        const Accumulation sum(schedule, growth);
+        return sumOf({{-second}, {first, t}, {payment * sum.ratio, sum.exponent}});
+    }
+    // The last payment has not grown, and all others have to s - 1.
+    const SignedWide apart = growth * (SignedWide(schedule.duration) - schedule.period);
+    const SignedWide others = payment * wideExponentialMinusOne(-absolute(apart)) / wideExponentialMinusOne(q);
+    return signOf(apart) < 0 ? sumOf({{payment - second}, {first, t}, {others, q}})
+                             : sumOf({{payment - second}, {first - others, t}});
+}
+
+/// A sum with the sign of the slope of (first * G - second) / s over the growth, at a growth not above 0. Times what is
+/// positive, the slope is, with s' for payments of the other timing,
+///     (first - second) T G - (first * G - second) p s'.
+Sum fallingSlope(const Balance& balance, const SignedWide& growth) {
+    const auto& [first, second, payment, schedule] = balance;
+    const SignedWide duration = schedule.duration;
+    const SignedWide period = schedule.period;
+    if (growth.zero) {
+        const SignedWide leaning = (first - second) * period;
+        return {(first + second) * duration + (schedule.atStart ? -leaning : leaning), 0};
+    }
+    const SignedWide t = growth * duration;
+    const bool moderate = toReal(t) >= -1;
+    const SignedWide loss = moderate ? wideExponentialMinusOne(t) : 0;
+    const SignedWide change = moderate ? first - second + first * loss : grown(first, t) - second;
+    if (moderate && toReal(growth * period) >= -1) {
+        // With s' = T/p + gain, without (first - second) T, which is in both terms.
+        return sumOf({{-second * duration * loss}, {-change * period * gainNearby(schedule.reversed(), growth)}});
+    }
+    const Accumulation other(schedule.reversed(), growth);
+    return sumOf({{(first - second) * duration, t}, {-change * period * other.ratio, other.exponent}});
+}
+
+/// The zero of a function of the annual rate between low < high, if its signs there differ: halves the interval until
+/// two neighbouring numbers are left, by orders of magnitude first, with some 100 evaluations at most, and then takes
+/// the secant between these.
+template <typename Function>
+std::optional<SignedWide> zeroBetween(Real low, Real high, Function function) {
+    const SignedWide atLow = function(low).value;
+    const SignedWide atHigh = function(high).value;
+    if (signOf(atLow) * signOf(atHigh) >= 0) {
+        return std::nullopt;
+    }
+    SignedWide atNear = atLow;
+    SignedWide atFar = atHigh;
+    if (low < 0 && high > 0) {
+        const SignedWide middle = function(0).value;
+        if (middle.zero) {
+            return middle;
+        }
+        (signOf(middle) == signOf(atHigh) ? high : low) = 0;
+        atNear = middle;
+        atFar = high > 0 ? atHigh : atLow;
+    } else if (high <= 0) {
+        std::swap(atNear, atFar);
     }
     // On one side of 0 now: search the magnitude.
     const Real side = high > 0 ? 1 : -1;
-    Real near = high > 0 ? low : -high;
+    Real near = std::max(high > 0 ? low : -high, std::numeric_limits<Real>::min());
     Real far = high > 0 ? high : -low;
-    const bool positiveAtFar = positiveAtHigh == (high > 0);
-    near = std::max(near, std::numeric_limits<Real>::min());
     while (true) {
         const Real middle = far > 2 * near ? std::sqrt(near) * std::sqrt(far) : near + (far - near) / 2;
         if (middle <= near || middle >= far) {
-            return side * near;
+            return side * (near + (SignedWide(far) - near) * (atNear / (atNear - atFar)));
         }
-        ((function(side * middle) > 0) == positiveAtFar ? far : near) = middle;
+        const SignedWide value = function(side * middle).value;
+        if (signOf(value) == signOf(atFar)) {
+            far = middle;
+            atFar = value;
+        } else {
+            near = middle;
+            atNear = value;
+        }
     }
 }
 
-/// What rounding takes from a product (Dekker): a b = fl(a b) + productError(a, b).
-Real productError(Real a, Real b) {
-    const auto upperHalf = [](Real x) {
-        const Real shifted = x * (0x1p32L + 1);
-        return shifted - (shifted - x);
-    };
-    const Real a1 = upperHalf(a);
-    const Real a2 = a - a1;
-    const Real b1 = upperHalf(b);
-    const Real b2 = b - b1;
-    return a2 * b2 - (((a * b - a1 * b1) - a2 * b1) - a1 * b2);
-}
-
-/// The sum with twice the precision of its terms (Neumaier).
-Real compensatedSum(std::span<const Real> terms) {
-    Real sum = 0;
-    Real lost = 0;
-    for (const Real term : terms) {
-        const Real next = sum + term;
-        lost += std::fabs(sum) >= std::fabs(term) ? (sum - next) + term : (term - next) + sum;
-        sum = next;
-    }
-    return sum + lost;
-}
-
-/// e^(xT) - 1 - T/p (e^(xp) - 1) for |xT| and |xp| up to 1. With v = e^(xp) and n = T/p it is v^n - 1 - n (v - 1), how
-/// far a power lies above its tangent at 1: positive for n > 1, negative for n < 1.
-Real aboveTangentNearby(Real duration, Real period, Real x) {
-    const Real t = x * duration;
-    const Real q = x * period;
-    // t (t - q) (1/2! + (t + q)/3! + (t^2 + t q + q^2)/4! + ...), without the cancellation of the terms in t.
-    Real sum = 0;
-    Real numerator = 1;
-    Real powerOfQ = 1;
-    Real factorial = 2;
-    for (int k = 3; k < 26; ++k) {
-        sum += numerator / factorial;
-        powerOfQ *= q;
-        numerator = numerator * t + powerOfQ;
-        factorial *= static_cast<Real>(k);
-    }
-    return t * x * (duration - period) * sum;
-}
-
-/// The same for all x, divided by e^(xT) or e^(xp) where these are above 1.
-Real aboveTangent(Real duration, Real period, Real x) {
-    const Real t = x * duration;
-    const Real q = x * period;
-    const Real top = std::max({Real{0}, t, q});
-    if (std::max(std::fabs(t), std::fabs(q)) <= 1) {
-        return aboveTangentNearby(duration, period, x) * std::exp(-top);
-    }
-    const auto gain = [top](Real z) {
-        return z > 0 ? -std::exp(z - top) * std::expm1(-z) : std::exp(-top) * std::expm1(z);
-    };
-    return gain(t) - duration / period * gain(q);
-}
-
-/// The balance with payments at the end of each period, as a function of the growth whose zeros are sought:
-/// f(x) = first e^(xT) + payment (e^(xT) - 1) / (e^(xp) - 1) - second, with a payment other than 0.
+/// The continuous annual rates at which f = first * G + payment * s - second is 0; 0 alone where it is among them.
 ///
-/// f has two zeros at most. As a function of u = e^(xp) - 1, f / s is payment + first u - (second - first) A(u) with
-/// A(u) = u / ((1 + u)^n - 1), n = T/p, which is convex for n > 1, concave for n < 1 and constant for n = 1: a straight
-/// line meets such a curve twice at most, and between the two meetings lies the one place where their slopes agree.
-class Equation {
-public:
-    Equation(Real first, Real second, Real payment, Real duration, Real period)
-        : first_(first), second_(second), payment_(payment), duration_(duration), period_(period) {
-        const Real terms[] = {period * first,     productError(period, first),
-                              -period * second,   -productError(period, second),
-                              duration * payment, productError(duration, payment)};
-        atZero_ = compensatedSum(terms) / period;
+/// f has two zeros at most. For payments at the end, as a function of u = g - 1, f / s is payment + first u -
+/// (second - first) A(u) with A(u) = u / ((1 + u)^n - 1), n = T/p, which is convex for n > 1, concave for n < 1 and
+/// constant for n = 1: a straight line meets such a curve twice at most, and between the two meetings lies the one
+/// place where their slopes agree. Payments at the start stand at the end when seen backwards in time.
+std::vector<SignedWide> continuousRates(const Balance& balance) {
+    const auto& [first, second, payment, schedule] = balance;
+    const auto [duration, period, atStart] = schedule;
+    if (balanceAtZero(balance).zero) {
+        return {0};
     }
-
-    /// The growths at which the balance holds, in ascending order.
-    [[nodiscard]] std::vector<Real> zeros() const {
-        if (!std::isfinite(atZero_)) {
+    if (payment.zero) {
+        if (signOf(first) * signOf(second) <= 0) {
             return {};
         }
-        if (atZero_ == 0) {
-            return {0};
-        }
-        // Beyond, even the slower of the two exponentials has left the range of numbers; where no constant stands
-        // beside them, their ratio has.
-        const bool ratioAlone = (first_ == 0 || payment_ == second_) && duration_ != period_;
-        const Real slower = std::min(duration_, period_);
-        const Real reach = 25000 / (ratioAlone ? std::min(slower, std::fabs(duration_ - period_)) : slower);
-        const auto balance = [this](Real x) {
-            const auto [a, b, c] = terms(x);
-            return a + b + c;
-        };
-        const bool positiveAtHigh = signAtHigh() > 0;
-        if (signAtLow() != signAtHigh()) {
-            return {zeroBetween(-reach, reach, positiveAtHigh, balance)};
-        }
-        // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
-        if (!turns()) {
-            return {};
-        }
-        const Real turn = zeroBetween(-reach, reach, first_ > 0, [this](Real x) { return slope(x); });
-        if (std::isnan(turn)) {
-            return {};
-        }
-        // Where the two zeros are one, rounding may leave the balance on either side of it.
-        constexpr Real rounding = 16 * std::numeric_limits<Real>::epsilon();
-        const auto [a, b, c] = terms(turn);
-        if (std::fabs(a + b + c) <= rounding * (std::fabs(a) + std::fabs(b) + std::fabs(c))) {
-            return {turn};
-        }
-        if ((a + b + c > 0) == positiveAtHigh) {
-            return {};
-        }
-        return {zeroBetween(-reach, turn, !positiveAtHigh, balance), zeroBetween(turn, reach, positiveAtHigh, balance)};
+        return {logarithmOfRatio(second, first, second - first) / duration * year};
     }
-
-private:
-    /// Terms whose sum has the sign of f(x) and neither overflows nor loses more than their own roundings.
-    [[nodiscard]] std::array<Real, 3> terms(Real x) const {
-        const Real t = x * duration_;
-        const Real q = x * period_;
-        if (x == 0) {
-            return {atZero_, 0, 0};
-        }
-        if (std::max(std::fabs(t), std::fabs(q)) <= 1) {
-            // With what is left at x = 0 known better than its terms: s = n + (v^n - 1 - n (v - 1)) / (v - 1).
-            const Real gain = aboveTangentNearby(duration_, period_, x) / std::expm1(q);
-            return {first_ * std::expm1(t), payment_ * gain, atZero_};
-        }
-        if (std::fabs(t) <= 1) {
-            return {first_ * std::expm1(t), grown(payment_ * (std::expm1(t) / riseOverTop(q)), -std::max(Real{0}, q)),
-                    first_ - second_};
-        }
-        // t - q; the slower of two exponentials that stand alone is divided out.
-        const Real apart = x * (duration_ - period_);
-        if (x < 0) {
-            // The last payment has not grown; all others have to s - 1.
-            const Real others = payment_ * (std::expm1(-std::fabs(apart)) / std::expm1(q)) * (apart < 0 ? 1 : -1);
-            if (payment_ == second_) {
-                return {grown(first_, std::min(Real{0}, apart)), others, 0};
-            }
-            return {grown(first_, t), grown(others, std::max(t, q)), payment_ - second_};
-        }
-        const Real payments = payment_ * (riseOverTop(t) / riseOverTop(q));
-        if (first_ == 0) {
-            return {0, grown(payments, std::min(Real{0}, apart)), -grown(second_, std::min(Real{0}, -apart))};
-        }
-        return {first_, grown(payments, -q), -grown(second_, -t)};
+    // Where growth is positive, backwards in time it is not, and nothing outgrows the amounts.
+    const Balance reversed = balance.reversed();
+    const auto value = [&](const SignedWide& annualRate) {
+        const SignedWide growth = annualRate / year;
+        return signOf(growth) <= 0 ? fallingBalance(balance, growth) : -fallingBalance(reversed, -growth);
+    };
+    const auto slope = [&](const SignedWide& annualRate) {
+        const SignedWide growth = annualRate / year;
+        return signOf(growth) <= 0 ? fallingSlope(balance, growth) : fallingSlope(reversed, -growth);
+    };
+    // Beyond, the slowest of the exponentials outweighs all differences of amounts and times.
+    const Real apart = std::fabs(duration - period);
+    const Real slowest = std::min({duration, period, apart > 0 ? apart : period});
+    const Real reach = 40000 / slowest * year;
+    if (const auto zero = zeroBetween(-reach, reach, value)) {
+        return {*zero};
     }
-
-    /// The sign of f for x towards minus infinity: f = payment - second + (first - payment) G + payment g + ...
-    [[nodiscard]] Real signAtLow() const {
-        if (payment_ != second_) {
-            return signOf(payment_ - second_);
+    // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
+    const auto turn = zeroBetween(-reach, reach, slope);
+    if (!turn) {
+        return {};
+    }
+    // Where the two zeros are one, rounding may leave the balance on either side of it.
+    constexpr Real rounding = 0x1p-100L;
+    const Sum atTurn = value(*turn);
+    if (toReal(absolute(atTurn.value) / atTurn.size) < rounding) {
+        return {*turn};
+    }
+    std::vector<SignedWide> rates;
+    for (const auto& zero : {zeroBetween(-reach, toReal(*turn), value), zeroBetween(toReal(*turn), reach, value)}) {
+        if (zero) {
+            rates.push_back(*zero);
         }
-        return signOf(duration_ < period_ && first_ != payment_ ? first_ - payment_
-                      : duration_ == period_                    ? first_
-                                                                : payment_);
     }
-
-    /// The sign of f for x towards infinity: f / G = first + payment / g - second / G + ...
-    [[nodiscard]] Real signAtHigh() const {
-        if (first_ != 0) {
-            return signOf(first_);
-        }
-        return signOf(duration_ < period_ && second_ != 0 ? -second_
-                      : duration_ == period_              ? payment_ - second_
-                                                          : payment_);
-    }
-
-    /// Whether the slope of f / s in u has a zero: it lies between second and first for n > 1, between infinity of the
-    /// sign of first - second and first for n < 1.
-    [[nodiscard]] bool turns() const {
-        return duration_ > period_   ? signOf(first_) * signOf(second_) < 0
-               : duration_ < period_ ? signOf(first_) * signOf(second_ - first_) > 0
-                                     : false;
-    }
-
-    /// The sign of the slope of f / s in u, first - (second - first) A'(u), where it has a zero. With v = 1 + u,
-    ///     -A' (v^n - 1)^2 = v^n (v^-n - 1 - n (1/v - 1)),
-    ///     (1 + A') (v^n - 1)^2 = v^(n - 1) (v^(n + 1) - 1 - (n + 1) (v - 1)).
-    /// Of the two that one is taken which leaves no cancellation but that of two terms of opposite signs.
-    [[nodiscard]] Real slope(Real x) const {
-        const Real t = x * duration_;
-        const Real q = x * period_;
-        if (x == 0) {
-            return first_ * (duration_ + period_) + second_ * (duration_ - period_);
-        }
-        const Real square = std::expm1(-std::fabs(t)) * std::expm1(-std::fabs(t));
-        if (x < 0 && duration_ > period_) {
-            return second_ * square + grown((first_ - second_) * aboveTangent(duration_ + period_, period_, x), t - q);
-        }
-        const Real above = (second_ - first_) * aboveTangent(duration_, period_, -x);
-        return x < 0 ? grown(first_ * square, q - t) + above : first_ * square + grown(above, -t);
-    }
-
-    Real first_;
-    Real second_;
-    Real payment_;
-    Real duration_;
-    Real period_;
-    Real atZero_ = 0;  ///< f(0) = first + n payment - second
-};
-
-/// The growths at which first becomes second with the payments of the schedule; 0 where every growth fits.
-std::vector<Real> growthsOf(Real first, Real second, Real payment, const Schedule& schedule) {
-    if (payment == 0) {
-        return {logarithmOfRatio(second, first, second - first) / schedule.duration};
-    }
-    if (schedule.atStart) {
-        // Backwards in time, payments at the start stand at the end.
-        std::vector<Real> growths = growthsOf(second, first, -payment, schedule.reversed());
-        std::transform(growths.begin(), growths.end(), growths.begin(), std::negate());
-        return growths;
-    }
-    // A power of two brings the amounts near the upper end of the range, where the smallest of them keep their digits.
-    constexpr int largestExponent = 12000;
-    int exponent = 0;
-    std::frexp(std::max({std::fabs(first), std::fabs(second), std::fabs(payment)}), &exponent);
-    const auto fitted = [&](Real amount) { return std::scalbn(amount, largestExponent - exponent); };
-    return Equation(fitted(first), fitted(second), fitted(payment), schedule.duration, schedule.period).zeros();
+    return rates;
 }
 
 }  // namespace
 
 Value fv(std::span<const Value> arguments) {
     const auto [first, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
-    const Real growth = growthOf(annualRate, compounding);
-    const Schedule schedule = {duration, period, timing == 1};
-    // Where amounts cancel, both have to have lost or gained by the same rounded growth. Payments alone grow over as
-    // long as they do, and do not vanish at the beginning first.
-    if (growth <= 0 || first == 0) {
-        return finite(grown(first, growth * duration) + accumulated(payment, schedule, growth));
-    }
-    return finite(grown(first + discounted(payment, schedule, growth), growth * duration));
+    const SignedWide growth = growthOf(annualRate, compounding);
+    return finite(grown(first, growth * duration) + accumulated(payment, {duration, period, timing == 1}, growth));
 }
 
 Value pv(std::span<const Value> arguments) {
     const auto [second, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
-    const Real growth = growthOf(annualRate, compounding);
+    const SignedWide growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    if (growth >= 0 || (second == 0 && std::isfinite(growth))) {
-        return finite(grown(second, -growth * duration) - discounted(payment, schedule, growth));
+    if (allIsLost(growth)) {
+        // Every first value fits, 0 among them, or none.
+        return finite(grown(second - accumulated(payment, schedule, growth), -growth * duration));
     }
-    return finite(grown(second - accumulated(payment, schedule, growth), -growth * duration));
+    return finite(grown(second, -growth * duration) - accumulated(payment, schedule.reversed(), -growth));
 }
 
 Value pmt(std::span<const Value> arguments) {
     const auto [first, second, duration, annualRate, compounding, period, timing] = readArguments(arguments, 2, 4);
-    const Real growth = growthOf(annualRate, compounding);
-    const Schedule schedule = {duration, period, timing == 1};
+    const SignedWide growth = growthOf(annualRate, compounding);
+    const bool atStart = timing == 1;
     // Where all is lost at once, payments at the start have no part in the second value.
-    if (std::isinf(growth) && schedule.atStart) {
+    if (allIsLost(growth) && atStart) {
         raise(ErrorCode::NoSolution);
     }
-    // Seen from the side on which nothing overflows: backwards in time where amounts grow.
-    const bool falls = growth <= 0;
-    const Real steepness = -std::fabs(growth);
-    const Real later = falls ? second : first;
-    const Real earlier = falls ? first : second;
-    const Real delay = schedule.atStart == falls ? period : 0;
-    const Real ratio = accumulated(1, {duration, period, false}, steepness);
-    Real payment = 0;
-    if (later == 0) {
-        payment = -grown(earlier / ratio, steepness * (duration - delay));
-    } else {
-        payment = difference(later, earlier, steepness * duration) / ratio;
-        payment = delay == 0 ? payment : grown(payment, -steepness * delay);
+    const Schedule schedule = {duration, period, atStart};
+    const Accumulation sum(schedule, growth);
+    const SignedWide exponent = growth * duration;
+    if (std::fabs(toReal(exponent)) <= 1) {
+        const SignedWide missing = SignedWide(second) - first - first * wideExponentialMinusOne(exponent);
+        return finite(grown(missing / sum.ratio, -sum.exponent));
     }
-    return finite(falls ? payment : -payment);
+    // (second - first G) / s, where s / G is the same sum backwards in time.
+    const Accumulation backwards(schedule.reversed(), -growth);
+    return finite((grown(second, -sum.exponent) - grown(first, -backwards.exponent)) / sum.ratio);
 }
 
 Value dur(std::span<const Value> arguments) {
@@ -446,29 +428,41 @@ Value dur(std::span<const Value> arguments) {
     if (first == second) {
         return {0};
     }
-    const Real growth = growthOf(annualRate, compounding);
-    if (!std::isfinite(growth)) {
+    const SignedWide growth = growthOf(annualRate, compounding);
+    if (allIsLost(growth)) {
         raise(ErrorCode::NoSolution);
     }
-    // With the value a of endless payments, (second + a) = (first + a) e^(xT). Where e^(|x|p) is large, a is next to 0
-    // or to a payment: the rest, which the amounts may leave alone, is kept apart.
-    const Real shrinking = -std::fabs(growth * period);
-    const Real towards = growth > 0 ? payment : -payment;
-    const Real rest = grown(towards / -std::expm1(shrinking), shrinking);
-    const Real whole = (timing == 1) == (growth > 0) ? towards : 0;
-    const Real later = second + whole;
-    const Real earlier = first + whole;
-    Real duration = 0;
-    if (shrinking == 0 || std::isinf(rest)) {
-        duration = (second - first) / payment * period;
-    } else if (payment != 0 && !std::isnormal(rest) && growth > 0 && earlier == 0) {
-        duration = logarithmOfRatio(later, towards, later - towards) / growth + period;
-    } else if (payment != 0 && !std::isnormal(rest) && growth < 0 && later == 0) {
-        duration = logarithmOfRatio(towards, earlier, towards - earlier) / growth + period;
+    const SignedWide change = SignedWide(second) - first;
+    SignedWide duration;
+    if (growth.zero) {
+        if (payment == 0) {
+            raise(ErrorCode::NoSolution);
+        }
+        duration = change / payment * period;
     } else {
-        duration = logarithmOfRatio(later + rest, earlier + rest, second - first) / growth;
+        // With the value a of endless payments, (second + a) = (first + a) e^(xT). For e^(|x|p) far from 1, a is next
+        // to 0 or to a payment: the rest, which the amounts may leave alone, is rest * e^(-|x|p).
+        const bool rises = signOf(growth) > 0;
+        const SignedWide shrinking = -absolute(growth * period);
+        const SignedWide towards = rises ? payment : -payment;
+        const SignedWide rest = towards / -wideExponentialMinusOne(shrinking);
+        const SignedWide whole = (timing == 1) == rises ? towards : 0;
+        const auto withRest = [&](Real amount) {
+            const SignedWide alone = amount + whole;
+            return alone.zero && toReal(shrinking) < -steepest ? Term{rest, shrinking}
+                                                               : Term{alone + grown(rest, shrinking)};
+        };
+        const Term later = withRest(second);
+        const Term earlier = withRest(first);
+        if (signOf(later.factor) * signOf(earlier.factor) <= 0) {
+            raise(ErrorCode::NoSolution);
+        }
+        const SignedWide exponent = later.exponent - earlier.exponent;
+        const SignedWide ratio = exponent.zero ? logarithmOfRatio(later.factor, earlier.factor, change)
+                                               : wideLogarithm(later.factor / earlier.factor) + exponent;
+        duration = ratio / growth;
     }
-    if (duration < 0) {
+    if (signOf(duration) < 0) {
         raise(ErrorCode::NoSolution);
     }
     return finite(duration);
@@ -476,20 +470,20 @@ Value dur(std::span<const Value> arguments) {
 
 Value rate(std::span<const Value> arguments) {
     const auto [first, second, duration, compounding, payment, period, timing] = readArguments(arguments, 2, 3);
-    const Schedule schedule = {duration, period, timing == 1};
-    std::vector<Real> growths = growthsOf(first, second, payment, schedule);
+    const bool atStart = timing == 1;
+    std::vector<Real> rates;
+    for (const SignedWide& annualRate : continuousRates({first, second, payment, {duration, period, atStart}})) {
+        rates.push_back(rateOf(annualRate / year, compounding));
+    }
     // Where all is lost, the last payment is left if it comes at the end.
-    if (payment != 0 && second == (schedule.atStart ? 0 : payment) && !std::isnan(first)) {
-        growths.push_back(-positiveInfinity);
+    if (compounding > 0 && second == (atStart ? 0 : payment)) {
+        rates.push_back(toReal(SignedWide(-year) / compounding));
     }
-    Real nearest = positiveInfinity;
-    for (const Real growth : growths) {
-        const Real annualRate = rateOf(growth, compounding);
-        if (std::fabs(annualRate) < std::fabs(nearest)) {
-            nearest = annualRate;
-        }
+    if (rates.empty()) {
+        raise(ErrorCode::NoSolution);
     }
-    return finite(nearest);
+    return finite(
+        *std::min_element(rates.begin(), rates.end(), [](Real a, Real b) { return std::fabs(a) < std::fabs(b); }));
 }
 
 }  // namespace calquo

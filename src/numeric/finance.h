@@ -36,7 +36,7 @@ Value dur(std::span<const Value> arguments);
 
 /// The nominal annual rate. Arguments: first value, second value, duration, compounding period, payment, payment
 /// period, timing. Where two rates satisfy the balance, the one nearer to 0; -Y / c, the rate that takes everything, is
-/// one of them for c > 0.
+/// one of them for c > 0. 0 where every rate does.
 Value rate(std::span<const Value> arguments);
 
 }  // namespace calquo

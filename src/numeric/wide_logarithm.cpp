@@ -145,6 +145,14 @@ UInt128 timesCount(UInt128 a, int count) {
     return count < 0 ? UInt128{} - product : product;
 }
 
+/// Up to here the functions that vanish at 0 are summed as series, for the sake of their relative precision.
+constexpr Real nextToZero = 0x1p-7L;
+
+constexpr WideFloat asWide(UInt128 fraction) { return normalized(fraction, -128); }
+
+/// ln 2 with all its bits, from atanh(1/3).
+constexpr WideFloat wideLnTwo = normalized(inverseHyperbolicTangent(fractionOf(1, 3)), -127);
+
 bool negativeSum(UInt128 sum) { return sum.high >> 63 != 0; }
 
 /// The number as a sum in two's complement.
@@ -182,7 +190,7 @@ SignedWide wideLogarithm(Real x) {
     const UInt128 t = below ? one - product : product - one;
     if (k == 0 && row.numerator == reciprocalUnit) {
         if (t == UInt128{}) {
-            return {{}, false, true};
+            return {};
         }
         const UInt128 u = shiftLeft(t, 128 - unitBits);
         // ln(1 + t)/t in units of 2^-127.
@@ -220,12 +228,46 @@ WideFloat wideExponential(const SignedWide& a) {
     return normalized(row + multiplyHigh(row, exponentialExcess(s)), k - 127);
 }
 
-Real toReal(const SignedWide& a) {
-    if (a.zero) {
-        return 0;
+SignedWide wideLogarithm(const SignedWide& a) {
+    // The mantissa's upper half as a number from 1 to 2, the lower half as what it grows by, and a power of two.
+    const UInt128 mantissa = a.magnitude.mantissa;
+    const Real leading = static_cast<Real>(mantissa.high) * 0x1p-63L;
+    const Real growth = static_cast<Real>(mantissa.low) * 0x1p-64L / static_cast<Real>(mantissa.high);
+    return wideLogarithm(leading) + wideLogarithmOfOnePlus(growth) +
+           wideLnTwo * static_cast<Real>(a.magnitude.exponent + 127);
+}
+
+SignedWide wideLogarithmOfOnePlus(const SignedWide& a) {
+    if (std::fabs(toReal(a)) > nextToZero) {
+        return wideLogarithm(1 + a);
     }
-    const Real magnitude = toReal(a.magnitude);
-    return a.negative ? -magnitude : magnitude;
+    // 2 atanh z for z = a / (2 + a), by the series z + z^3/3 + ...
+    const SignedWide z = a / (2 + a);
+    const SignedWide square = z * z;
+    SignedWide sum = asWide(inverses[seriesTerms]);
+    for (unsigned n = seriesTerms - 2; n >= 3; n -= 2) {
+        sum = asWide(inverses[n]) + square * sum;
+    }
+    return 2 * z * (1 + square * sum);
+}
+
+SignedWide steepExponential(const SignedWide& a) {
+    const int k = static_cast<int>(std::floor(toReal(a) / toReal(wideLnTwo)));
+    WideFloat result = wideExponential(a - wideLnTwo * static_cast<Real>(k));
+    result.exponent += k;
+    return result;
+}
+
+SignedWide wideExponentialMinusOne(const SignedWide& a) {
+    const Real estimate = toReal(a);
+    if (std::fabs(estimate) > nextToZero) {
+        return estimate < -0x1p28L ? -1 : steepExponential(a) - 1;
+    }
+    SignedWide sum = asWide(inverseFactorials[exponentialTerms]);
+    for (unsigned n = exponentialTerms - 1; n >= 2; --n) {
+        sum = asWide(inverseFactorials[n]) + a * sum;
+    }
+    return a * (1 + a * sum);
 }
 
 }  // namespace calquo

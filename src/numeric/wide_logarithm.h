@@ -2,16 +2,9 @@
 // numbers need only the one rounding at their end and come out exact wherever the exact result is an extended number.
 #pragma once
 
-#include "values/wide_float.h"
+#include "numeric/signed_wide.h"
 
 namespace calquo {
-
-/// A wide number with a sign.
-struct SignedWide {
-    WideFloat magnitude;  ///< meaningless when zero is set
-    bool negative = false;
-    bool zero = false;
-};
 
 /// ln x for finite positive x, within 2^-100 of itself.
 ///
@@ -26,7 +19,16 @@ SignedWide wideLogarithm(Real x);
 /// tabulated.
 WideFloat wideExponential(const SignedWide& a);
 
-/// The nearest extended number with its sign.
-Real toReal(const SignedWide& a);
+/// ln a for a > 0, within 2^-100 of itself or 2^-110, whichever is more.
+SignedWide wideLogarithm(const SignedWide& a);
+
+/// ln(1 + a) for a > -1, within 2^-100 of itself; next to -1 as exactly as 1 + a is known, to 2^-127.
+SignedWide wideLogarithmOfOnePlus(const SignedWide& a);
+
+/// e^a for |a| up to 2^28, within 2^-105 + |a| 2^-119 of itself.
+SignedWide steepExponential(const SignedWide& a);
+
+/// e^a - 1 for a up to 2^28, within 2^-98 of itself for a up to 2^20, and -1 from -2^28 downwards.
+SignedWide wideExponentialMinusOne(const SignedWide& a);
 
 }  // namespace calquo
