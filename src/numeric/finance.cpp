@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <initializer_list>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -164,7 +165,7 @@ struct Balance {
     SignedWide first;
     SignedWide second;
     SignedWide payment;
-    Schedule schedule;
+    Schedule schedule = {};
 
     /// The same seen backwards in time.
     [[nodiscard]] Balance reversed() const { return {second, first, -payment, schedule.reversed()}; }
