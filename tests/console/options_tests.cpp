@@ -35,32 +35,6 @@ std::string faultOf(const std::string& line) {
     return "none";
 }
 
-TEST(Options, LinesMayBeginWithOneMinusAndAfterTheEndMarkWithTwo) {
-    const std::vector<std::string> arguments = split("-2^2 --record -- --5 --help");
-    const Options options = parse(arguments);
-    EXPECT_TRUE(options.record);
-    EXPECT_FALSE(options.help);
-    EXPECT_EQ(options.operands, (std::vector<std::string_view>{"-2^2", "--5", "--help"}));
-}
-
-TEST(Options, FormatWordsOverrideFormatsWhereverTheyStand) {
-    struct Row {
-        const char* line;
-        NumericFormat format;
-    };
-    const Row rows[] = {
-        {"", 0x032A1044},
-        {"--format rational", 0x53180000},
-        {"--format=fixed --format=integer", 0x4400200C},
-        {"--word 3CCDE00 --format rational", 0x03CCDE00},
-        {"--format=rational --word=4480200C", 0x4480200C},
-        {"--word 0", 0},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(parse(split(row.line)).format(), row.format) << row.line;
-    }
-}
-
 TEST(Options, WrongOnesAreNamed) {
     struct Row {
         const char *line, *part;

@@ -6,7 +6,6 @@
 #include <random>
 #include <string>
 
-#include "engine/lexer.h"
 #include "format/value_writer.h"
 #include "values/errors.h"
 
@@ -138,55 +137,6 @@ TEST(Evaluator, RandomBytesGiveAnAnswerOrAnErrorInTheLine) {
             EXPECT_GE(static_cast<int>(error.code), 1) << line;
         }
     }
-}
-
-TEST(Lexer, TokensAndTheBlanksAroundThem) {
-    struct Row {
-        TokenClass kind;
-        const char* line;
-        std::size_t index;
-        Blanks blanks;
-        std::size_t length;
-    };
-    const Row rows[] = {
-        {TokenClass::Minus, "2-3", 1, Blanks::Keep, 1},      {TokenClass::Minus, "2->m", 1, Blanks::Keep, 0},
-        {TokenClass::Arrow, "2->m", 1, Blanks::Keep, 2},     {TokenClass::Times, "2**3", 1, Blanks::Keep, 0},
-        {TokenClass::Power, "2**3", 1, Blanks::Keep, 2},     {TokenClass::Plus, "  +  3", 0, Blanks::Skip, 5},
-        {TokenClass::Plus, "  +  3", 0, Blanks::Keep, 0},    {TokenClass::BlankRun, "  3", 0, Blanks::Skip, 2},
-        {TokenClass::BlankRun, "3", 0, Blanks::Skip, 0},     {TokenClass::None, "\\", 0, Blanks::Keep, 0},
-        {TokenClass::Factorial, "!:", 1, Blanks::Keep, 0},   {TokenClass::SecondEquals, "=", 0, Blanks::Keep, 1},
-        {TokenClass::ExponentMark, "E", 0, Blanks::Keep, 1}, {TokenClass::Plus, "", 5, Blanks::Skip, 0},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(tokenLength(row.kind, row.line, row.index, row.blanks), row.length)
-            << row.line << ", class " << static_cast<int>(row.kind);
-    }
-}
-
-TEST(Lexer, MarksThatAreTakenAreRefused) {
-    for (const char taken : {'.', '0', 'x', '_', '+', ' ', '\0'}) {
-        setMarkCharacter(TokenClass::GroupMark, taken);
-        EXPECT_EQ(markCharacter(TokenClass::GroupMark), ',');
-    }
-    setMarkCharacter(TokenClass::GroupMark, '#');
-    EXPECT_EQ(answer("1#000.5"), "1#000.5");
-    setMarkCharacter(TokenClass::GroupMark, ',');
-    EXPECT_EQ(answer("1,000.5"), "1,000.5");
-}
-
-TEST(Errors, APositionOfMinusOneKeepsThePreviousOne) {
-    const auto raised = [](std::int32_t position) {
-        try {
-            raise(ErrorCode::Incomplete, position);
-        } catch (const Except&) {
-            return errorPosition();
-        }
-    };
-    EXPECT_EQ(raised(7), 7);
-    EXPECT_EQ(raised(-1), 7);
-    EXPECT_STREQ(errorMessage(0U), "invalid expression");
-    EXPECT_STREQ(errorMessage(23U), "invalid expression");
-    EXPECT_STREQ(errorMessage(4000000000U), "invalid expression");
 }
 
 }  // namespace

@@ -116,33 +116,5 @@ TEST(LongProduct, LongNumbersAgreeAfterCastingOut) {
     }
 }
 
-TEST(LongProduct, WhatHasNoRoomIsSubtractedAtTheLowerEnd) {
-    const LongMultiplier multiplier(2048);
-    for (const Kind& kind : kinds()) {
-        for (const std::size_t length : lengths) {
-            for (const std::size_t other : {length / 4, length / 2, length - 2}) {
-                if (length < 4 || other == 0) {
-                    continue;
-                }
-                const LongNatural a = kind.make(length);
-                const LongNatural b = kind.make(other);
-                const LongNatural product = productByHand(a, b);
-                // Less than two units of word other, seen from the word above it on: at most one unit of that.
-                const std::size_t first = other + 1;
-                const LongNatural upper = multiplier.words(multiplier.transform(a, length),
-                                                           multiplier.transform(b, length), first, length - first);
-                bool borrow = false;
-                const bool isLess = upper.front() != product[first];
-                for (std::size_t index = 0; index < upper.size(); ++index) {
-                    const std::uint64_t less = (index == 0 && isLess ? 1 : 0) + (borrow ? 1 : 0);
-                    borrow = product[first + index] < less;
-                    ASSERT_EQ(upper[index], product[first + index] - less)
-                        << kind.name << ": word " << index << " of " << length << " by " << other;
-                }
-            }
-        }
-    }
-}
-
 }  // namespace
 }  // namespace calquo

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <set>
 #include <vector>
 
 namespace calquo {
@@ -44,22 +43,6 @@ TEST(Random, WordIsSixDrawsThatOverlapByTwoBits) {
     EXPECT_EQ(randomWord(), wanted);
 }
 
-TEST(Random, WordsVaryInEveryBit) {
-    seedRandom(1);
-    std::uint64_t everSet = 0;
-    std::uint64_t everClear = 0;
-    std::set<std::uint64_t> words;
-    for (int draw = 0; draw < 2000; ++draw) {
-        const std::uint64_t word = randomWord();
-        everSet |= word;
-        everClear |= ~word;
-        words.insert(word);
-    }
-    EXPECT_EQ(everSet, ~std::uint64_t{0});
-    EXPECT_EQ(everClear, ~std::uint64_t{0});
-    EXPECT_GT(words.size(), 1990U);
-}
-
 /// Mean and variance of a number of draws.
 template <typename Draw>
 void expectMoments(Draw draw, double mean, double variance) {
@@ -84,13 +67,6 @@ TEST(Random, DrawsHaveTheirMeanAndVariance) {
     expectMoments([] { return rndR(Value(-3), Value(9)).re; }, 3, 12);
     expectMoments([] { return rndG().re; }, 0, 1);
     expectMoments([] { return rndCG().im; }, 0, 1);
-}
-
-TEST(Random, ClockSeedsAfresh) {
-    seedRandom(1);
-    const std::uint64_t fixed = randomWord();
-    seedRandomFromClock();
-    EXPECT_NE(randomWord(), fixed);
 }
 
 }  // namespace

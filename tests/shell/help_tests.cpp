@@ -1,4 +1,4 @@
-// Where the program looks for the system's help control and for its own help file.
+// Where the program looks for the system's help control.
 #include "shell/help.h"
 
 #include <gtest/gtest.h>
@@ -66,12 +66,6 @@ TEST(HelpControl, IsLookedForOnceWhereItIsRegisteredThenByName) {
         EXPECT_EQ(entry.find(libraries), row.found ? anEntryPoint : nullptr) << "row " << &row - rows;
         EXPECT_EQ(libraries.asked, row.asked) << "row " << &row - rows;
     }
-}
-
-TEST(HelpFile, StandsBesideTheProgram) {
-    EXPECT_EQ(helpFileBeside(L"C:\\Program Files\\Calquo\\Calquo.exe"), L"C:\\Program Files\\Calquo\\Calquo2.chm");
-    EXPECT_EQ(helpFileBeside(L"\\\\server\\share/Calquo.exe"), L"\\\\server\\share/Calquo2.chm");
-    EXPECT_EQ(helpFileBeside(L"Calquo.exe"), L"Calquo2.chm");
 }
 
 }  // namespace

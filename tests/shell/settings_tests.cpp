@@ -211,14 +211,6 @@ TEST(Settings, KeepWhatTheyCannotUse) {
     }
 }
 
-TEST(Settings, LoadingForgetsWhatWasHeldBefore) {
-    MemoryStorage storage, empty;
-    Settings settings(storage);
-    settings.setNumber(NumberSetting::ButtonSize, 30);
-    settings.loadAll();
-    EXPECT_EQ(settings.number(NumberSetting::ButtonSize), 0u);
-}
-
 TEST(Settings, ComeBackAsTheyWereSaved) {
     MemoryStorage storage;
     Settings saved(storage);
@@ -281,61 +273,6 @@ TEST(Settings, ThreeItemsAreWrittenAtTheMomentTheyChange) {
     EXPECT_EQ(storage.written, (std::vector{windowRect, defaultFile, selectedPanels}));
     EXPECT_TRUE(storage.values[windowRect] == SettingValue(bytes("0A000000 14000000 2C010000 90010000")));
     EXPECT_TRUE(storage.values[defaultFile] == SettingValue(L"b.txt"));
-}
-
-TEST(Settings, AFlagIsTheBitBelowItsNumberAndLeavesTheOthers) {
-    for (const std::uint32_t others : {0u, 0xFFFFF84Fu}) {
-        for (const auto& [setting, bit] :
-             std::map<BooleanSetting, std::uint32_t>{{BooleanSetting::ReadDefaultAtStartup, 0x10},
-                                                     {BooleanSetting::SaveDefaultAtExit, 0x20},
-                                                     {BooleanSetting::HideButtons, 0x80},
-                                                     {BooleanSetting::ButtonsAddDegrees, 0x100},
-                                                     {BooleanSetting::ButtonsAddGradients, 0x200},
-                                                     {BooleanSetting::ButtonsAddRadians, 0x400}}) {
-            MemoryStorage storage;
-            storage.values[flags] = others;
-            Settings settings(storage);
-            settings.loadAll();
-            settings.setBoolean(setting, true);
-            settings.saveAll();
-            EXPECT_TRUE(storage.values[flags] == SettingValue(others | bit));
-            settings.setBoolean(setting, false);
-            settings.saveAll();
-            EXPECT_TRUE(storage.values[flags] == SettingValue(others));
-        }
-    }
-}
-
-TEST(Settings, ChoosingAnAngleTurnsTheOthersOff) {
-    MemoryStorage storage;
-    storage.values[flags] = 0x7B0u;
-    Settings settings(storage);
-    settings.loadAll();
-    for (const auto& [option, expected] : {std::pair{AngleOption::Gradient, "g111010"},
-                                           {AngleOption::Degree, "d111100"},
-                                           {AngleOption::Radian, "r111001"},
-                                           {AngleOption::None, "-111000"}}) {
-        settings.chooseAngle(option);
-        EXPECT_EQ(answer(flags, settings), expected);
-    }
-}
-
-TEST(Settings, ABlockOfAnotherSizeIsRefused) {
-    MemoryStorage storage;
-    Settings settings(storage);
-    for (const auto& [setting, size] : {std::pair{BlockSetting::WindowRect, 15},
-                                        {BlockSetting::WindowRect, 0},
-                                        {BlockSetting::NumericFormats, 0},
-                                        {BlockSetting::NumericFormats, 29}}) {
-        const SettingBlock held = settings.block(setting);
-        try {
-            settings.setBlock(setting, SettingBlock(static_cast<std::size_t>(size)));
-            ADD_FAILURE() << size << " bytes were taken";
-        } catch (const Except& error) {
-            EXPECT_EQ(error.code, ErrorCode::InternalFault);
-        }
-        EXPECT_EQ(settings.block(setting), held);
-    }
 }
 
 TEST(Settings, OnlyCharactersWithoutAnotherUseBecomeMarks) {

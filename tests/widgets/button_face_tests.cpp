@@ -22,36 +22,6 @@ std::vector<Color> faceColors() {
     return colors;
 }
 
-TEST(ButtonFace, RaisedFacesAreFiveRoundedRectangles) {
-    constexpr Color color{10, 20, 30};
-    struct Row {
-        Size size;
-        int cornerDiameter = 0;
-        Rectangle places[5];
-    };
-    const Row rows[] = {
-        {{12, 12}, 2, {{0, 0, 12, 12}, {0, 0, 11, 11}, {1, 1, 10, 10}, {1, 1, 11, 11}, {1, 1, 10, 10}}},
-        {{30, 20}, 4, {{0, 0, 30, 20}, {0, 0, 28, 18}, {1, 1, 27, 17}, {2, 2, 28, 18}, {2, 2, 27, 17}}},
-        {{60, 40}, 6, {{0, 0, 60, 40}, {0, 0, 57, 37}, {1, 1, 56, 36}, {3, 3, 57, 37}, {3, 3, 56, 36}}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.size.height);
-        const auto layers = buttonFace(row.size, color, false).layers;
-        ASSERT_EQ(layers.size(), 5u);
-        for (std::size_t index = 0; index < 5; ++index) {
-            SCOPED_TRACE(index);
-            EXPECT_EQ(layers[index].place, row.places[index]);
-            EXPECT_EQ(layers[index].cornerDiameter, row.cornerDiameter);
-        }
-        EXPECT_EQ(layers[2].color, color);
-        EXPECT_EQ(layers[4].color, color);
-        EXPECT_EQ(layers[1].color, layers[3].color);
-        const auto pressed = buttonFace(row.size, color, true).layers;
-        ASSERT_EQ(pressed.size(), 1u);
-        EXPECT_EQ(pressed[0], layers[0]);
-    }
-}
-
 TEST(ButtonFace, EveryColorCanBeReadAndSeenToBePressed) {
     for (const Color color : faceColors()) {
         SCOPED_TRACE(testing::Message() << int{color.red} << ", " << int{color.green} << ", " << int{color.blue});
@@ -73,14 +43,6 @@ TEST(Color, ContrastIsThatOfTheGuidelines) {
     EXPECT_NEAR(contrast({118, 118, 118}, white), 4.54, 0.005);
     EXPECT_NEAR(contrast(white, {255, 0, 0}), 4.00, 0.005);
     EXPECT_NEAR(contrast({0, 0, 255}, white), 8.59, 0.005);
-}
-
-TEST(Color, MixingGoesFromOneColorToTheOther) {
-    constexpr Color from{0, 100, 255};
-    constexpr Color to{200, 100, 0};
-    EXPECT_EQ(mixed(from, to, 0), from);
-    EXPECT_EQ(mixed(from, to, 25), (Color{50, 100, 191}));
-    EXPECT_EQ(mixed(from, to, 100), to);
 }
 
 }  // namespace
