@@ -11,7 +11,7 @@
 namespace calquo {
 namespace {
 
-constexpr unsigned numericBase = 0xA113, editing = 0xA111;
+constexpr unsigned editing = 0xA111;
 
 /// What an action makes of a line of plain characters, without a window.
 struct Carried {
@@ -107,53 +107,6 @@ TEST(PanelButtons, AnInsertionKeepsForeignCharactersAndIsOneStepForUndo) {
     EXPECT_EQ(program.text(), L"7+ sqrt(\u221E\U0001F600)");
     SendMessageW(program.workArea(), EM_UNDO, 0, 0);
     EXPECT_EQ(program.text(), line);
-}
-
-TEST(PanelButtons, TheAngleOptionIsTakenFromTheMenu) {
-    struct Row {
-        unsigned command, panel;
-        std::size_t button;
-        const wchar_t* text;
-    };
-    const Row rows[] = {
-        {0x8031, 0xA010, 0, L"sin(30 deg)"},
-        {0x8031, 0xA011, 0, L"asin(30) -> deg"},
-        {0x8032, 0xA020, 1, L"cosh(30 grad)"},
-        {0x8033, 0xA021, 2, L"atanh(30) -> rad"},
-    };
-    for (const Row& row : rows) {
-        Program program;
-        program.command(row.command);
-        program.command(row.panel);
-        program.setText(L"30");
-        program.select(0, 2);
-        Program::click(program.buttonsOf(row.panel).at(row.button));
-        EXPECT_EQ(program.text(), row.text);
-    }
-}
-
-TEST(PanelButtons, AnOutputBaseTakesThePlaceOfTheLast) {
-    Program program;
-    program.command(numericBase);
-    program.setText(L"255");
-    const std::vector<HWND> buttons = program.buttonsOf(numericBase);
-    const wchar_t* const texts[] = {L"255 '2", L"255 '8", L"255 '16", L"255"};
-    for (std::size_t index = 0; index < std::size(texts); ++index) {
-        for (int press = 0; press < 2; ++press) {
-            Program::click(buttons.at(4 + index));
-            EXPECT_EQ(program.text(), texts[index]);
-        }
-    }
-}
-
-TEST(PanelButtons, TwoQuickClicksAreTwo) {
-    Program program;
-    program.command(0xA110);
-    const HWND seven = program.buttonsOf(0xA110).front();
-    Program::click(seven);
-    SendMessageW(seven, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-    SendMessageW(seven, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    EXPECT_EQ(program.text(), L"77");
 }
 
 TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {

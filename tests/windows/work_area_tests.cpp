@@ -112,16 +112,6 @@ TEST(WorkArea, WhatIsTypedBesideAResultIsNormal) {
     EXPECT_EQ(desk.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
 }
 
-TEST(WorkArea, AMendedMistakeIsEvaluatedAgain) {
-    Desk desk;
-    desk.type("(2+)*4");
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.picture(), L"(2+|)*4< = Error (invalid format)>");
-    desk.type("3");
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.picture(), L"(2+3)*4< = 20>\n\n20|");
-}
-
 TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
     Desk desk;
     const std::wstring line = L"8+\u221E+\u044F\u4E2D\U0001F600";
