@@ -68,6 +68,7 @@ constexpr ProgramRow rows[] = {
 
     {"$CALQ 1+1 -2^2 '3 = 4'", 0, "2\n4\n3\n"},
     {"$CALQ 1+1 2+", 1, "2\nError (invalid format)\n"},
+    {"$CALQ --word 53180000 --format fixed 1/4 -- --5 2>&1", 0, "1/4\n5\n"},
     {"$CALQ $'1+1\\n1+2\\n'", 0, "2\n3\n"},
     {"$CALQ --nonsense 2>&1", 2,
      "calq: there is no option --nonsense; put -- before a line that begins with it\nTry calq --help.\n"},

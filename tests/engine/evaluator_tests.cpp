@@ -7,6 +7,7 @@
 #include <string>
 
 #include "format/value_writer.h"
+#include "support/repeated.h"
 #include "values/errors.h"
 
 namespace calquo {
@@ -20,14 +21,6 @@ std::string answer(std::string_view line, int nestingLimit = deepestNesting) {
     } catch (const Except& error) {
         return std::string(errorMessage(error.code)) + " at " + std::to_string(errorPosition());
     }
-}
-
-std::string repeated(std::string_view piece, int count) {
-    std::string result;
-    for (int i = 0; i < count; ++i) {
-        result += piece;
-    }
-    return result;
 }
 
 TEST(Evaluator, PositionsTellWhereTheLiteralStands) {
@@ -68,7 +61,7 @@ TEST(Evaluator, ComputesInFullPrecisionWhateverTheProcessorIsSetTo) {
 
 TEST(Evaluator, NestingIsBoundedWhateverItsShape) {
     for (const char* piece : {"(", "sin(", "2^", "sin ", "avg(", "2(", "-("}) {
-        const std::string line = repeated(piece, 100000) + "1";
+        const std::string line = repeated(100000, piece) + "1";
         EXPECT_TRUE(answer(line).starts_with("limit exceeded at ")) << piece;
     }
     EXPECT_EQ(answer("((((1))))", 4), "1");
@@ -79,9 +72,9 @@ TEST(Evaluator, NestingIsBoundedWhateverItsShape) {
 
 TEST(Evaluator, ListsThatAreNoGroupsAreReadOnce) {
     // Each level would double the time if its list were read as arguments first and as a number again.
-    EXPECT_EQ(answer(repeated("real(", 50) + "7" + repeated(";2)", 50)), "7");
-    EXPECT_EQ(answer(repeated("sin(", 50) + "1" + repeated(";2)", 50)).substr(0, 26), "complex value not allowed ");
-    EXPECT_EQ(answer(repeated("(", 100) + "7" + repeated(";0)", 100)), "7");
+    EXPECT_EQ(answer(repeated(50, "real(") + "7" + repeated(50, ";2)")), "7");
+    EXPECT_EQ(answer(repeated(50, "sin(") + "1" + repeated(50, ";2)")).substr(0, 26), "complex value not allowed ");
+    EXPECT_EQ(answer(repeated(100, "(") + "7" + repeated(100, ";0)")), "7");
 }
 
 TEST(Evaluator, LongLinesGiveTheirAnswer) {
@@ -89,23 +82,23 @@ TEST(Evaluator, LongLinesGiveTheirAnswer) {
         std::string line;
         const char* answer;
     };
-    const int million = 1000000;
+    const std::size_t million = 1000000;
     const Row rows[] = {
-        {repeated("9", million), "domain range at 1000000"},
-        {"0." + repeated("9", million), "1"},
-        {"0." + repeated("0", million) + "1e1000001", "1"},
-        {"35'0." + repeated("H", million), "35'0.HHHHI"},
-        {"1e" + repeated("9", million), "domain range at 1000002"},
-        {"0e" + repeated("9", million), "0"},
-        {repeated("1", 30) + repeated(",000", million / 4), "domain range at 1000030"},
-        {repeated(" ", million) + "5" + repeated(" ", million), "5"},
-        {repeated("a", million), "too long at 80"},
-        {"3" + repeated("a", million), "invalid digit, not within the numeric base at 2"},
-        {"1" + repeated("+1", 100000), "100,001"},
-        {repeated("-", 100000) + "1", "1"},
-        {"sum(0" + repeated(";1", 100000) + ")", "100,000"},
-        {"2" + repeated("(1)", 100000), "2"},
-        {"1 m" + repeated(" -> m", 100000), "1"},
+        {repeated(million, "9"), "domain range at 1000000"},
+        {"0." + repeated(million, "9"), "1"},
+        {"0." + repeated(million, "0") + "1e1000001", "1"},
+        {"35'0." + repeated(million, "H"), "35'0.HHHHI"},
+        {"1e" + repeated(million, "9"), "domain range at 1000002"},
+        {"0e" + repeated(million, "9"), "0"},
+        {repeated(30, "1") + repeated(million / 4, ",000"), "domain range at 1000030"},
+        {repeated(million, " ") + "5" + repeated(million, " "), "5"},
+        {repeated(million, "a"), "too long at 80"},
+        {"3" + repeated(million, "a"), "invalid digit, not within the numeric base at 2"},
+        {"1" + repeated(100000, "+1"), "100,001"},
+        {repeated(100000, "-") + "1", "1"},
+        {"sum(0" + repeated(100000, ";1") + ")", "100,000"},
+        {"2" + repeated(100000, "(1)"), "2"},
+        {"1 m" + repeated(100000, " -> m"), "1"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(answer(row.line.starts_with("35'") ? row.line + " '35" : row.line), row.answer)

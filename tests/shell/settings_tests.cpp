@@ -7,9 +7,7 @@
 #include <map>
 #include <sstream>
 
-#include "panels/button_action.h"
 #include "support/memory_storage.h"
-#include "values/errors.h"
 
 namespace calquo {
 namespace {
@@ -37,24 +35,11 @@ const std::wstring windowRect = L"Window Rect", selectedPanels = L"Selected Pane
                    selectedFormat = L"Selected format", defaultFile = L"Default File", decimalMark = L"Decimal Mark",
                    groupMark = L"Group Mark";
 
-char letterOf(AngleOption option) {
-    switch (option) {
-        case AngleOption::Degree:
-            return 'd';
-        case AngleOption::Gradient:
-            return 'g';
-        case AngleOption::Radian:
-            return 'r';
-        default:
-            return '-';
-    }
-}
-
 /// What the program is told of the item that a name stores, as text.
 std::string answer(const std::wstring& name, const Settings& settings) {
     std::ostringstream text;
     if (name == flags) {
-        text << letterOf(settings.angleOption());
+        text << "-dgr"[static_cast<int>(settings.angleOption())];
         for (const auto setting : {BooleanSetting::ReadDefaultAtStartup, BooleanSetting::SaveDefaultAtExit,
                                    BooleanSetting::HideButtons, BooleanSetting::ButtonsAddDegrees,
                                    BooleanSetting::ButtonsAddGradients, BooleanSetting::ButtonsAddRadians}) {
@@ -95,11 +80,7 @@ struct StoredRow {
 
 const StoredRow storedRows[] = {
     {flags, 0u, "-000000"},
-    {flags, 0x10u, "-100000"},
-    {flags, 0x20u, "-010000"},
-    {flags, 0x80u, "-001000"},
-    {flags, 0x100u, "d000100"},
-    {flags, 0x200u, "g000010"},
+    {flags, 0x1B0u, "d111100"},
     {flags, 0x400u, "r000001"},
     {flags, 0x600u, "g000011"},
     {flags, 0x700u, "d000111"},
@@ -123,7 +104,6 @@ const StoredRow storedRows[] = {
     {windowRect, bytes("0083FFFF 0083FFFF A083FFFF 1B83FFFF"), "-32000 -32000 -31840 -31973"},  // a minimized window
     {windowRect, bytes("0A000000 14000000 2C010000 900100"), "none 0 0 0 0"},
     {windowRect, bytes("0A000000 14000000 2C010000 90010000 00"), "none 0 0 0 0"},
-    {windowRect, bytes(""), "none 0 0 0 0"},
     {windowRect, bytes("2C010000 14000000 0A000000 90010000"), "none 0 0 0 0"},
     {windowRect, bytes("0A000000 14000000 2C010000 14000000"), "none 0 0 0 0"},
     {windowRect, bytes("00000080 14000000 FFFFFF7F 90010000"), "none 0 0 0 0"},
@@ -136,15 +116,12 @@ const StoredRow storedRows[] = {
     {selectedPanels, bytes("10A10100 10A10080 00A50000"), "A500 "},
     {selectedPanels, bytes("10A10000 00A500"), "A110 "},
     {selectedPanels, bytes("10A1"), ""},
-    {selectedPanels, bytes(""), ""},
     {selectedPanels, L"\xA110", ""},
 
     {numericFormats, bytes(defaultFormatBytes), "-------"},
     {numericFormats, formatBytes(0, "45142E02"), "x------"},
     {numericFormats, formatBytes(0, "44102A13"), "-------"},  // another kind's word
-    {numericFormats, formatBytes(6, "040018F3"), "-------"},
     {numericFormats, formatBytes(0, "C4102A03"), "-------"},  // a reserved bit
-    {numericFormats, formatBytes(0, "44112A03"), "-------"},
     {numericFormats, formatBytes(0, "44102A01"), "-------"},  // groups of 1
     {numericFormats, formatBytes(0, "44102A09"), "-------"},  // groups of 9
     {numericFormats, formatBytes(0, "44102A08"), "x------"},
@@ -157,14 +134,11 @@ const StoredRow storedRows[] = {
     {numericFormats, formatBytes(4, "0C208044"), "----x--"},  // "whole"
     {numericFormats, formatBytes(4, "0C20A044"), "-------"},  // no truncation of number 5
     {numericFormats, formatBytes(5, "00000053"), "-------"},  // no denominator digits
-    {numericFormats, formatBytes(5, "00007853"), "-----x-"},
     {numericFormats, bytes("45142E02"), "-------"},
     {numericFormats, bytes(defaultFormatBytes + "00"), "-------"},
     {numericFormats, SettingBlock(28, 0xFF), "-------"},
-    {numericFormats, SettingBlock(28, 0), "-------"},
 
     {defaultFile, L"Z:\\a.txt", "Z:\\a.txt"},
-    {defaultFile, L"a", "a"},
     {defaultFile, L"", ".\\WorkArea.rtf"},
     {defaultFile, bytes("61000000"), ".\\WorkArea.rtf"},
 
@@ -172,14 +146,11 @@ const StoredRow storedRows[] = {
     {decimalMark, L",", ",."},
     {decimalMark, L"$@", "$,"},
     {decimalMark, L"", ".,"},
-    {decimalMark, L" #", ".,"},
     {decimalMark, L"\x1", ".,"},
     {decimalMark, L"\xB7", ".,"},
-    {decimalMark, L"\x12E", ".,"},
     {decimalMark, 44u, ".,"},
     {groupMark, L"#", ".#"},
     {groupMark, L".", ".,"},
-    {groupMark, L"\x202F", ".,"},
 };
 
 TEST(Settings, AnswerSensiblyWhateverWasStored) {
@@ -229,50 +200,41 @@ TEST(Settings, ComeBackAsTheyWereSaved) {
 
     Settings loaded(storage);
     loaded.loadAll();
-    for (const auto& [name, expected] : std::map<std::wstring, std::string>{{flags, "r001001"},
-                                                                            {buttonSize, "30"},
-                                                                            {selectedFormat, "5"},
-                                                                            {windowRect, "-8 20 300 400"},
-                                                                            {selectedPanels, "A5F0 A010 "},
-                                                                            {numericFormats, "---x---"},
-                                                                            {decimalMark, ",#"}}) {
-        EXPECT_EQ(answer(name, loaded), expected);
+    std::string answers;
+    for (const std::wstring& name :
+         {flags, buttonSize, selectedFormat, windowRect, selectedPanels, numericFormats, decimalMark}) {
+        answers += answer(name, loaded) + "; ";
     }
+    EXPECT_EQ(answers, "r001001; 30; 5; -8 20 300 400; A5F0 A010 ; ---x---; ,#; ");
     EXPECT_EQ(loaded.text(TextSetting::DefaultFile), L"Z:\\\x4E2D.rtf");
     loaded.resetFormats();
     EXPECT_EQ(answer(numericFormats, loaded), "-------");
 }
 
-TEST(Settings, AreSavedInOrderAndAnUnknownWindowRectangleNotAtAll) {
+TEST(Settings, AreSavedInOrderAndThreeAtTheMomentTheyChange) {
     MemoryStorage storage;
     Settings settings(storage);
     settings.saveAll();
     EXPECT_EQ(storage.written, (std::vector{flags, buttonSize, selectedFormat, selectedPanels, numericFormats,
                                             defaultFile, groupMark, decimalMark}));
     EXPECT_TRUE(storage.values[numericFormats] == SettingValue(bytes(defaultFormatBytes)));
-    EXPECT_TRUE(storage.values[selectedPanels] == SettingValue(SettingBlock{}));
 
-    settings.setWindowRect({0, 0, 1, 1});
     storage.written.clear();
-    settings.saveAll();
-    EXPECT_EQ(storage.written[3], windowRect);
-}
-
-TEST(Settings, ThreeItemsAreWrittenAtTheMomentTheyChange) {
-    MemoryStorage storage;
-    Settings settings(storage);
     settings.setBoolean(BooleanSetting::HideButtons, true);
     settings.setNumber(NumberSetting::SelectedFormat, 3);
     settings.setText(TextSetting::GroupMark, L"#");
     settings.setFormat(FormatKind::Automatic, 0x032A1045);
     EXPECT_EQ(storage.written, std::vector<std::wstring>{});
-
     settings.setWindowRect({10, 20, 300, 400});
     settings.setText(TextSetting::DefaultFile, L"b.txt");
     settings.setSelectedPanels({});
     EXPECT_EQ(storage.written, (std::vector{windowRect, defaultFile, selectedPanels}));
     EXPECT_TRUE(storage.values[windowRect] == SettingValue(bytes("0A000000 14000000 2C010000 90010000")));
-    EXPECT_TRUE(storage.values[defaultFile] == SettingValue(L"b.txt"));
+
+    // A known rectangle of the window has its place among the others.
+    storage.written.clear();
+    settings.saveAll();
+    EXPECT_EQ(storage.written[3], windowRect);
 }
 
 TEST(Settings, OnlyCharactersWithoutAnotherUseBecomeMarks) {

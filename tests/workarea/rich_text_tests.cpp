@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "support/repeated.h"
 #include "workarea/file_fault.h"
 #include "workarea/text_cost.h"
 
@@ -12,14 +13,6 @@ namespace calquo {
 namespace {
 
 using namespace std::string_view_literals;
-
-std::string repeated(std::size_t count, std::string_view text) {
-    std::string all;
-    while (count-- > 0) {
-        all += text;
-    }
-    return all;
-}
 
 TEST(RichText, EndsInFrontOfItsLastParagraphsEnd) {
     struct Row {
