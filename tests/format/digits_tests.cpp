@@ -46,37 +46,14 @@ TEST(Digits, AreExactInEveryBase) {
     }
 }
 
-struct FractionRow {
-    Real number;
-    UInt128 limit;
-    UInt128 numerator;
-    UInt128 denominator;
-};
-
-// By hand, or found by trying every denominator.
-const FractionRow fractionRows[] = {
-    {0, {0, 999}, {0, 0}, {0, 1}},
-    {0.5L, {0, 999}, {0, 1}, {0, 2}},
-    {pi - 3, {0, 9}, {0, 1}, {0, 7}},
-    {pi - 3, {0, 99}, {0, 14}, {0, 99}},
-    {pi - 3, {0, 999}, {0, 16}, {0, 113}},
-    {0.0004L, {0, 999}, {0, 0}, {0, 1}},
-    {0.0006L, {0, 999}, {0, 1}, {0, 999}},
-    {0.99999L, {0, 999}, {0, 1}, {0, 1}},
-    {0.75L, {0, 1}, {0, 1}, {0, 1}},
-    {0.25L, {0, 1}, {0, 0}, {0, 1}},
-    {0x1p-62L, largestDenominator, {0, 1}, {0, std::uint64_t{1} << 62}},
-    {0x1p-70L, largestDenominator, {0, 1}, {std::uint64_t{1} << 6, 0}},
-    {0x1p-128L, largestDenominator, {0, 0}, {0, 1}},
-    {0x1.8p-128L, largestDenominator, {0, 1}, largestDenominator},
-};
-
-TEST(Fraction, IsTheClosestWithinTheLimit) {
-    for (const FractionRow& row : fractionRows) {
-        const Fraction found = closestFraction(row.number, row.limit);
-        EXPECT_TRUE(found.numerator == row.numerator && found.denominator == row.denominator)
-            << row.number << " within " << row.limit.low << " gave " << found.numerator.low << "/"
-            << found.denominator.low;
+TEST(Fraction, ReachesToTheLargestDenominator) {
+    const std::pair<Real, Fraction> rows[] = {{0x1p-62L, {{0, 1}, {0, std::uint64_t{1} << 62}}},
+                                              {0x1p-70L, {{0, 1}, {std::uint64_t{1} << 6, 0}}},
+                                              {0x1p-128L, {{0, 0}, {0, 1}}},
+                                              {0x1.8p-128L, {{0, 1}, largestDenominator}}};
+    for (const auto& [number, expected] : rows) {
+        const Fraction found = closestFraction(number, largestDenominator);
+        EXPECT_TRUE(found.numerator == expected.numerator && found.denominator == expected.denominator) << number;
     }
 }
 

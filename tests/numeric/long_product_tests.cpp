@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <functional>
 #include <random>
-#include <string>
 #include <vector>
 
 #include "values/uint128.h"
@@ -40,11 +39,6 @@ std::uint64_t sumOfWords(const LongNatural& number) {
     return sum;
 }
 
-struct Kind {
-    std::string name;
-    std::function<LongNatural(std::size_t words)> make;
-};
-
 /// Numbers with single bits set, one in so many, from the highest of each such digit on. Taken as digits of that many
 /// bits, all are as far below zero as they can be, and their products add up instead of cancelling.
 LongNatural bitInEvery(std::size_t distance, std::size_t words) {
@@ -55,25 +49,19 @@ LongNatural bitInEvery(std::size_t distance, std::size_t words) {
     return number;
 }
 
-std::vector<Kind> kinds() {
-    std::vector<Kind> result = {{"ones", [](std::size_t words) { return LongNatural(words, UINT64_MAX); }},
-                                {"power of two", [](std::size_t words) {
-                                     LongNatural number(words);
-                                     number.back() = std::uint64_t{1} << 63;
-                                     return number;
-                                 }}};
+/// Numbers of a length: all bits, one bit, bits in every distance, and random ones.
+std::vector<LongNatural> numbersOf(std::size_t words) {
+    std::vector<LongNatural> numbers = {LongNatural(words, UINT64_MAX), LongNatural(words)};
+    numbers.back().back() = std::uint64_t{1} << 63;
     for (std::size_t distance = 9; distance <= 22; ++distance) {
-        result.push_back({"a bit in every " + std::to_string(distance),
-                          [distance](std::size_t words) { return bitInEvery(distance, words); }});
+        numbers.push_back(bitInEvery(distance, words));
     }
-    for (int sample = 0; sample < 3; ++sample) {
-        result.push_back({"random", [generator = std::mt19937_64(sample)](std::size_t words) mutable {
-                              LongNatural number(words);
-                              std::ranges::generate(number, std::ref(generator));
-                              return number;
-                          }});
+    static std::mt19937_64 generator(1);
+    for (int sample = 0; sample < 2; ++sample) {
+        numbers.emplace_back(words);
+        std::ranges::generate(numbers.back(), std::ref(generator));
     }
-    return result;
+    return numbers;
 }
 
 /// Every length of transform up to a few thousand words, filled and hardly more than half filled.
@@ -81,22 +69,22 @@ constexpr std::size_t lengths[] = {1, 2, 3, 4, 8, 15, 16, 33, 34, 67, 68, 135, 1
 
 TEST(LongProduct, AgreesWithMultiplicationByHand) {
     const LongMultiplier multiplier(2048);
-    for (const Kind& kind : kinds()) {
-        for (const std::size_t length : lengths) {
-            for (const std::size_t other : {length, (length + 1) / 2, std::size_t{1}}) {
-                const LongNatural a = kind.make(length);
-                const LongNatural b = kind.make(other);
+    for (const std::size_t length : lengths) {
+        for (const std::size_t other : {length, (length + 1) / 2, std::size_t{1}}) {
+            const auto numbers = numbersOf(length), others = numbersOf(other);
+            for (std::size_t kind = 0; kind < numbers.size(); ++kind) {
+                const LongNatural &a = numbers[kind], &b = others[kind];
                 LongNatural expected = productByHand(a, b);
                 const std::size_t first = expected.size() / 3;
                 const LongNatural part(expected.begin() + static_cast<std::ptrdiff_t>(first), expected.end() - 1);
                 ASSERT_EQ(multiplier.words(multiplier.transform(a, expected.size()),
                                            multiplier.transform(b, expected.size()), first, part.size()),
                           part)
-                    << kind.name << ": " << length << " by " << other;
+                    << "kind " << kind << ": " << length << " by " << other;
                 while (!expected.empty() && expected.back() == 0) {
                     expected.pop_back();
                 }
-                ASSERT_EQ(multiplier.multiply(a, b), expected) << kind.name << ": " << length << " by " << other;
+                ASSERT_EQ(multiplier.multiply(a, b), expected) << "kind " << kind << ": " << length << " by " << other;
             }
         }
     }
@@ -104,14 +92,13 @@ TEST(LongProduct, AgreesWithMultiplicationByHand) {
 
 TEST(LongProduct, LongNumbersAgreeAfterCastingOut) {
     const LongMultiplier multiplier(120000);
-    for (const Kind& kind : kinds()) {
-        for (const std::size_t length : {7000, 14000, 27000, 60000}) {
-            const LongNatural a = kind.make(length);
-            const LongNatural b = kind.make(length - 1);
-            const UInt128 expected = multiply(sumOfWords(a), sumOfWords(b));
-            ASSERT_EQ(sumOfWords(multiplier.multiply(a, b)) % UINT64_MAX,
+    for (const std::size_t length : {7000, 27000, 60000}) {
+        const auto numbers = numbersOf(length), others = numbersOf(length - 1);
+        for (std::size_t kind = 0; kind < numbers.size(); ++kind) {
+            const UInt128 expected = multiply(sumOfWords(numbers[kind]), sumOfWords(others[kind]));
+            ASSERT_EQ(sumOfWords(multiplier.multiply(numbers[kind], others[kind])) % UINT64_MAX,
                       sumOfWords({expected.low, expected.high}) % UINT64_MAX)
-                << kind.name << ": " << length;
+                << "kind " << kind << ": " << length;
         }
     }
 }

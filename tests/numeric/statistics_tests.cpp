@@ -48,22 +48,5 @@ TEST(Statistics, MedianStaysWithinAListFullOfNaNs) {
     }
 }
 
-TEST(Statistics, KeysDecideInTheirOrder) {
-    constexpr OrderKey byMagnitude[] = {OrderKey::Magnitude, OrderKey::Argument};
-    struct Row {
-        Value a, b;
-        int byDefault, byKeys;
-    };
-    const Row rows[] = {
-        {{3, 4}, {3, -4}, 1, 1}, {{-5, 0}, {4, 0}, -1, 1}, {{0, 5}, {3, 4}, -1, 1},
-        {{2, 1}, {2, 1}, 0, 0},  {{1, 9}, {2, 0}, -1, 1},  {{notANumber, 1}, {5, 2}, -1, 0},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(compare(row.a, row.b), row.byDefault) << static_cast<double>(row.a.re);
-        EXPECT_EQ(compare(row.b, row.a), -row.byDefault) << static_cast<double>(row.a.re);
-        EXPECT_EQ(compare(row.a, row.b, byMagnitude), row.byKeys) << static_cast<double>(row.a.re);
-    }
-}
-
 }  // namespace
 }  // namespace calquo

@@ -32,7 +32,7 @@ const PanelButton& buttonOf(std::uint16_t panel, std::string_view labelOrDescrip
 
 /// A line and its selection, drawn as "2+[3]", or with the caret alone as "2+|3".
 struct Drawing {
-    explicit Drawing(std::string_view drawn) {
+    Drawing(std::string_view drawn) {
         for (const char character : drawn) {
             if (character == '[' || character == '|') {
                 begin = text.size();
@@ -88,9 +88,8 @@ private:
     const Drawing& line_;
 };
 
-std::string press(std::uint16_t panel, const PanelButton& button, std::string_view drawn,
+std::string press(std::uint16_t panel, const PanelButton& button, const Drawing& line,
                   AngleOption angle = AngleOption::None) {
-    const Drawing line(drawn);
     return std::visit(Pressed(line), actionOf(panel, button, {line.text, line.begin, line.end}, angle));
 }
 
@@ -191,43 +190,38 @@ TEST(ButtonAction, OutputBaseIsAskedForOnce) {
     expect(rows);
 }
 
-struct AngleRow {
-    std::uint16_t panel;
-    std::string_view button;
-    AngleOption angle;
-    std::string_view after;
-};
-
 TEST(ButtonAction, AngleFunctionsAddTheChosenUnit) {
-    const AngleRow rows[] = {
-        {0xA010, "sin", AngleOption::None, "sin(30|)"},
-        {0xA010, "sin", AngleOption::Degree, "sin(30| deg)"},
-        {0xA010, "cot", AngleOption::Gradient, "cot(30| grad)"},
-        {0xA010, "sec", AngleOption::Radian, "sec(30| rad)"},
-        {0xA011, "asin", AngleOption::None, "asin(30|)"},
-        {0xA011, "asin", AngleOption::Degree, "asin(30|) -> deg"},
-        {0xA011, "acos", AngleOption::Gradient, "acos(30|) -> grad"},
-        {0xA011, "atan", AngleOption::Radian, "atan(30|) -> rad"},
-        {0xA020, "sinh", AngleOption::Degree, "sinh(30| deg)"},
-        {0xA021, "asinh", AngleOption::Degree, "asinh(30|) -> deg"},
-        // Only functions of angles hear of the option.
-        {0xA311, "abs", AngleOption::Degree, "abs(30|)"},
-        {0xA421, "avg", AngleOption::Degree, "avg(30|)"},
+    struct Row {
+        std::uint16_t panel;
+        std::string_view button;
+        AngleOption angle;
+        std::string_view after;
     };
-    for (const AngleRow& row : rows) {
-        EXPECT_EQ(press(row.panel, buttonOf(row.panel, row.button), "[30]", row.angle), row.after);
+    using enum AngleOption;
+    const Row rows[] = {
+        {0xA010, "sin", None, "sin(30|)"},
+        {0xA010, "sin", Degree, "sin(30| deg)"},
+        {0xA010, "cot", Gradient, "cot(30| grad)"},
+        {0xA011, "asin", None, "asin(30|)"},
+        {0xA011, "acos", Gradient, "acos(30|) -> grad"},
+        {0xA011, "atan", Radian, "atan(30|) -> rad"},
+        {0xA020, "sinh", Radian, "sinh(30| rad)"},
+        {0xA021, "asinh", Degree, "asinh(30|) -> deg"},
+        // Only functions of angles hear of the option.
+        {0xA311, "abs", Degree, "abs(30|)"},
+        {0xA421, "avg", Degree, "avg(30|)"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(press(row.panel, buttonOf(row.panel, row.button), Drawing("[30]"), row.angle), row.after);
     }
 }
 
 TEST(ButtonAction, SelectionCountsAsFarAsItLiesInTheLine) {
-    const PanelButton& root = buttonOf(0xA331, "sqrt");
-    const auto caretOf = [&](std::size_t begin, std::size_t end) {
-        const Drawing line("2+3");
-        return std::visit(Pressed(line), actionOf(0xA331, root, {line.text, begin, end}, AngleOption::None));
-    };
-    EXPECT_EQ(caretOf(2, 99), "2+ sqrt(3|)");
-    EXPECT_EQ(caretOf(50, 99), "2+3 sqrt(|)");
-    EXPECT_EQ(caretOf(0, std::string::npos), "sqrt(2+3|)");
+    Drawing line("2+[3]");
+    line.end = 99;
+    EXPECT_EQ(press(0xA331, buttonOf(0xA331, "sqrt"), line), "2+ sqrt(3|)");
+    line.begin = 50;
+    EXPECT_EQ(press(0xA331, buttonOf(0xA331, "sqrt"), line), "2+3 sqrt(|)");
 }
 
 /// `line` without the caret, every empty place for an argument filled with "2".

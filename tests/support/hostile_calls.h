@@ -10,27 +10,11 @@
 
 namespace calquo {
 
-inline const std::vector<std::string> hostileArguments = {"0",
-                                                          "-1",
-                                                          "1",
-                                                          "0.5",
-                                                          "-2.5",
-                                                          "inf",
-                                                          "NaN",
-                                                          "2^64",
-                                                          "2^64-1",
-                                                          "2^63",
-                                                          "1e4932",
-                                                          "1e-4940",
-                                                          "1e4000",
-                                                          "-1e4000",
-                                                          "18446744073709551557",
-                                                          "(1; 2)",
-                                                          "(-1e4000; 1e-4000)",
-                                                          "(NaN; inf)",
-                                                          "1 year",
-                                                          "86400",
-                                                          "1e15"};
+// clang-format off
+inline const std::vector<std::string> hostileArguments = {
+    "0", "-1", "1", "0.5", "-2.5", "inf", "NaN", "2^64", "2^64-1", "2^63", "1e4932", "1e-4940", "1e4000", "-1e4000",
+    "18446744073709551557", "(1; 2)", "(-1e4000; 1e-4000)", "(NaN; inf)", "1 year", "86400", "1e15"};
+// clang-format on
 
 /// A list of the arguments, from an offset on in steps; a step of 0 repeats one of them.
 inline std::string hostileList(std::size_t offset, std::size_t length, std::size_t step) {

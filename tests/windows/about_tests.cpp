@@ -70,6 +70,7 @@ TEST(About, ShowsAPictureAndNamesTheProgramItsVersionAndItsSite) {
     std::set<COLORREF> colors;
     for (int step = 0; step < area.right; ++step) {
         colors.insert(GetPixel(context, step, area.bottom / 4));
+        colors.insert(GetPixel(context, area.right / 2, step));
     }
     // Outside the picture's shape lies the ground of the window.
     EXPECT_EQ(GetPixel(context, 0, 0), GetSysColor(COLOR_3DFACE));

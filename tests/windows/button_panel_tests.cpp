@@ -1,6 +1,8 @@
 // The panels' buttons in the real window: each is pressed, and opening panels again and again leaves nothing behind.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "program.h"
@@ -66,30 +68,28 @@ TEST(PanelButtons, EachDoesItsActionToTheSelection) {
     }
 }
 
+/// The button of a panel with this label or description.
+HWND buttonOf(const Program& program, unsigned panel, std::string_view name) {
+    const std::vector<HWND> buttons = program.buttonsOf(panel);
+    return *std::find_if(buttons.begin(), buttons.end(), [&](HWND button) {
+        return Component::of(button)->label() == name || Component::of(button)->description() == name;
+    });
+}
+
 TEST(PanelButtons, TheEditingButtonsEditAsKeysDo) {
-    struct Row {
-        std::string_view button;
-        const wchar_t* text;
-        std::size_t caret;
-    };
-    const Row rows[] = {
-        {"Erase previous character", L"2+4", 2}, {"Undo last edit", L"2+34", 3},
-        {"Erase next character", L"2+3", 3},     {"Undo last edit", L"2+34", 3},
-        {"Redo last undone", L"2+3", 3},         {"Enter (evaluate)", L"2+3 = 5\n\n5", 10},
-        {"Clear the work area", L"", 0},         {"Undo last edit", L"2+3 = 5\n\n5", 10},
+    const std::pair<std::string_view, std::wstring_view> rows[] = {
+        {"Erase previous character", L"2+4"}, {"Undo last edit", L"2+34"},
+        {"Erase next character", L"2+3"},     {"Undo last edit", L"2+34"},
+        {"Redo last undone", L"2+3"},         {"Enter (evaluate)", L"2+3 = 5\n\n5"},
+        {"Clear the work area", L""},         {"Undo last edit", L"2+3 = 5\n\n5"},
     };
     Program program;
     program.command(editing);
     program.setText(L"2+34");
     program.select(3, 3);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.button);
-        for (const HWND button : program.buttonsOf(editing)) {
-            if (Component::of(button)->description() == row.button) {
-                Program::click(button);
-            }
-        }
-        EXPECT_EQ(program.text(), row.text);
+    for (const auto& [button, text] : rows) {
+        Program::click(buttonOf(program, editing, button));
+        EXPECT_EQ(program.text(), text) << button;
     }
 }
 
@@ -99,11 +99,7 @@ TEST(PanelButtons, AnInsertionKeepsForeignCharactersAndIsOneStepForUndo) {
     const std::wstring line = L"7+\u221E\U0001F600";
     program.setText(line);
     program.select(2, line.size());
-    for (const HWND button : program.buttonsOf(0xA331)) {
-        if (Component::of(button)->label() == "sqrt") {
-            Program::click(button);
-        }
-    }
+    Program::click(buttonOf(program, 0xA331, "sqrt"));
     EXPECT_EQ(program.text(), L"7+ sqrt(\u221E\U0001F600)");
     SendMessageW(program.workArea(), EM_UNDO, 0, 0);
     EXPECT_EQ(program.text(), line);
@@ -121,15 +117,14 @@ TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
     };
     openAndCloseAll(1);  // what is made once and kept
     const Resources before = heldResources();
-    ASSERT_GT(before.drawingObjects, 0);
-    ASSERT_GT(before.windows, 0);
-    ShowWindow(program.handle(), SW_HIDE);
+    ASSERT_TRUE(before.drawingObjects > 0 && before.windows > 0);
     // Painting takes five times as long as all the rest, so that a part of the rounds must do for it.
-    openAndCloseAll(195);
+    ShowWindow(program.handle(), SW_HIDE);
+    openAndCloseAll(35);
     ShowWindow(program.handle(), SW_SHOW);
     openAndCloseAll(5);
     const Resources after = heldResources();
-    // The system keeps one or two more or less for its own painting. Whatever we forget is there 200 times.
+    // The system keeps one or two more or less for its own painting. What one panel forgets is there 40 times.
     EXPECT_LT(after.drawingObjects, before.drawingObjects + 10);
     EXPECT_EQ(after.windows, before.windows);
 }

@@ -7,8 +7,6 @@
 
 #include "file_folder.h"
 #include "program.h"
-#include "shell/command_ids.h"
-#include "workarea/disk_file.h"
 
 namespace calquo {
 namespace {
@@ -59,17 +57,34 @@ std::wstring answerOf(Program& program, std::wstring_view keys) {
     return program.text();
 }
 
-TEST(FileCommands, TheDefaultFileIsReadAndSavedOnCommand) {
-    for (const wchar_t* name : {L"d.rtf", L"d.txt"}) {
+TEST(FileCommands, FilesAreReadAndSavedByTheirEnding) {
+    for (const wchar_t* name : {L"a.rtf", L"a.txt"}) {
+        SCOPED_TRACE(name);
         const FileFolder folder;
+        folder.put(L"b.txt", "old");
         User user;
-        Program program(stored(folder.path(name)), user.dialogs());
+        Program program(stored(L".\\WorkArea.rtf"), user.dialogs());
+        user.choice.name = folder.path(name);
         program.setText(L"2+3");
+        program.command(saveAs);
+        EXPECT_EQ(folder.bytes(name).starts_with("{\\rtf1"), name == std::wstring_view(L"a.rtf"));
+        program.setText(L"7");
+        program.command(readFrom);
+        EXPECT_EQ(program.text(), L"2+3");
+        ASSERT_EQ(user.requests.size(), 2u);
+        EXPECT_EQ(user.requests[0].name, L".\\WorkArea.rtf");
+        EXPECT_EQ(user.requests[1].name, L".\\WorkArea.rtf");
+        EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), L".\\WorkArea.rtf");
+        // Another default file is neither read nor written until that is wanted.
+        user.choice.name = folder.path(L"b.txt");
+        program.command(selectDefault);
+        EXPECT_EQ(program.text(), L"2+3");
+        EXPECT_EQ(folder.bytes(L"b.txt"), "old");
+        EXPECT_EQ(std::get<std::wstring>(program.storage().values.at(L"Default File")), folder.path(L"b.txt"));
         program.command(saveDefault);
-        EXPECT_EQ(folder.bytes(name).starts_with("{\\rtf1"), name == std::wstring_view(L"d.rtf"));
+        EXPECT_EQ(folder.bytes(L"b.txt"), "2+3");
         program.setText(L"7");
         program.command(readDefault);
-        EXPECT_EQ(program.text(), L"2+3");
         EXPECT_EQ(answerOf(program, L"*4"), L"2+3*4 = 14\n\n14");
         EXPECT_TRUE(user.boxes.empty());
     }
@@ -77,86 +92,36 @@ TEST(FileCommands, TheDefaultFileIsReadAndSavedOnCommand) {
 
 TEST(FileCommands, FailuresOfCommandsNameTheFileAndChangeNothing) {
     const FileFolder folder;
+    const std::wstring file = folder.path(L"d.rtf"), missing = folder.path(L"none.txt");
     folder.put(L"d.rtf", "no rich text");
-    SetFileAttributesW(folder.path(L"d.rtf").c_str(), FILE_ATTRIBUTE_READONLY);
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
     User user;
-    Program program(stored(folder.path(L"d.rtf")), user.dialogs());
+    Program program(stored(file), user.dialogs());
     program.setText(L"2+3");
-    const std::wstring missing = folder.path(L"none.txt");
-    for (const unsigned command : {readDefault, saveDefault}) {
-        program.command(command);
-    }
     user.choice.name = missing;
-    program.command(readFrom);
-    ASSERT_EQ(user.boxes.size(), 3u);
-    EXPECT_TRUE(mentions(user.boxes[0], folder.path(L"d.rtf")) && mentions(user.boxes[0], L"no rich text"));
-    EXPECT_TRUE(mentions(user.boxes[1], folder.path(L"d.rtf")) && mentions(user.boxes[1], L"read-only"));
+    for (const unsigned command : {readDefault, saveDefault, readFrom}) {
+        program.command(command);
+    }
+    // A closed dialog does nothing, and one that failed is numbered.
+    user.choice = {};
+    for (const std::uint32_t error : {0u, 12290u}) {
+        user.choice.errorCode = error;
+        for (const unsigned command : {selectDefault, readFrom, saveAs}) {
+            program.command(command);
+        }
+    }
+    ASSERT_EQ(user.boxes.size(), 6u);
+    EXPECT_TRUE(mentions(user.boxes[0], file) && mentions(user.boxes[0], L"no rich text"));
+    EXPECT_TRUE(mentions(user.boxes[1], file) && mentions(user.boxes[1], L"read-only"));
     EXPECT_TRUE(mentions(user.boxes[2], missing) && mentions(user.boxes[2], L"not exist"));
-    for (const BoxText& box : user.boxes) {
-        EXPECT_EQ(box.kind, BoxKind::Failure);
+    for (std::size_t index = 0; index < user.boxes.size(); ++index) {
+        EXPECT_EQ(user.boxes[index].kind, BoxKind::Failure);
+        EXPECT_EQ(user.boxes[index].caption, index < 3 ? L"Calquo" : L"Error #12290");
     }
     EXPECT_EQ(program.text(), L"2+3");
+    EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), file);
     EXPECT_EQ(folder.bytes(L"d.rtf"), "no rich text");
-}
-
-TEST(FileCommands, AChosenFileIsReadOrSavedByItsEnding) {
-    const FileFolder folder;
-    User user;
-    Program program(stored(L".\\WorkArea.rtf"), user.dialogs());
-    program.setText(L"2+3");
-    for (const wchar_t* name : {L"a.rtf", L"a.txt"}) {
-        user.choice.name = folder.path(name);
-        program.command(saveAs);
-    }
-    EXPECT_TRUE(folder.bytes(L"a.rtf").starts_with("{\\rtf1"));
-    EXPECT_EQ(folder.bytes(L"a.txt"), "2+3");
-    for (const wchar_t* name : {L"a.rtf", L"a.txt"}) {
-        program.setText(L"7");
-        user.choice.name = folder.path(name);
-        program.command(readFrom);
-        EXPECT_EQ(program.text(), L"2+3");
-    }
-    ASSERT_EQ(user.requests.size(), 4u);
-    for (const FileRequest& request : user.requests) {
-        EXPECT_EQ(request.name, L".\\WorkArea.rtf");
-    }
-    EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), L".\\WorkArea.rtf");
-    EXPECT_TRUE(user.boxes.empty());
-}
-
-TEST(FileCommands, ChoosingADefaultFileDoesNotReadOrWriteIt) {
-    const FileFolder folder;
-    folder.put(L"b.txt", "old");
-    User user;
-    Program program(stored(folder.path(L"a.txt")), user.dialogs());
-    program.setText(L"2+3");
-    user.choice.name = folder.path(L"b.txt");
-    program.command(selectDefault);
-    EXPECT_EQ(program.text(), L"2+3");
-    EXPECT_EQ(folder.bytes(L"b.txt"), "old");
-    EXPECT_EQ(std::get<std::wstring>(program.storage().values.at(L"Default File")), folder.path(L"b.txt"));
-    program.command(saveDefault);
-    EXPECT_EQ(folder.bytes(L"b.txt"), "2+3");
-}
-
-TEST(FileCommands, AClosedDialogDoesNothingAndAFailedOneIsNumbered) {
-    const FileFolder folder;
-    User user;
-    Program program(stored(folder.path(L"a.txt")), user.dialogs());
-    program.setText(L"2+3");
-    for (const unsigned command : {selectDefault, readFrom, saveAs}) {
-        user.choice = {};
-        program.command(command);
-        EXPECT_TRUE(user.boxes.empty());
-        user.choice.errorCode = 12290;
-        program.command(command);
-        ASSERT_EQ(user.boxes.size(), 1u);
-        EXPECT_EQ(user.boxes[0].caption, L"Error #12290");
-        user.boxes.clear();
-    }
-    EXPECT_EQ(program.text(), L"2+3");
-    EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), folder.path(L"a.txt"));
-    EXPECT_TRUE(folder.names().empty());
+    EXPECT_EQ(folder.names().size(), 1u);
 }
 
 // --- The start ------------------------------------------------------------------------------------------------------
@@ -179,29 +144,12 @@ TEST(FileCommands, TheStartReadsTheDefaultFileWhenWanted) {
 TEST(FileCommands, TheStartIsSilentAboutAnAbsentFileAlone) {
     const FileFolder folder;
     folder.put(L"d.rtf", "no rich text");
-    struct Row {
-        const wchar_t* name;
-        std::size_t boxes;
-    };
-    for (const Row& row : {Row{L"none.rtf", 0}, Row{L"none\\x.rtf", 0}, Row{L"d.rtf", 1}}) {
+    for (const wchar_t* name : {L"none.rtf", L"none\\x.rtf", L"d.rtf"}) {
         User user;
-        Program program(stored(folder.path(row.name), ReadAtStartup), user.dialogs());
-        EXPECT_EQ(user.boxes.size(), row.boxes);
+        Program program(stored(folder.path(name), ReadAtStartup), user.dialogs());
+        EXPECT_EQ(user.boxes.size(), name == std::wstring_view(L"d.rtf") ? 1u : 0u);
         EXPECT_EQ(answerOf(program, L"2+3"), L"2+3 = 5\n\n5");
     }
-}
-
-TEST(FileCommands, ARelativeDefaultFileLiesInTheCurrentFolder) {
-    const FileFolder folder;
-    folder.put(L"WorkArea.rtf", "{\\rtf1 2+3\\par}");
-    const std::wstring before = fullFileName(L".");
-    SetCurrentDirectoryW(folder.path(L"").c_str());
-    {
-        User user;
-        const Program program(stored(L".\\WorkArea.rtf", ReadAtStartup), user.dialogs());
-        EXPECT_EQ(program.text(), L"2+3");
-    }
-    SetCurrentDirectoryW(before.c_str());
 }
 
 // --- The end --------------------------------------------------------------------------------------------------------
@@ -214,6 +162,7 @@ struct Ending {
 const Ending endings[] = {
     {"close", [](Program& program) { program.close(); }},
     {"exit", [](Program& program) { program.command(0x7FFF); }},
+    {"destroyed unasked", [](Program& program) { DestroyWindow(program.handle()); }},
 };
 
 TEST(FileCommands, TheEndSavesTheDefaultFileWhenWanted) {
@@ -232,23 +181,11 @@ TEST(FileCommands, TheEndSavesTheDefaultFileWhenWanted) {
     }
 }
 
-TEST(FileCommands, TheMenusMarksDecide) {
-    const FileFolder folder;
-    folder.put(L"d.txt", "old");
-    User user;
-    Program program(stored(folder.path(L"d.txt"), SaveAtExit), user.dialogs());
-    program.command(saveAtExit);
-    program.command(readAtStartup);
-    EXPECT_EQ(program.text(), L"");
-    program.close();
-    EXPECT_EQ(folder.bytes(L"d.txt"), "old");
-}
-
 TEST(FileCommands, AFailedSaveAtTheEndIsTriedAgainOrKeepsTheWindow) {
     const FileFolder folder;
     folder.put(L"d.txt", "old");
     const std::wstring file = folder.path(L"d.txt");
-    for (const Ending& ending : endings) {
+    for (const Ending& ending : {endings[0], endings[1]}) {
         SCOPED_TRACE(ending.name);
         SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
         User user;
@@ -331,10 +268,8 @@ TEST(FileCommands, TheQuestionIsOverOnceTheDefaultFileIsTheUsersOwn) {
         program.close();
         EXPECT_TRUE(user.boxes.empty());
         EXPECT_EQ(program.handle(), nullptr);
-        EXPECT_TRUE(
-            folder
-                .bytes(fullFileName(program.settings().text(TextSetting::DefaultFile)).substr(folder.path(L"").size()))
-                .starts_with("{\\rtf1"));
+        const std::wstring file = program.settings().text(TextSetting::DefaultFile);
+        EXPECT_TRUE(folder.bytes(file.substr(folder.path(L"").size())).starts_with("{\\rtf1"));
     }
 }
 
@@ -399,15 +334,6 @@ TEST(FileCommands, TheEndOfTheSessionSavesOrWaits) {
     program.close();
     EXPECT_EQ(folder.bytes(L"d.txt"), "7*8");
     EXPECT_EQ(user.boxes.size(), 1u);
-}
-
-TEST(FileCommands, AWindowThatIsDestroyedUnaskedStillSaves) {
-    const FileFolder folder;
-    User user;
-    Program program(stored(folder.path(L"d.txt"), SaveAtExit), user.dialogs());
-    program.setText(L"2+3");
-    DestroyWindow(program.handle());
-    EXPECT_EQ(folder.bytes(L"d.txt"), "2+3");
 }
 
 }  // namespace
