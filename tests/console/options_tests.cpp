@@ -7,7 +7,6 @@
 #include <sstream>
 
 #include "console/calq.h"
-#include "engine/characters.h"
 
 namespace calquo {
 namespace {
@@ -58,34 +57,6 @@ TEST(Options, WrongOnesAreNamed) {
     };
     for (const Row& row : rows) {
         EXPECT_NE(faultOf(row.line).find(row.part), std::string::npos) << row.line;
-    }
-}
-
-/// The decimal and the group mark after the options of `line` have been applied to the default marks.
-std::string marksAfter(const std::string& line) {
-    applyToEngine(parse(split("--decimal-mark . --group-mark ,")));
-    applyToEngine(parse(split(line)));
-    const std::string marks = {markCharacter(TokenClass::DecimalMark), markCharacter(TokenClass::GroupMark)};
-    applyToEngine(parse(split("--decimal-mark . --group-mark ,")));
-    return marks;
-}
-
-TEST(Options, MarksTakeFreeCharactersAndMayChangePlaces) {
-    struct Row {
-        const char *line, *marks;
-    };
-    const Row rows[] = {{"--decimal-mark ~", "~,"},
-                        {"--group-mark #", ".#"},
-                        {"--group-mark .", ".,"},
-                        {"--decimal-mark 7", ".,"},
-                        {"--decimal-mark , --group-mark .", ",."},
-                        {"--decimal-mark , --group-mark ~", ",~"},
-                        {"--decimal-mark ~ --group-mark .", "~."},
-                        {"--decimal-mark , --group-mark 5", ".,"},
-                        {"--decimal-mark + --group-mark #", ".#"},
-                        {"--decimal-mark # --group-mark #", "#,"}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(marksAfter(row.line), row.marks) << row.line;
     }
 }
 

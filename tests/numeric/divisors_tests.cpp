@@ -10,7 +10,6 @@
 #include <ctime>
 #include <numeric>
 #include <random>
-#include <string>
 #include <vector>
 
 #include "numeric/primes.h"
@@ -34,24 +33,12 @@ std::vector<Value> toValues(const Words& words) {
     return values;
 }
 
-std::string show(const Words& words) {
-    std::string text;
-    for (const std::uint64_t word : words) {
-        text += std::to_string(word) + ' ';
-    }
-    return text;
-}
-
 bool isPrimeByTrial(std::uint64_t n) {
-    if (n < 2) {
-        return false;
+    std::uint64_t divisor = 2;
+    while (divisor * divisor <= n && n % divisor != 0) {
+        ++divisor;
     }
-    for (std::uint64_t divisor = 2; divisor * divisor <= n; ++divisor) {
-        if (n % divisor == 0) {
-            return false;
-        }
-    }
-    return true;
+    return n >= 2 && divisor * divisor > n;
 }
 
 std::uint64_t nextByTrial(std::uint64_t n) {
@@ -90,46 +77,48 @@ std::uint64_t walkedFactor(Words items) {
     return result;
 }
 
-/// The search that lcm abridges: strip one prime after another from all items, until only 0 and 1 are left.
-std::uint64_t walkedMultiple(Words items) {
-    if (items.empty()) {
-        return 0;
-    }
-    std::uint64_t result = 1;
-    std::uint64_t prime = 2;
-    while (std::ranges::any_of(items, [](std::uint64_t item) { return item >= 2; })) {
-        bool divided = false;
-        for (std::uint64_t& item : items) {
-            if (item >= 2 && item % prime == 0) {
-                item /= prime;
-                divided = true;
-            }
+/// The multiple of all but zeros, modulo 2^64, in digits of 32 bits, one word after another, each by a division by
+/// hand.
+std::uint64_t multipleByHand(const Words& words) {
+    std::vector<std::uint32_t> multiple = {1};
+    for (const std::uint64_t word : words) {
+        if (word == 0) {
+            continue;
         }
-        if (divided) {
-            result *= prime;
-        } else {
-            prime = nextByTrial(prime);
+        UInt128 remainder;
+        for (auto digit = multiple.rbegin(); digit != multiple.rend(); ++digit) {
+            remainder = divide(shiftLeft(remainder, 32) + UInt128{0, *digit}, UInt128{0, word}).remainder;
+        }
+        const std::uint64_t factor = word / std::gcd(word, remainder.low);
+        UInt128 carry;
+        for (std::uint32_t& digit : multiple) {
+            carry = carry + multiply(factor, digit);
+            digit = static_cast<std::uint32_t>(carry.low);
+            carry = shiftRight(carry, 32);
+        }
+        for (; carry != UInt128{}; carry = shiftRight(carry, 32)) {
+            multiple.push_back(static_cast<std::uint32_t>(carry.low));
         }
     }
-    return result;
+    return multiple[0] | (multiple.size() > 1 ? std::uint64_t{multiple[1]} << 32 : 0);
 }
 
 std::uint64_t factorOf(const Words& words) { return static_cast<std::uint64_t>(gcf(toValues(words)).re); }
 std::uint64_t multipleOf(const Words& words) { return static_cast<std::uint64_t>(lcm(toValues(words)).re); }
 
-void expectAsWalked(const Words& words) {
-    ASSERT_EQ(factorOf(words), walkedFactor(words)) << "gcf of " << show(words);
-    ASSERT_EQ(multipleOf(words), walkedMultiple(words)) << "lcm of " << show(words);
+void expectAsByHand(const Words& words) {
+    ASSERT_EQ(factorOf(words), walkedFactor(words)) << "gcf of " << testing::PrintToString(words);
+    ASSERT_EQ(multipleOf(words), multipleByHand(words)) << "lcm of " << testing::PrintToString(words);
 }
 
-TEST(Divisors, AgreeWithTheWalk) {
+TEST(Divisors, AgreeWithTheWalkAndWithThoseByHand) {
     // Few small items in every order.
     for (std::uint64_t a = 0; a < 130; ++a) {
-        expectAsWalked({a});
+        expectAsByHand({a});
         for (std::uint64_t b = 0; b < 130; ++b) {
-            expectAsWalked({a, b});
+            expectAsByHand({a, b});
             for (std::uint64_t c = 0; a < 31 && b < 31 && c < 31; ++c) {
-                expectAsWalked({a, b, c});
+                expectAsByHand({a, b, c});
             }
         }
     }
@@ -141,7 +130,7 @@ TEST(Divisors, AgreeWithTheWalk) {
         for (std::uint64_t& word : words) {
             word = generator() % 6 == 0 ? 0 : common * (1 + generator() % 500);
         }
-        expectAsWalked(words);
+        expectAsByHand(words);
     }
 }
 
@@ -181,42 +170,13 @@ TEST(Divisors, PrimesOfAllSizesAreFoundAndComposedNumbersTakenApart) {
         const std::uint64_t p = nextPrime(generator() % 65536);
         const std::uint64_t q = nextPrime(generator() % 4294900000U);
         ASSERT_EQ(smallestPrimeFactor(p * q), std::min(p, q)) << p << " * " << q;
-    }
-}
-
-TEST(Divisors, NeighboursOfPrimesLeadBackToThem) {
-    std::mt19937_64 generator(31);
-    for (int sample = 0; sample < 500; ++sample) {
         const std::uint64_t n = generator() % largestBeforeNext;
-        const std::uint64_t p = nextPrime(n);
-        ASSERT_TRUE(p > n && isPrime(p)) << n;
-        ASSERT_EQ(nextPrime(previousPrime(p)), p) << n;
-        for (std::uint64_t between = n + 1; between < p; ++between) {
-            ASSERT_FALSE(isPrime(between)) << between;
+        const std::uint64_t next = nextPrime(n);
+        ASSERT_EQ(nextPrime(previousPrime(next)), next) << n;
+        for (std::uint64_t number = n + 1; number <= next; ++number) {
+            ASSERT_EQ(isPrime(number), number == next) << number;
         }
     }
-}
-
-/// The multiple in digits of 32 bits, one word after another, each by a division by hand.
-std::uint64_t multipleByHand(const Words& words) {
-    std::vector<std::uint32_t> multiple = {1};
-    for (const std::uint64_t word : words) {
-        UInt128 remainder;
-        for (auto digit = multiple.rbegin(); digit != multiple.rend(); ++digit) {
-            remainder = divide(shiftLeft(remainder, 32) + UInt128{0, *digit}, UInt128{0, word}).remainder;
-        }
-        const std::uint64_t factor = word / std::gcd(word, remainder.low);
-        UInt128 carry;
-        for (std::uint32_t& digit : multiple) {
-            carry = carry + multiply(factor, digit);
-            digit = static_cast<std::uint32_t>(carry.low);
-            carry = shiftRight(carry, 32);
-        }
-        for (; carry != UInt128{}; carry = shiftRight(carry, 32)) {
-            multiple.push_back(static_cast<std::uint32_t>(carry.low));
-        }
-    }
-    return multiple[0] | (multiple.size() > 1 ? std::uint64_t{multiple[1]} << 32 : 0);
 }
 
 /// Long lists of products of random primes.

@@ -18,15 +18,6 @@ FormParts partsAt(int dotsPerInch) {
             dotsPerInch};
 }
 
-std::vector<Rectangle> everyPlace(const FormLayout& layout) {
-    std::vector<Rectangle> places = layout.controls;
-    places.insert(places.end(), layout.labels.begin(), layout.labels.end());
-    places.insert(places.end(), layout.buttons.begin(), layout.buttons.end());
-    places.push_back(layout.message);
-    std::erase(places, Rectangle{});
-    return places;
-}
-
 bool apart(const Rectangle& one, const Rectangle& other) {
     return one.left + one.width <= other.left || other.left + other.width <= one.left ||
            one.top + one.height <= other.top || other.top + other.height <= one.top;
@@ -36,7 +27,11 @@ TEST(FormLayout, KeepsEverythingApartAndWithinItsMargins) {
     for (const int dots : {96, 120, 144, 192, 288}) {
         SCOPED_TRACE(dots);
         const FormLayout layout = layOutForm(partsAt(dots), scaledToScreen(30, dots));
-        const auto places = everyPlace(layout);
+        std::vector<Rectangle> places = {layout.message};
+        for (const auto& part : {layout.controls, layout.labels, layout.buttons}) {
+            places.insert(places.end(), part.begin(), part.end());
+        }
+        std::erase(places, Rectangle{});
         ASSERT_EQ(places.size(), 8u);
         int left = layout.client.width, top = layout.client.height, right = 0, bottom = 0;
         for (auto place = places.begin(); place != places.end(); ++place) {

@@ -120,11 +120,11 @@ TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
     ASSERT_TRUE(before.drawingObjects > 0 && before.windows > 0);
     // Painting takes five times as long as all the rest, so that a part of the rounds must do for it.
     ShowWindow(program.handle(), SW_HIDE);
-    openAndCloseAll(35);
+    openAndCloseAll(195);
     ShowWindow(program.handle(), SW_SHOW);
     openAndCloseAll(5);
     const Resources after = heldResources();
-    // The system keeps one or two more or less for its own painting. What one panel forgets is there 40 times.
+    // The system keeps one or two more or less for its own painting. What one panel forgets is there 200 times.
     EXPECT_LT(after.drawingObjects, before.drawingObjects + 10);
     EXPECT_EQ(after.windows, before.windows);
 }

@@ -35,7 +35,6 @@ struct TextRow {
 
 const TextRow textRows[] = {
     {"", u"", {Utf8, CarriageReturnLineFeed}},
-    {"2+3 = 5", u"2+3 = 5", {Utf8, CarriageReturnLineFeed}},
     {"a\r\nb\r\n", u"a\rb\r", {Utf8, CarriageReturnLineFeed}},
     {"a\nb\n\n", u"a\rb\r\r", {Utf8, LineFeed}},
     {"a\rb", u"a\rb", {Utf8, CarriageReturn}},
@@ -54,7 +53,6 @@ const TextRow textRows[] = {
     {"\xFE\xFF\0002\0\n\xD8\x3D"sv, u"2\r\xD83D", {Utf16BigEndian, LineFeed}},
     // No UTF-8: a stray byte, a missing one, too long an encoding, half of a pair, too large a number.
     {"5 \x80", u"5 \u20AC", {Windows1252, CarriageReturnLineFeed}},
-    {"\xC3", u"\u00C3", {Windows1252, CarriageReturnLineFeed}},
     {"\xE2\x88 \n", u"\u00E2\u02C6 \r", {Windows1252, LineFeed}},
     {"\xC1\xA1", u"\u00C1\u00A1", {Windows1252, CarriageReturnLineFeed}},
     {"\xE0\x81\xA1", u"\u00E0\u0081\u00A1", {Windows1252, CarriageReturnLineFeed}},
