@@ -107,8 +107,9 @@ void expect(std::span<const ActionRow> rows) {
 
 TEST(ButtonAction, KeypadsTypeAndEdit) {
     const ActionRow rows[] = {
-        {0xA110, "7", "|", "7|"},       {0xA110, "7", "1[23]4", "17|4"},  {0xA112, "F", "16'|", "16'F|"},
-        {0xA114, "**", "2|3", "2**|3"}, {0xA114, "->", "km |", "km ->|"}, {0xA114, "Space", "2|km", "2 |km"},
+        {0xA110, "7", "|", "7|"},
+        {0xA110, "7", "1[23]4", "17|4"},
+        {0xA112, "F", "16'|", "16'F|"},
     };
     expect(rows);
 }
@@ -121,22 +122,12 @@ TEST(ButtonAction, FunctionsGoAroundTheSelection) {
         {0xA331, "sqrt", "2+ [3] *4", "2+ sqrt(3|) *4"},
         {0xA331, "sqrt", "2\t[3]\t*4", "2\tsqrt(3|)\t*4"},
         {0xA331, "sqrt", "2|3", "2 sqrt(|) 3"},
-        {0xA331, "sqrt", "2+|", "2+ sqrt(|)"},
-        {0xA331, "sqrt", "|2", "sqrt(|) 2"},
         {0xA331, "sqrt", "[2+\x7F]\xE9", "sqrt(2+\x7F|) \xE9"},
-        {0xA331, "pow", "[2]", "pow(2|; )"},
         {0xA331, "logB", "|", "logB(|; )"},
         {0xA331, "logB", "[81]", "logB(|; 81)"},
         {0xA331, "root", "2+[27]+3", "2+ root(|; 27) +3"},
         {0xA361, "rnd", "2*|", "2* rnd|"},
-        {0xA361, "rndR", "|", "rndR(|; )"},
-        {0xA181, "bAnd", "[12]", "bAnd(12|; )"},
-        {0xA182, "bShift", "|", "bShift(|; )"},
-        {0xA182, "bNot", "[12]", "bNot(12|)"},
-        {0xA411, "max", "[1; 2]", "max(1; 2|)"},
-        {0xA421, "sd", "|", "sd(|)"},
         {0xA211, "fv", "[100]", "fv(100|; 1 year; 5%; month; 0; month)"},
-        {0xA211, "pv", "[100]", "pv(100|; 1 year; 5%; month; 0; month)"},
         {0xA211, "pmt", "|", "pmt(|; ; 1 year; 5%; month; month)"},
         {0xA211, "dur", "|", "dur(|; ; 5%; month; 0; month) -> yr"},
         {0xA211, "rate", "|", "rate(|; ; 1 year; month; 0; month)"},
@@ -165,16 +156,12 @@ TEST(ButtonAction, OutputBaseIsAskedForOnce) {
         {0xA113, "'16", "255| '16", "255| '16"},
         {0xA113, "'8", "255 \t '16 |", "255| '8"},
         {0xA113, "'8", "[255] '99", "255| '8"},
-        {0xA113, "'2", "|", "| '2"},
         {0xA113, "'2", "| '2", "| '2"},
         {0xA113, "'2", "255|  ", "255|   '2"},
-        {0xA113, "'2", "16'FF|", "16'FF| '2"},
         {0xA113, "'2", "'16 255|", "'16 255| '2"},
-        {0xA113, "'2", "255'16|", "255'16| '2"},
         {0xA113, "'16", "2+\x7F '8|\xE9", "2+\x7F '8|\xE9 '16"},
         {0xA113, "10", "255 '16|", "255|"},
         {0xA113, "10", "255|", "nothing"},
-        {0xA113, "10", "16'FF|", "nothing"},
         {0xA113, "10", "'16 255|", "nothing"},
         // The result behind an expression is not asked.
         {0xA113, "'16", "255| = 255", "255| '16 = 255"},
@@ -184,7 +171,6 @@ TEST(ButtonAction, OutputBaseIsAskedForOnce) {
         {0xA113, "10", "255 '16 = 16'F[F]", "255 = 16'FF|"},
         {0xA113, "10", "255 = 255 '16|", "nothing"},
         // No expression stands in these.
-        {0xA113, "'16", "=5|", "=5| '16"},
         {0xA113, "'16", "5=9|", "5=9| '16"},
     };
     expect(rows);

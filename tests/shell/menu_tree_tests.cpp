@@ -12,6 +12,7 @@
 #include "panels/catalogue.h"
 #include "shell/command_ids.h"
 #include "shell/menu_marks.h"
+#include "support/memory_storage.h"
 
 namespace calquo {
 namespace {
@@ -103,6 +104,34 @@ TEST(MenuTree, EntriesHaveKeysAndCommandsOfTheirOwn) {
     });
     for (const PanelEntry& panel : panelCatalogue()) {
         EXPECT_EQ(labels[panel.identifier], panel.menuLabel);
+    }
+}
+
+TEST(MenuTree, MarksShowTheSettings) {
+    struct Row {
+        std::uint32_t flags, format;
+        SettingBlock panels;
+        std::string_view marked;
+    };
+    const Row rows[] = {{0x110, 1, {}, "142 8031 512 "},
+                        {0x220, 6, {}, "143 8032 517 "},
+                        {0x480, 7, {}, "8010 8033 511 "},
+                        {0xFFFFFF4F, 0, {}, "8031 511 "},
+                        {0, 0, {0xF0, 0xA5, 0, 0, 0x10, 0xA0, 0, 0}, "A010 A5F0 511 "}};
+    for (const Row& row : rows) {
+        MemoryStorage storage;
+        storage.values = {{L"Flags", row.flags}, {L"Selected format", row.format}, {L"Selected Panels", row.panels}};
+        Settings settings(storage);
+        settings.loadAll();
+        std::ostringstream marked;
+        forEachMenu(mainMenu(), [&](const std::vector<MenuEntry>& entries) {
+            for (const MenuEntry& entry : entries) {
+                if (isMarked(entry.identifier, settings)) {
+                    marked << std::hex << std::uppercase << entry.identifier << ' ';
+                }
+            }
+        });
+        EXPECT_EQ(marked.str(), row.marked);
     }
 }
 

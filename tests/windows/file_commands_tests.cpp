@@ -72,12 +72,15 @@ TEST(FileCommands, FilesAreReadAndSavedByTheirEnding) {
         program.command(readFrom);
         EXPECT_EQ(program.text(), L"2+3");
         ASSERT_EQ(user.requests.size(), 2u);
-        EXPECT_EQ(user.requests[0].name, L".\\WorkArea.rtf");
-        EXPECT_EQ(user.requests[1].name, L".\\WorkArea.rtf");
+        for (const FileRequest& request : user.requests) {
+            EXPECT_EQ(request.name, L".\\WorkArea.rtf");
+            EXPECT_EQ(request.dialog, &request == &user.requests[0] ? FileDialog::Save : FileDialog::Open);
+        }
         EXPECT_EQ(program.settings().text(TextSetting::DefaultFile), L".\\WorkArea.rtf");
         // Another default file is neither read nor written until that is wanted.
         user.choice.name = folder.path(L"b.txt");
         program.command(selectDefault);
+        EXPECT_EQ(user.requests.back().dialog, FileDialog::Save);
         EXPECT_EQ(program.text(), L"2+3");
         EXPECT_EQ(folder.bytes(L"b.txt"), "old");
         EXPECT_EQ(std::get<std::wstring>(program.storage().values.at(L"Default File")), folder.path(L"b.txt"));

@@ -302,7 +302,7 @@ TEST(FormatDialog, StopsAtWhatTheWordHasNoRoomFor) {
     Program program;
     open(program, modifyAutomatic);
     type(controlOf('X'), "15");
-    type(controlOf('S'), "64");
+    type(controlOf('S'), "32");
     type(controlOf('D'), "7");
     type(controlOf('G'), "5");
     click(controlOf('+'));
