@@ -3,15 +3,15 @@
 
 namespace {
 
-LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
+LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wordParameter, LPARAM longParameter) {
     if (code == WM_SIZE) {
-        MoveWindow(GetWindow(window, GW_CHILD), 0, 0, LOWORD(extra), HIWORD(extra), TRUE);
+        MoveWindow(GetWindow(window, GW_CHILD), 0, 0, LOWORD(longParameter), HIWORD(longParameter), TRUE);
     } else if (code == WM_SETFOCUS) {
         SetFocus(GetWindow(window, GW_CHILD));
     } else if (code == WM_DESTROY) {
         PostQuitMessage(0);
     }
-    return DefWindowProcW(window, code, wide, extra);
+    return DefWindowProcW(window, code, wordParameter, longParameter);
 }
 
 }  // namespace

@@ -61,8 +61,8 @@ void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu,
 
 /// Alt opens the menu as it goes down. When F4 follows, the user meant the window; when Alt is held, it repeats itself,
 /// which would close the menu.
-LRESULT CALLBACK hearAltInMenu(int code, WPARAM wide, LPARAM extra) {
-    const MSG& message = *reinterpret_cast<const MSG*>(extra);
+LRESULT CALLBACK hearAltInMenu(int code, WPARAM wordParameter, LPARAM longParameter) {
+    const MSG& message = *reinterpret_cast<const MSG*>(longParameter);
     if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN) {
         if (message.wParam == VK_F4) {
             EndMenu();
@@ -73,7 +73,7 @@ LRESULT CALLBACK hearAltInMenu(int code, WPARAM wide, LPARAM extra) {
             return 1;
         }
     }
-    return CallNextHookEx(nullptr, code, wide, extra);
+    return CallNextHookEx(nullptr, code, wordParameter, longParameter);
 }
 
 void track(HMENU menu, HWND owner, Point corner) {

@@ -124,16 +124,16 @@ Rectangle maximizedPlace(HWND window) {
 
 /// Leads the window's messages to the object that owns it.
 struct MainWindow::Procedure {
-    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
+    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wordParameter, LPARAM longParameter) {
         if (code == WM_NCCREATE) {
-            adopt(window, *reinterpret_cast<const CREATESTRUCTW*>(extra));
+            adopt(window, *reinterpret_cast<const CREATESTRUCTW*>(longParameter));
         }
         auto* const owner = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         const MessageAnswer failed = code == WM_CREATE ? -1 : 0;
         const auto answer = keepingExceptions(std::optional<MessageAnswer>(failed), [&] {
-            return owner == nullptr ? std::nullopt : owner->hear({code, wide, extra});
+            return owner == nullptr ? std::nullopt : owner->hear({code, wordParameter, longParameter});
         });
-        return answer ? *answer : DefWindowProcW(window, code, wide, extra);
+        return answer ? *answer : DefWindowProcW(window, code, wordParameter, longParameter);
     }
 
     static void adopt(HWND window, const CREATESTRUCTW& creation) {
@@ -305,7 +305,7 @@ std::optional<MessageAnswer> MainWindow::hearQuestionForEnd(const Message&) { re
 
 std::optional<MessageAnswer> MainWindow::hearEndOfSession(const Message& message) {
     // The system ends the program after this, without another message.
-    if (message.wide != 0) {
+    if (message.wordParameter != 0) {
         shutDown();
         settings_.saveAll();
     }
@@ -347,10 +347,10 @@ std::optional<MessageAnswer> MainWindow::close(const Message&) {
 // --- Focus and caption ----------------------------------------------------------------------------------------------
 
 std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) {
-    const bool active = LOWORD(message.wide) != WA_INACTIVE;
+    const bool active = LOWORD(message.wordParameter) != WA_INACTIVE;
     if (!active && IsChild(handle(), GetFocus()) != 0) {
         lastFocus_ = GetFocus();
-    } else if (LOWORD(message.wide) == WA_CLICKACTIVE) {
+    } else if (LOWORD(message.wordParameter) == WA_CLICKACTIVE) {
         // A dialog that is open beside the window gets the focus back, but not from one who clicks here.
         lastFocus_ = nullptr;
     }
@@ -382,16 +382,16 @@ std::optional<MessageAnswer> MainWindow::paint(const Message&) {
 }
 
 std::optional<MessageAnswer> MainWindow::chooseGround(const Message& message) {
-    const HWND panel = reinterpret_cast<HWND>(message.extra);
+    const HWND panel = reinterpret_cast<HWND>(message.longParameter);
     const bool isCaption = panel == caption_->left().handle() || panel == caption_->right().handle();
     const Color ground = isCaption ? caption_->ground() : panelGround;
-    SetDCBrushColor(reinterpret_cast<HDC>(message.wide), colorReference(ground));
+    SetDCBrushColor(reinterpret_cast<HDC>(message.wordParameter), colorReference(ground));
     return reinterpret_cast<MessageAnswer>(GetStockObject(DC_BRUSH));
 }
 
 std::optional<MessageAnswer> MainWindow::eraseGround(const Message& message) {
     // The ground of the panels goes on below the last of them.
-    const HDC context = reinterpret_cast<HDC>(message.wide);
+    const HDC context = reinterpret_cast<HDC>(message.wordParameter);
     const Size client = clientSize(handle());
     const int strip = caption_ == nullptr ? 0 : caption_->left().preferredSize().height;
     const RECT column{0, strip, client.width, client.height};
@@ -401,7 +401,7 @@ std::optional<MessageAnswer> MainWindow::eraseGround(const Message& message) {
 }
 
 std::optional<MessageAnswer> MainWindow::hitTest(const Message& message) {
-    const LRESULT area = DefWindowProcW(handle(), message.code, message.wide, message.extra);
+    const LRESULT area = DefWindowProcW(handle(), message.code, message.wordParameter, message.longParameter);
     return area == HTCLIENT ? HTCAPTION : area;
 }
 
@@ -428,7 +428,7 @@ Size MainWindow::smallestWindow() const {
 }
 
 std::optional<MessageAnswer> MainWindow::answerSizeLimits(const Message& message) {
-    MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(message.extra);
+    MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(message.longParameter);
     const Rectangle most = maximizedPlace(handle());
     const Rectangle screen = screenOf(MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST)).whole;
     limits.ptMaxPosition = {most.left - screen.left, most.top - screen.top};
@@ -503,11 +503,11 @@ void MainWindow::openMenuAtCaption() {
 }
 
 std::optional<MessageAnswer> MainWindow::hearSystemKey(const Message& message) {
-    if (message.wide != VK_MENU && (message.wide != VK_F10 || message.code == WM_SYSKEYUP)) {
+    if (message.wordParameter != VK_MENU && (message.wordParameter != VK_F10 || message.code == WM_SYSKEYUP)) {
         return std::nullopt;
     }
     // A held key repeats itself, and with Shift or Control the key belongs to the keyboard's layout.
-    const bool repeated = message.code == WM_SYSKEYDOWN && (HIWORD(message.extra) & KF_REPEAT) != 0;
+    const bool repeated = message.code == WM_SYSKEYDOWN && (HIWORD(message.longParameter) & KF_REPEAT) != 0;
     if (!repeated && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0) {
         openMenuAtCaption();
     }
@@ -517,15 +517,15 @@ std::optional<MessageAnswer> MainWindow::hearSystemKey(const Message& message) {
 std::optional<MessageAnswer> MainWindow::hearSystemCommand(const Message& message) {
     constexpr WPARAM innerBits = 0xF;  // the system's own use of the low bits
     // The system would open the window's menu at the end of a key press that has opened ours.
-    const bool menuKey = (message.wide & ~innerBits) == SC_KEYMENU && message.extra == 0;
+    const bool menuKey = (message.wordParameter & ~innerBits) == SC_KEYMENU && message.longParameter == 0;
     return menuKey ? std::optional<MessageAnswer>(0) : std::nullopt;
 }
 
 std::optional<MessageAnswer> MainWindow::hearCommand(const Message& message) {
-    const HWND control = reinterpret_cast<HWND>(message.extra);
-    const auto notice = static_cast<ButtonNotice>(HIWORD(message.wide));
+    const HWND control = reinterpret_cast<HWND>(message.longParameter);
+    const auto notice = static_cast<ButtonNotice>(HIWORD(message.wordParameter));
     if (control == nullptr) {
-        runCommand(LOWORD(message.wide));
+        runCommand(LOWORD(message.wordParameter));
     } else if (notice == ButtonNotice::Pressed || notice == ButtonNotice::Clicked) {
         if (const Component* const button = Component::of(control)) {
             hearButton(*button);

@@ -158,7 +158,7 @@ std::optional<MessageAnswer> Button::press(const Message&) {
 }
 
 std::optional<MessageAnswer> Button::repeat(const Message& message) {
-    if (message.wide != repeatTimer) {
+    if (message.wordParameter != repeatTimer) {
         return std::nullopt;
     }
     if (GetCapture() != handle()) {
@@ -176,7 +176,8 @@ std::optional<MessageAnswer> Button::repeat(const Message& message) {
 }
 
 std::optional<MessageAnswer> Button::release(const Message& message) {
-    const POINT place{static_cast<short>(LOWORD(message.extra)), static_cast<short>(HIWORD(message.extra))};
+    const POINT place{static_cast<short>(LOWORD(message.longParameter)),
+                      static_cast<short>(HIWORD(message.longParameter))};
     const Size size = clientSize(handle());
     const bool inside = place.x >= 0 && place.y >= 0 && place.x < size.width && place.y < size.height;
     const bool captured = GetCapture() == handle();

@@ -15,8 +15,8 @@ namespace calquo {
 /// A window message with its two parameters and its answer, as the system passes them.
 struct Message {
     std::uint32_t code = 0;
-    std::uintptr_t wide = 0;
-    std::intptr_t extra = 0;
+    std::uintptr_t wordParameter = 0;
+    std::intptr_t longParameter = 0;
 };
 using MessageAnswer = std::intptr_t;
 

@@ -13,12 +13,12 @@ namespace calquo {
 
 /// Stands in front of the window procedure of the system's class.
 struct Component::Procedure {
-    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
-        Component* const component = code == WM_NCCREATE ? install(window, extra) : ownerOf(window);
+    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wordParameter, LPARAM longParameter) {
+        Component* const component = code == WM_NCCREATE ? install(window, longParameter) : ownerOf(window);
         if (component == nullptr) {
-            return DefWindowProcW(window, code, wide, extra);
+            return DefWindowProcW(window, code, wordParameter, longParameter);
         }
-        const Message message{code, wide, extra};
+        const Message message{code, wordParameter, longParameter};
         if (code == WM_NCDESTROY) {
             return component->forgetWindow(message);
         }
@@ -148,8 +148,8 @@ int Component::dotsPerInch() const {
 }
 
 MessageAnswer Component::sendToSystemClass(const Message& message) const {
-    return CallWindowProcW(reinterpret_cast<WNDPROC>(systemProcedure_), handle(), message.code, message.wide,
-                           message.extra);
+    return CallWindowProcW(reinterpret_cast<WNDPROC>(systemProcedure_), handle(), message.code, message.wordParameter,
+                           message.longParameter);
 }
 
 std::optional<MessageAnswer> Component::hear(const Message& message) {

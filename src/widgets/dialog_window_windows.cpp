@@ -28,9 +28,9 @@ Rectangle screenOf(HWND window) {
 
 /// Leads the window's messages to the dialog.
 struct DialogWindow::Procedure {
-    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wide, LPARAM extra) {
+    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wordParameter, LPARAM longParameter) {
         if (code == WM_NCCREATE) {
-            const auto& creation = *reinterpret_cast<const CREATESTRUCTW*>(extra);
+            const auto& creation = *reinterpret_cast<const CREATESTRUCTW*>(longParameter);
             SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation.lpCreateParams));
         }
         DialogWindow* const dialog = ownerOf(window);
@@ -40,13 +40,13 @@ struct DialogWindow::Procedure {
             dialog->forgetWidgets();
         } else if (dialog != nullptr) {
             const auto answer = keepingExceptions(std::optional<MessageAnswer>(0), [&] {
-                return dialog->hear({code, wide, extra});
+                return dialog->hear({code, wordParameter, longParameter});
             });
             if (answer) {
                 return *answer;
             }
         }
-        return DefWindowProcW(window, code, wide, extra);
+        return DefWindowProcW(window, code, wordParameter, longParameter);
     }
 
     static DialogWindow* ownerOf(HWND window) {
@@ -144,7 +144,7 @@ std::optional<MessageAnswer> DialogWindow::hear(const Message& message) {
 
 MessageAnswer DialogWindow::hearCommand(const Message& message) {
     static_assert(acceptCommand == IDOK && closeCommand == IDCANCEL);  // what Enter and Escape send
-    switch (const std::uint16_t command = LOWORD(message.wide)) {
+    switch (const std::uint16_t command = LOWORD(message.wordParameter)) {
         case acceptCommand:
             accept();
             break;
@@ -152,15 +152,15 @@ MessageAnswer DialogWindow::hearCommand(const Message& message) {
             close();
             break;
         default:
-            hearNotice(command, HIWORD(message.wide));
+            hearNotice(command, HIWORD(message.wordParameter));
     }
     return 0;
 }
 
 MessageAnswer DialogWindow::moveFocus(const Message& message) {
-    const bool isGiven = LOWORD(message.extra) != 0;
-    const HWND target = isGiven ? reinterpret_cast<HWND>(message.wide)
-                                : GetNextDlgTabItem(handle(), GetFocus(), message.wide != 0 ? TRUE : FALSE);
+    const bool isGiven = LOWORD(message.longParameter) != 0;
+    const HWND target = isGiven ? reinterpret_cast<HWND>(message.wordParameter)
+                                : GetNextDlgTabItem(handle(), GetFocus(), message.wordParameter != 0 ? TRUE : FALSE);
     SetFocus(target);
     if ((SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) {
         SendMessageW(target, EM_SETSEL, 0, -1);
@@ -169,12 +169,12 @@ MessageAnswer DialogWindow::moveFocus(const Message& message) {
 }
 
 std::optional<MessageAnswer> DialogWindow::chooseTextColor(const Message& message) {
-    const auto color = textColorOf(reinterpret_cast<HWND>(message.extra));
+    const auto color = textColorOf(reinterpret_cast<HWND>(message.longParameter));
     if (!color) {
         return std::nullopt;
     }
-    const LRESULT brush = DefWindowProcW(handle(), message.code, message.wide, message.extra);
-    SetTextColor(reinterpret_cast<HDC>(message.wide), colorReference(*color));
+    const LRESULT brush = DefWindowProcW(handle(), message.code, message.wordParameter, message.longParameter);
+    SetTextColor(reinterpret_cast<HDC>(message.wordParameter), colorReference(*color));
     return brush;
 }
 

@@ -108,7 +108,7 @@ void Panel::paintAll() {
 }
 
 std::optional<MessageAnswer> Panel::hearChildCommand(const Message& message) {
-    return SendMessageW(parent(), message.code, message.wide, message.extra);
+    return SendMessageW(parent(), message.code, message.wordParameter, message.longParameter);
 }
 
 std::optional<MessageAnswer> Panel::hear(const Message& message) {
@@ -126,9 +126,9 @@ std::optional<MessageAnswer> Panel::hear(const Message& message) {
         // Whatever stands on the panel has the panel's own background, which its parent chooses.
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
-            return SendMessageW(parent(), WM_CTLCOLORSTATIC, message.wide, reinterpret_cast<LPARAM>(handle()));
+            return SendMessageW(parent(), WM_CTLCOLORSTATIC, message.wordParameter, reinterpret_cast<LPARAM>(handle()));
         case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.extra);
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.longParameter);
             Component* const child = Component::of(item.hwndItem);
             if (child == nullptr) {
                 return std::nullopt;

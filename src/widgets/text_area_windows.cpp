@@ -168,12 +168,12 @@ std::optional<MessageAnswer> TextArea::hear(const Message& message) {
 
 std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
     // The keys of the menu are the top-level window's, although the control would keep them.
-    const bool menuKey = message.wide == VK_MENU || message.wide == VK_F10;
+    const bool menuKey = message.wordParameter == VK_MENU || message.wordParameter == VK_F10;
     if (menuKey && message.code == WM_SYSKEYDOWN) {
-        return SendMessageW(GetAncestor(handle(), GA_ROOT), message.code, message.wide, message.extra);
+        return SendMessageW(GetAncestor(handle(), GA_ROOT), message.code, message.wordParameter, message.longParameter);
     }
     const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
-    if (keys_ && keys_({static_cast<std::uint32_t>(message.wide), modified})) {
+    if (keys_ && keys_({static_cast<std::uint32_t>(message.wordParameter), modified})) {
         return 0;
     }
     return std::nullopt;
@@ -181,7 +181,7 @@ std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
 
 std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
     // The Enter key has done its work when it went down.
-    if (message.wide == L'\r' || message.wide == L'\n') {
+    if (message.wordParameter == L'\r' || message.wordParameter == L'\n') {
         return 0;
     }
     typeInNormalStyle();

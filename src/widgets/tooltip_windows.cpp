@@ -46,8 +46,8 @@ WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const
     MSG relayed{};
     relayed.hwnd = widget;
     relayed.message = first.code;
-    relayed.wParam = first.wide;
-    relayed.lParam = first.extra;
+    relayed.wParam = first.wordParameter;
+    relayed.lParam = first.longParameter;
     SendMessageW(tooltip.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
     return tooltip;
 }
