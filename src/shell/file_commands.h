@@ -36,6 +36,7 @@ private:
     std::wstring defaultFile() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
+    void remember(const std::wstring& file);
     bool isKnown(const std::wstring& file) const;
 
     WindowHandle owner_;

@@ -36,7 +36,7 @@ void FileCommands::readDefaultAtStartup() {
     try {
         const WaitCursor busy;
         file_.read(file);
-        known_.push_back(file);
+        remember(file);
     } catch (const FileFault& fault) {
         if (!isAbsence(fault.failure)) {
             dialogs_.showBox(owner_, readFailedBox(file, fault));
@@ -61,7 +61,7 @@ bool FileCommands::saveDefaultAtExit() {
         try {
             const WaitCursor busy;
             file_.write(file);
-            known_.push_back(file);
+            remember(file);
             return true;
         } catch (const FileFault& fault) {
             if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
@@ -96,7 +96,7 @@ void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.read(file);
-        known_.push_back(file);
+        remember(file);
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
     }
@@ -106,9 +106,15 @@ void FileCommands::save(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.write(file);
-        known_.push_back(file);
+        remember(file);
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, saveFailedBox(file, fault));
+    }
+}
+
+void FileCommands::remember(const std::wstring& file) {
+    if (!isKnown(file)) {
+        known_.push_back(file);
     }
 }
 

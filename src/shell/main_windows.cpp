@@ -28,6 +28,7 @@ int runProgram(int showCommand) {
     setMarks(marks.decimal, marks.group);
     MainWindow window(settings);
     ShowWindow(window.handle(), showCommand);
+    // Painted at once, in front of everything that waits in the queue by now.
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const int code = runMessageLoop(reportSpecialCase);
     mark.reset();

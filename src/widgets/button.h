@@ -29,8 +29,9 @@ public:
     Color face() const { return face_; }
     bool isPressed() const { return press_.isPressed(); }
 
-    /// Draws its face; the font that it writes with stays selected.
-    void draw(DrawingContext context, Size size) override;
+    /// Draws the button into an area of `size` pixels from the context's origin; the font that it writes with stays
+    /// selected.
+    void drawFace(DrawingContext context, Size size) const;
 
     /// Changes the texts, the symbol and the colour; the rest stays.
     void setLook(const ButtonDescription& description);

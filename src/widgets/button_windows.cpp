@@ -117,7 +117,7 @@ const Button::MessageRow Button::messageRows[] = {
 };
 
 const Component::WidgetClass& Button::widgetClass() {
-    static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor, true);
+    static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor);
     return registered;
 }
 
@@ -224,12 +224,12 @@ std::optional<MessageAnswer> Button::paint(const Message&) {
                                             reinterpret_cast<LPARAM>(handle()));
     const RECT whole{0, 0, size.width, size.height};
     FillRect(context, &whole, reinterpret_cast<HBRUSH>(background));
-    draw(context, size);
+    drawFace(context, size);
     buffer.show();
     return 0;
 }
 
-void Button::draw(DrawingContext context, Size size) {
+void Button::drawFace(DrawingContext context, Size size) const {
     const ButtonFace face = buttonFace(size, face_, press_.isPressed());
     paintLayers(context, face.layers);
     if (symbol_ == Symbol::None) {

@@ -53,7 +53,7 @@ public:
     /// Empty when the text has none.
     std::string_view description() const;
 
-    /// Moves the window to `place`, in pixels of the parent's client area.
+    /// Moves the window to `place`, in pixels of the parent's client area, and shows it the first time.
     void moveTo(const Rectangle& place);
     const Rectangle& place() const { return place_; }
     void show();
@@ -76,16 +76,15 @@ protected:
     struct Creation {
         WindowHandle parent = nullptr;
         std::uint16_t command = 0;  ///< The command identifier that its notifications carry.
-        std::uint32_t style = 0;    ///< Beside child and visible.
+        std::uint32_t style = 0;    ///< Beside child.
         std::string_view text;
         std::uint32_t extendedStyle = 0;
     };
 
     /// Registers `name` with the description of `systemClass`, but with the widgets' window procedure in front of the
-    /// system's. `cursor` is a resource of the program, shown where the program has it. Widgets of which a window has
-    /// many share one drawing context. Raises InternalFault when the system refuses.
-    static WidgetClass registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor = 0,
-                                     bool shareContext = false);
+    /// system's. `cursor` is a resource of the program, shown where the program has it. Raises InternalFault
+    /// when the system refuses.
+    static WidgetClass registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor = 0);
 
     /// Creates the window, without a size; raises InternalFault when the system refuses. `filter` hears the messages
     /// that follow the creation.

@@ -44,8 +44,7 @@ struct Component::Procedure {
     }
 };
 
-Component::WidgetClass Component::registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor,
-                                                bool shareContext) {
+Component::WidgetClass Component::registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     WNDCLASSW description{};
     if (GetClassInfoW(nullptr, systemClass, &description) == 0) {
@@ -53,9 +52,6 @@ Component::WidgetClass Component::registerClass(const wchar_t* systemClass, cons
     }
     const WidgetClass made{name, reinterpret_cast<SystemProcedure>(description.lpfnWndProc)};
     description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
-    if (shareContext) {
-        description.style = (description.style & ~static_cast<UINT>(CS_PARENTDC)) | CS_CLASSDC;
-    }
     description.lpfnWndProc = Procedure::receive;
     description.hInstance = program;
     description.lpszClassName = name;

@@ -10,6 +10,7 @@ struct HDC__;
 struct HFONT__;
 struct HINSTANCE__;
 struct HMENU__;
+struct HRGN__;
 struct HWND__;
 // NOLINTEND(bugprone-reserved-identifier)
 
@@ -20,6 +21,7 @@ using DrawingContext = HDC__*;
 using FontHandle = HFONT__*;
 using MenuHandle = HMENU__*;
 using ModuleHandle = HINSTANCE__*;
+using RegionHandle = HRGN__*;
 using WindowHandle = HWND__*;
 
 /// Owns one handle and hands it to `dispose` at the end.
@@ -55,6 +57,7 @@ private:
 void deleteBitmap(BitmapHandle bitmap);
 void deleteDrawingContext(DrawingContext context);
 void deleteFont(FontHandle font);
+void deleteRegion(RegionHandle region);
 void destroyMenu(MenuHandle menu);
 void destroyWindow(WindowHandle window);
 void freeLibrary(ModuleHandle library);
@@ -64,6 +67,7 @@ using DrawingContextOwner = HandleOwner<DrawingContext, deleteDrawingContext>;
 using FontOwner = HandleOwner<FontHandle, deleteFont>;
 using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
 using MenuOwner = HandleOwner<MenuHandle, destroyMenu>;
+using RegionOwner = HandleOwner<RegionHandle, deleteRegion>;
 using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
 
 /// A library of the system's own, never one of that name that lies beside the program; none when it cannot be loaded.

@@ -11,6 +11,8 @@ void deleteDrawingContext(DrawingContext context) { DeleteDC(context); }
 
 void deleteFont(FontHandle font) { DeleteObject(font); }
 
+void deleteRegion(RegionHandle region) { DeleteObject(region); }
+
 void destroyMenu(MenuHandle menu) { DestroyMenu(menu); }
 
 void destroyWindow(WindowHandle window) { DestroyWindow(window); }

@@ -25,7 +25,7 @@ public:
         std::uint16_t command = 0;
         std::uint32_t style = 0;  ///< Bits of PanelStyle.
         Direction direction = Direction::Down;
-        /// Paints its children as well, all at once: they are widgets that can draw themselves.
+        /// Paints its children as well, all at once: panels that do so too, and buttons.
         bool paintsChildren = false;
     };
 
@@ -47,8 +47,6 @@ public:
     Size preferredSize() const override;
     /// Places the children within the panel's present size, and theirs.
     void layOut() override;
-    /// Draws the children.
-    void draw(DrawingContext context, Size size) override;
     /// Passes the notification on to the panel's own parent, unchanged.
     std::optional<MessageAnswer> hearChildCommand(const Message& message) override;
 
@@ -58,6 +56,7 @@ private:
     void layOutDown(int width);
     void layOutAcross(int width);
     void paintAll();
+    void drawChildren(DrawingContext context) const;
     std::optional<MessageAnswer> hear(const Message& message);
 
     Direction direction_;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "widgets/button.h"
 #include "widgets/paint_buffer.h"
 #include "widgets/painting.h"
 #include "widgets/toolkit.h"
@@ -19,7 +20,7 @@ std::uint32_t styleOf(const Panel::Creation& creation) {
 }  // namespace
 
 const Component::WidgetClass& Panel::widgetClass() {
-    static const WidgetClass registered = registerClass(L"STATIC", L"CalquoPanel", 0, true);
+    static const WidgetClass registered = registerClass(L"STATIC", L"CalquoPanel");
     return registered;
 }
 
@@ -83,18 +84,27 @@ void Panel::layOutAcross(int width) {
     }
 }
 
-void Panel::draw(DrawingContext context, Size) {
+void Panel::drawChildren(DrawingContext context) const {
     POINT origin{};
     GetViewportOrgEx(context, &origin);
     for (const auto& child : children_) {
         const Rectangle place = child->place();
         SetViewportOrgEx(context, origin.x + place.left, origin.y + place.top, nullptr);
-        child->draw(context, {place.width, place.height});
+        if (const auto* const button = dynamic_cast<const Button*>(child.get())) {
+            button->drawFace(context, {place.width, place.height});
+        } else if (const auto* const panel = dynamic_cast<const Panel*>(child.get())) {
+            panel->drawChildren(context);
+        }
     }
     SetViewportOrgEx(context, origin.x, origin.y, nullptr);
 }
 
 void Panel::paintAll() {
+    // Only what is invalid is painted, and no more of the children must count as painted.
+    const RegionOwner invalid(CreateRectRgn(0, 0, 0, 0));
+    GetUpdateRgn(handle(), invalid.get(), FALSE);
+    RedrawWindow(handle(), nullptr, invalid.get(), RDW_VALIDATE | RDW_ALLCHILDREN);
+    RedrawWindow(handle(), nullptr, invalid.get(), RDW_INVALIDATE | RDW_NOCHILDREN);
     const Painting painting(handle());
     const Size size = clientSize(handle());
     const PaintBuffer buffer(painting.context(), size);
@@ -102,9 +112,8 @@ void Panel::paintAll() {
                                             reinterpret_cast<LPARAM>(handle()));
     const RECT whole{0, 0, size.width, size.height};
     FillRect(buffer.context(), &whole, reinterpret_cast<HBRUSH>(background));
-    draw(buffer.context(), size);
+    drawChildren(buffer.context());
     buffer.show();
-    RedrawWindow(handle(), nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
 }
 
 std::optional<MessageAnswer> Panel::hearChildCommand(const Message& message) {

@@ -92,7 +92,7 @@ public:
     /// The same for plain text, which looks normal; line ends are "\r".
     bool replaceContentByPlainText(std::wstring_view text);
 
-    /// Leaves nothing to undo or redo.
+    /// Leaves nothing to undo or redo; the text counts as untouched.
     void forgetSteps();
 
 private:

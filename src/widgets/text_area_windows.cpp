@@ -155,6 +155,7 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
       fontName_(installedFont(fontNames)) {
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
+    forgetSteps();
 }
 
 std::optional<MessageAnswer> TextArea::hear(const Message& message) {
@@ -368,6 +369,9 @@ bool TextArea::startInNormalStyle() {
     return !isEmpty;
 }
 
-void TextArea::forgetSteps() { SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0); }
+void TextArea::forgetSteps() {
+    SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0);
+    SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
+}
 
 }  // namespace calquo
