@@ -34,7 +34,7 @@ int main(int count, char** arguments) {
     }
     RandomReals random;
     for (const MeasuredFunction& function : measuredFunctions()) {
-        for (int lines = std::atoi(arguments[1]); lines > 0; --lines) {
+        for (int lines = static_cast<int>(std::strtol(arguments[1], nullptr, 10)); lines > 0; --lines) {
             std::string line = std::string(function.name) + "(" + argumentIn(function.range, random);
             if (function.hasTwoArguments) {
                 line += "; " + argumentIn(function.second, random);

@@ -115,7 +115,7 @@ int main(int count, char** arguments) {
     std::printf("\n");
     try {
         for (const MeasuredFunction& function : measuredFunctions()) {
-            printRow(function, std::atoi(arguments[1]), lines, builds);
+            printRow(function, static_cast<int>(std::strtol(arguments[1], nullptr, 10)), lines, builds);
         }
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "accuracy_table: %s\n", fault.what());

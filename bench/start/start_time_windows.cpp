@@ -168,7 +168,7 @@ void run(int rounds) {
 
 int main(int count, char** arguments) {
     try {
-        run(count > 1 ? std::max(1, std::atoi(arguments[1])) : 25);
+        run(count > 1 ? std::max(1, static_cast<int>(std::strtol(arguments[1], nullptr, 10))) : 25);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "start_time: %s\n", failure.what());
         return 1;

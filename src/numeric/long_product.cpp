@@ -161,13 +161,13 @@ private:
 class DigitWriter {
 public:
     DigitWriter(std::size_t bits, std::size_t first, std::size_t count)
-        : bits_(bits), skipped_(first), result_(count) {}
+        : bits_(bits), mask_((std::uint32_t{1} << bits) - 1), skipped_(first), result_(count) {}
 
     void put(double coefficient) {
         // In this range a double is a whole number, and its bits count up with it: adding rounds.
         constexpr double shift = 6755399441055744.0;  // 1.5 * 2^52
         carry_ += std::bit_cast<std::int64_t>(coefficient + shift) - std::bit_cast<std::int64_t>(shift);
-        const std::uint64_t digit = static_cast<std::uint32_t>(carry_) & ((std::uint32_t{1} << bits_) - 1);
+        const std::uint64_t digit = static_cast<std::uint32_t>(carry_) & mask_;
         carry_ >>= bits_;
         buffer_ |= digit << buffered_;
         buffered_ += bits_;
@@ -198,6 +198,7 @@ private:
     }
 
     std::size_t bits_;
+    std::uint32_t mask_;
     std::size_t skipped_;
     LongNatural result_;
     std::size_t written_ = 0;

@@ -11,11 +11,15 @@ std::exception_ptr kept;
 }  // namespace
 
 void keepException() noexcept {
-    if (!kept) kept = std::current_exception();
+    if (!kept) {
+        kept = std::current_exception();
+    }
 }
 
 void rethrowKeptException() {
-    if (kept) std::rethrow_exception(std::exchange(kept, nullptr));
+    if (kept) {
+        std::rethrow_exception(std::exchange(kept, nullptr));
+    }
 }
 
 }  // namespace calquo

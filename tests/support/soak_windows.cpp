@@ -200,7 +200,7 @@ int run(int steps, std::uint32_t seed) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    const int steps = count > 1 ? std::max(10, std::atoi(arguments[1])) : 100000;
+    const int steps = count > 1 ? std::max(10, static_cast<int>(std::strtol(arguments[1], nullptr, 10))) : 100000;
     const auto seed = count > 2 ? static_cast<std::uint32_t>(std::strtoul(arguments[2], nullptr, 10)) : 1U;
     return run(steps, seed);
 }
