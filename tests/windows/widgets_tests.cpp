@@ -24,6 +24,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr unsigned basicKeypad = 0xA110, editing = 0xA111, masses = 0xA570;
+constexpr COLORREF foreign = RGB(1, 254, 3);  // no widget has it
 
 /// Lets the thread's windows hear their messages for a while, and counts the ticks of timers among them.
 int wait(milliseconds time) {
@@ -44,11 +45,16 @@ Size sizeOf(HWND window) {
     return {client.right, client.bottom};
 }
 
-/// The pixels of a window, row by row.
+/// The pixels of a window, row by row, when it was covered with a colour of no widget and has painted itself.
 std::vector<COLORREF> picture(HWND window) {
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     const Size size = sizeOf(window);
     const HDC context = GetDC(window);
+    const HBRUSH covering = static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+    const COLORREF before = SetDCBrushColor(context, foreign);
+    const RECT whole{0, 0, size.width, size.height};
+    FillRect(context, &whole, covering);
+    SetDCBrushColor(context, before);
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     std::vector<COLORREF> pixels;
     for (int place = 0; place < size.width * size.height; ++place) {
         pixels.push_back(GetPixel(context, place % size.width, place / size.width));
@@ -197,13 +203,36 @@ TEST(Button, ShowsItsFaceOnItsParentsBackground) {
     EXPECT_EQ(at(4, 4), colorReference(color));
     EXPECT_EQ(at(0, size.height / 2), colorReference(layers[1].color));
     EXPECT_EQ(at(size.width / 2, 0), colorReference(layers[1].color));
-    HDC context = GetDC(GetParent(button));
-    EXPECT_EQ(at(0, 0), GetPixel(context, 0, 0));
-    EXPECT_EQ(at(size.width - 1, size.height - 1), GetPixel(context, 0, 0));
-    ReleaseDC(GetParent(button), context);
+    const COLORREF margin = picture(keypad.program.child(basicKeypad)).front();
+    EXPECT_EQ(at(0, 0), margin);
+    EXPECT_EQ(at(size.width - 1, size.height - 1), margin);
     mouse(button, WM_LBUTTONDOWN);
     EXPECT_EQ(at(4, 4), colorReference(layers[0].color));
     mouse(button, WM_LBUTTONUP);
+}
+
+TEST(ButtonPanel, PaintsItsButtonsAsTheyPaintThemselves) {
+    for (const unsigned identifier : {basicKeypad, editing, masses}) {
+        OpenPanel open(identifier);
+        const HWND panel = open.program.child(identifier), pressed = open.buttons.at(1);
+        mouse(pressed, WM_LBUTTONDOWN);
+        const int width = sizeOf(panel).width;
+        const auto whole = picture(panel);
+        EXPECT_EQ(std::ranges::count(whole, foreign), 0) << "left unpainted";
+        for (const HWND button : open.buttons) {
+            POINT place{};
+            MapWindowPoints(button, panel, &place, 1);
+            const Size size = sizeOf(button);
+            std::vector<COLORREF> area;
+            for (int row = 0; row < size.height; ++row) {
+                const auto begin = whole.begin() + (place.y + row) * width + place.x;
+                area.insert(area.end(), begin, begin + size.width);
+            }
+            EXPECT_TRUE(area == picture(button))
+                << Component::of(button)->text() << (button == pressed ? ", pressed" : "");
+        }
+        mouse(pressed, WM_LBUTTONUP, -1);
+    }
 }
 
 TEST(Button, WritesALongLabelNarrower) {
