@@ -164,6 +164,24 @@ TEST(MainWindow, StoresEveryRectangleThatTheSystemReports) {
     EXPECT_EQ(program.storage().written.back(), L"Window Rect");
 }
 
+TEST(MainWindow, MaximizedItCoversTheDeskWithOnePixelOfItsFrameInView) {
+    Program program;
+    const RECT window = placeOnScreen(program.handle());
+    RECT inner = program.client(), desk{};
+    MapWindowPoints(program.handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
+    const RECT expected{desk.left - (inner.left - window.left) + 1, desk.top - (inner.top - window.top) + 1,
+                        desk.right + (window.right - inner.right) - 1,
+                        desk.bottom + (window.bottom - inner.bottom) - 1};
+    MINMAXINFO limits{};
+    SendMessageW(program.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    // Of a maximized window the system wants the size, and how large it may be made.
+    const POINT at = limits.ptMaxPosition;
+    for (const POINT size : {limits.ptMaxSize, limits.ptMaxTrackSize}) {
+        EXPECT_EQ(shown({at.x, at.y, at.x + size.x, at.y + size.y}), shown(expected));
+    }
+}
+
 TEST(MainWindow, MorePanelsThanTheScreenIsHighDoNotPushItsEdgeOutOfReach) {
     Program program;
     for (const PanelEntry& entry : panelCatalogue()) {

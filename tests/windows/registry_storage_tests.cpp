@@ -101,5 +101,26 @@ TEST_F(RegistryStorageTest, AMissingValueAndAKeyThatCannotBeMadeAreSilent) {
     EXPECT_EQ(impossible.read(L"Some value"), std::nullopt);
 }
 
+TEST_F(RegistryStorageTest, SettingsComeBackInTheNextRun) {
+    constexpr NumericFormat currency = 0x35122034;  // not the default
+    {
+        RegistryStorage storage(testKey);
+        Settings settings(storage);
+        settings.setFormat(FormatKind::Currency, currency);
+        settings.selectFormat(FormatKind::Currency);
+        settings.setText(TextSetting::DecimalMark, L",");
+        settings.setText(TextSetting::GroupMark, L"#");
+        settings.setText(TextSetting::DefaultFile, L"Z:\\\x4E2D.rtf");
+        settings.saveAll();
+    }
+    RegistryStorage storage(testKey);
+    Settings settings(storage);
+    settings.loadAll();
+    EXPECT_EQ(settings.format(FormatKind::Currency), currency);
+    EXPECT_EQ(settings.selectedFormat(), FormatKind::Currency);
+    EXPECT_EQ(settings.marks(), (Marks{',', '#'}));
+    EXPECT_EQ(settings.text(TextSetting::DefaultFile), L"Z:\\\x4E2D.rtf");
+}
+
 }  // namespace
 }  // namespace calquo
