@@ -31,8 +31,9 @@ std::vector<const Attribute*> attributesOf(FormatKind kind) {
 }
 
 std::string rangeInWords(const Attribute& attribute) {
-    return "a whole number from " + std::to_string(attribute.range.smallest) + " to " +
-           std::to_string(attribute.range.largest);
+    // What the field cannot keep is refused later, so it is not offered.
+    const std::uint32_t largest = std::min(attribute.range.largest, largestIn(attribute.field));
+    return "a whole number from " + std::to_string(attribute.range.smallest) + " to " + std::to_string(largest);
 }
 
 TypedNumber readNumber(const Attribute& attribute, std::string_view typed) {
