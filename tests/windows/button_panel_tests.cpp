@@ -144,7 +144,7 @@ TEST(PanelButtons, TheOthersKeepForeignCharactersAndAreOneStepForUndo) {
     }
 }
 
-/// What the system keeps for its own painting, more or less. What we forget is there 50 times or more.
+/// What the system keeps for its own painting, more or less. What we forget is there 200 times.
 constexpr int ofTheSystem = 2;
 
 TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
@@ -168,7 +168,7 @@ TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
     const Resources before = heldResources();
     ASSERT_TRUE(before.drawingObjects > 0 && before.windows > 0);
     // Without painting, which takes five times as long as all the rest and is looked at below.
-    openAndCloseAllHidden(50);
+    openAndCloseAllHidden(200);
     const Resources after = heldResources();
     EXPECT_LE(after.drawingObjects, before.drawingObjects + ofTheSystem);
     EXPECT_EQ(after.windows, before.windows);
