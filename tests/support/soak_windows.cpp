@@ -167,10 +167,11 @@ private:
 };
 
 bool hasGrown(const Checkpoint& first, const Checkpoint& last) {
-    constexpr int comingAndGoing = 2;  // the rich edit control's own
+    // The system keeps that many contexts of windows that were painted, for the next time.
+    constexpr int cachedContexts = 64;
     constexpr double noticeableMegabytes = 2;
-    constexpr double noticeableSlowness = 2;
-    return last.held.drawingObjects > first.held.drawingObjects + comingAndGoing ||
+    constexpr double noticeableSlowness = 3;  // on a machine with other work
+    return last.held.drawingObjects > first.held.drawingObjects + cachedContexts ||
            last.held.windows > first.held.windows || last.megabytes > first.megabytes + noticeableMegabytes ||
            last.millisecondsForALine > first.millisecondsForALine * noticeableSlowness;
 }
