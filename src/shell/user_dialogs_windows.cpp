@@ -55,31 +55,22 @@ BoxAnswer showBox(WindowHandle owner, const BoxText& box) {
 
 /// The library of the file dialogs. It brings half a dozen others with it, so it is loaded when a dialog is first
 /// wanted, and not at every start.
-class FileDialogLibrary {
-public:
-    /// Raises InternalFault when a function is missing.
-    FileDialogLibrary()
-        : library_(loadSystemLibrary(L"comdlg32.dll")),
-          open(find<decltype(&GetOpenFileNameW)>("GetOpenFileNameW")),
-          save(find<decltype(&GetSaveFileNameW)>("GetSaveFileNameW")),
-          errorCode(find<decltype(&CommDlgExtendedError)>("CommDlgExtendedError")) {}
+struct FileDialogLibrary {
+    LibraryOwner library = loadSystemLibrary(L"comdlg32.dll");
+    decltype(&GetOpenFileNameW) open = find<decltype(open)>("GetOpenFileNameW");
+    decltype(&GetSaveFileNameW) save = find<decltype(save)>("GetSaveFileNameW");
+    decltype(&CommDlgExtendedError) errorCode = find<decltype(errorCode)>("CommDlgExtendedError");
 
 private:
+    /// Raises InternalFault when the library or the function is missing.
     template <typename Function>
     Function find(const char* name) const {
-        const FARPROC function = library_ ? GetProcAddress(library_.get(), name) : nullptr;
+        const FARPROC function = library ? GetProcAddress(library.get(), name) : nullptr;
         if (function == nullptr) {
             raise(ErrorCode::InternalFault);
         }
         return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(function));
     }
-
-    LibraryOwner library_;
-
-public:
-    const decltype(&GetOpenFileNameW) open;
-    const decltype(&GetSaveFileNameW) save;
-    const decltype(&CommDlgExtendedError) errorCode;
 };
 
 /// Goes back at its end to the folder that was the current one, since a file dialog may leave another.
