@@ -5,19 +5,35 @@
 
 namespace calquo {
 
+namespace {
+
+constexpr std::string_view initialCharacters =
+    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
+
+}  // namespace
+
 constinit std::array<char, 83> characterTable = [] {
-    constexpr std::string_view characters =
-        "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
     std::array<char, 83> table{};
-    static_assert(characters.size() == table.size());
-    characters.copy(table.data(), table.size());
+    static_assert(initialCharacters.size() == table.size());
+    initialCharacters.copy(table.data(), table.size());
     return table;
+}();
+
+constinit std::array<TokenClass, 256> characterClasses = [] {
+    std::array<TokenClass, 256> classes{};
+    for (std::size_t i = firstClassInTable; i < initialCharacters.size(); ++i) {
+        classes[static_cast<unsigned char>(initialCharacters[i])] = static_cast<TokenClass>(i - firstClassInTable);
+    }
+    return classes;
 }();
 
 void setMarkCharacter(TokenClass tokenClass, char character) {
     const std::string_view taken(characterTable.data(), characterTable.size());
     if (character != '\0' && taken.find(character) == std::string_view::npos) {
-        characterTable[firstClassInTable + static_cast<std::size_t>(tokenClass)] = character;
+        char& entry = characterTable[firstClassInTable + static_cast<std::size_t>(tokenClass)];
+        characterClasses[static_cast<unsigned char>(entry)] = TokenClass::None;
+        characterClasses[static_cast<unsigned char>(character)] = tokenClass;
+        entry = character;
     }
 }
 

@@ -86,7 +86,8 @@ private:
     [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
         return tokenLengthHere(kind, line, index) != 0;
     }
-    /// Past the blanks at an index. Many levels may ask for the same ones, one after the other.
+    // Many levels ask for the blanks and for the operator at the same index, one after the other.
+    /// Past the blanks at an index.
     std::size_t skipBlanks(std::size_t index) {
         if (index != blanksStart) {
             blanksStart = index;
@@ -101,23 +102,25 @@ private:
     int nesting = 0;
     std::size_t blanksStart = std::string_view::npos;
     std::size_t blanksEnd = 0;
+    std::size_t operatorIndex = std::string_view::npos;
+    Operator lastOperator;
 
     // The arguments of the calls that are being read, innermost last. Short lists stay on the stack.
-    std::array<std::byte, 16 * sizeof(Value)> argumentStorage;
+    static constexpr std::size_t argumentsOnStack = 16;
+    alignas(Value) std::array<std::byte, argumentsOnStack * sizeof(Value)> argumentStorage;
     std::pmr::monotonic_buffer_resource argumentMemory{argumentStorage.data(), argumentStorage.size()};
     std::pmr::vector<Value> arguments{&argumentMemory};
 };
 
 /// The binary operator at an index, its kind None when there is none.
 Operator Evaluator::readOperator(std::size_t index) {
-    const std::size_t start = skipBlanks(index);
-    for (const TokenClass kind : {TokenClass::Plus, TokenClass::Minus, TokenClass::Times, TokenClass::Divide,
-                                  TokenClass::Power, TokenClass::Arrow}) {
-        if (const std::size_t length = tokenLengthHere(kind, line, start); length != 0) {
-            return {kind, start, skipBlanks(start + length)};
-        }
+    if (index != operatorIndex) {
+        operatorIndex = index;
+        const std::size_t start = skipBlanks(index);
+        const OperatorToken found = readOperatorHere(line, start);
+        lastOperator = found.length == 0 ? Operator{} : Operator{found.kind, start, skipBlanks(start + found.length)};
     }
-    return {};
+    return lastOperator;
 }
 
 /// line = [directive] expression [suffix]
@@ -458,6 +461,9 @@ std::size_t Evaluator::argumentList(std::size_t index) {
         raiseAt(ErrorCode::Incomplete, end);
     }
     end += length;
+    if (arguments.capacity() == 0) {
+        arguments.reserve(argumentsOnStack);
+    }
     arguments.push_back(value);
     while (isAt(TokenClass::ListSeparator, end)) {
         end += 1 + item(end + 1, value);

@@ -9,19 +9,40 @@ namespace {
 
 const Keyword& row(std::size_t index) { return keywordTable[index > keywordCount ? 0 : index]; }
 
+constexpr std::size_t letterCount = 26;
+
+constexpr std::size_t letterNumber(char letter) { return static_cast<std::size_t>(lowerCase(letter) - 'a'); }
+
+/// The index of the first name that begins with a letter or with a later one; behind the last letter's, the end.
+constexpr std::array<std::size_t, letterCount + 1> firstWithLetter = [] {
+    std::array<std::size_t, letterCount + 1> first{};
+    std::size_t index = 1;
+    for (std::size_t letter = 0; letter <= letterCount; ++letter) {
+        while (index <= keywordCount && letterNumber(keywordTable[index].name.front()) < letter) {
+            ++index;
+        }
+        first[letter] = index;
+    }
+    return first;
+}();
+
 }  // namespace
 
 std::size_t lookup(std::string_view name) {
-    std::size_t low = 1;
-    std::size_t high = keywordCount;
-    while (low <= high) {
-        const std::size_t middle = (low + high) / 2;
+    const char first = characterAt(name, 0);
+    if (!isLetter(first)) {
+        return 0;
+    }
+    std::size_t low = firstWithLetter[letterNumber(first)];
+    std::size_t end = firstWithLetter[letterNumber(first) + 1];
+    while (low < end) {
+        const std::size_t middle = (low + end) / 2;
         const int order = compareNames(name, keywordTable[middle].name);
         if (order == 0) {
             return middle;
         }
         if (order < 0) {
-            high = middle - 1;
+            end = middle;
         } else {
             low = middle + 1;
         }

@@ -48,10 +48,14 @@ std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_
 }
 
 Sign readSign(std::string_view line, std::size_t index, Blanks blanks) {
-    if (const std::size_t length = tokenLength(TokenClass::Minus, line, index, blanks); length != 0) {
-        return {-1, length};
+    const bool skip = blanks == Blanks::Skip;
+    const std::size_t start = skip ? index + blankLength(line, index) : index;
+    const TokenClass kind = readOperatorHere(line, start).kind;
+    if (kind != TokenClass::Plus && kind != TokenClass::Minus) {
+        return {};
     }
-    return {1, tokenLength(TokenClass::Plus, line, index, blanks)};
+    const std::size_t end = start + 1;
+    return {kind == TokenClass::Minus ? -1 : 1, (skip ? end + blankLength(line, end) : end) - index};
 }
 
 BasePrefix readBasePrefix(std::string_view line, std::size_t index) {

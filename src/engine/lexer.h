@@ -20,32 +20,50 @@ inline std::size_t blankLength(std::string_view line, std::size_t index) {
     return end - index;
 }
 
+struct OperatorToken {
+    TokenClass kind = TokenClass::None;
+    std::size_t length = 0;  ///< 0 when no operator stands there
+};
+
+/// Reads the binary operator that starts exactly at an index.
+inline OperatorToken readOperatorHere(std::string_view line, std::size_t index) {
+    const TokenClass kind = classOfCharacter(characterAt(line, index));
+    switch (kind) {
+        case TokenClass::Plus:
+        case TokenClass::Divide:
+        case TokenClass::Power:
+            return {kind, 1};
+        case TokenClass::Minus:
+            return characterAt(line, index + 1) == '>' ? OperatorToken{TokenClass::Arrow, 2} : OperatorToken{kind, 1};
+        case TokenClass::Times:
+            return classOfCharacter(characterAt(line, index + 1)) == TokenClass::Times
+                       ? OperatorToken{TokenClass::Power, 2}
+                       : OperatorToken{kind, 1};
+        default:
+            return {};
+    }
+}
+
 /// Length of a token of the class that starts exactly at an index, 0 when none does.
 inline std::size_t tokenLengthHere(TokenClass tokenClass, std::string_view line, std::size_t index) {
     const char character = characterAt(line, index);
-    const auto matches = [&](TokenClass wanted) -> std::size_t {
-        return character == markCharacter(wanted) && character != '\0' ? 1 : 0;
-    };
     switch (tokenClass) {
         case TokenClass::None:
         case TokenClass::BlankRun:
             return 0;
         case TokenClass::ExponentMark:
-            return character == 'e' || character == 'E' ? 1 : matches(TokenClass::ExponentMark);
+            return character == 'e' || character == 'E' || classOfCharacter(character) == tokenClass ? 1 : 0;
         case TokenClass::Minus:
-            return characterAt(line, index + 1) == '>' ? 0 : matches(TokenClass::Minus);
         case TokenClass::Times:
-            return characterAt(line, index + 1) == markCharacter(TokenClass::Times) ? 0 : matches(TokenClass::Times);
         case TokenClass::Power:
-            return matches(TokenClass::Times) != 0 && characterAt(line, index + 1) == character
-                       ? 2
-                       : matches(TokenClass::Power);
-        case TokenClass::Arrow:
-            return matches(TokenClass::Minus) != 0 && characterAt(line, index + 1) == '>' ? 2 : 0;
+        case TokenClass::Arrow: {
+            const OperatorToken found = readOperatorHere(line, index);
+            return found.kind == tokenClass ? found.length : 0;
+        }
         case TokenClass::SecondEquals:
-            return matches(TokenClass::Equals);
+            return classOfCharacter(character) == TokenClass::Equals ? 1 : 0;
         default:
-            return matches(tokenClass);
+            return classOfCharacter(character) == tokenClass ? 1 : 0;
     }
 }
 

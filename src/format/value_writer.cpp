@@ -20,6 +20,21 @@ namespace {
 /// Below this magnitude a number counts as zero under the flag I.
 constexpr Real insignificant = 1e-12L;
 
+/// A letter of the attributes, looked up while compiling: its field, and the kinds that have it, a bit for each.
+struct AttributeLetter {
+    NumericFormat field;
+    std::uint32_t kinds = 0;
+
+    // Implicit on purpose: a style is asked for a letter.
+    consteval AttributeLetter(char letter) : field(fieldOfLetter(letter)) {
+        for (std::uint32_t kind = 0; kind < formatKinds.size(); ++kind) {
+            if (formatKinds[kind].letters.find(letter) != std::string_view::npos) {
+                kinds |= 1U << kind;
+            }
+        }
+    }
+};
+
 /// A kind's word taken apart: what of it applies to the number at hand. Attributes that a kind lacks are off.
 struct Style {
     NumericFormat word;
@@ -29,12 +44,13 @@ struct Style {
     Style(NumericFormat formatWord, std::uint32_t outputBase)
         : word(formatWord), base(outputBase), groupSize(static_cast<int>(getField(word, field::groupSize))) {}
 
-    [[nodiscard]] bool has(char letter) const {
-        return hasAttribute(word, letter) && (word & fieldOfLetter(letter)) != 0;
+    [[nodiscard]] bool knows(AttributeLetter letter) const {
+        return (letter.kinds >> getField(word, field::kind) & 1) != 0;
     }
+    [[nodiscard]] bool has(AttributeLetter letter) const { return knows(letter) && (word & letter.field) != 0; }
     /// A number of digits that the kind may not limit at all.
-    [[nodiscard]] int limit(char letter, int none) const {
-        return hasAttribute(word, letter) ? static_cast<int>(getField(word, fieldOfLetter(letter))) : none;
+    [[nodiscard]] int limit(AttributeLetter letter, int none) const {
+        return knows(letter) ? static_cast<int>(getField(word, letter.field)) : none;
     }
 };
 
@@ -276,7 +292,7 @@ void NumberWriter::writeFraction(Real magnitude, bool negative) {
         }
         appendPrefix();
         // Under Rational a whole number is a numerator without its denominator.
-        appendWhole(whole != 0 ? digits.text() : "0", style.has(rational ? 'F' : 'W'), style.groupSize, text);
+        appendWhole(whole != 0 ? digits.text() : "0", rational ? style.has('F') : style.has('W'), style.groupSize, text);
         if (isWhole) {
             return;
         }
