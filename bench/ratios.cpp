@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -25,13 +24,11 @@ struct Program {
     std::string name;
     std::vector<std::string> command;
     std::function<std::string(const Row&)> words;  ///< What it reads for a row; empty when it cannot answer.
-    std::size_t lines;                             ///< So many that a run takes about a tenth of a second.
+    std::size_t trialLines;                        ///< Enough to see how long one takes.
 };
 
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
+/// What else runs on the machine can only make a run longer.
+double fastest(const std::vector<double>& seconds) { return *std::min_element(seconds.begin(), seconds.end()); }
 
 std::string repeated(const std::string& line, std::size_t times) {
     std::string text;
@@ -44,11 +41,11 @@ std::string repeated(const std::string& line, std::size_t times) {
 class Comparison {
 public:
     Comparison(const std::string& calq, const std::string& bareLines, const std::string& muParserLines)
-        : programs{{"bare", {bareLines}, [](const Row& row) { return row.calq; }, 200000},
-                   {"calq", {calq}, [](const Row& row) { return row.calq; }, 100000},
-                   {"muParser", {muParserLines}, [](const Row& row) { return row.muParser; }, 20000},
-                   {"bc -l", {"bc", "-l"}, [](const Row& row) { return row.bc; }, 2000},
-                   {"qalc -t", {"qalc", "-t", "-f", "-"}, [](const Row& row) { return row.qalc; }, 5}} {}
+        : programs{{"bare", {bareLines}, [](const Row& row) { return row.calq; }, 20000},
+                   {"calq", {calq}, [](const Row& row) { return row.calq; }, 20000},
+                   {"muParser", {muParserLines}, [](const Row& row) { return row.muParser; }, 2000},
+                   {"bc -l", {"bc", "-l"}, [](const Row& row) { return row.bc; }, 500},
+                   {"qalc -t", {"qalc", "-t", "-f", "-"}, [](const Row& row) { return row.qalc; }, 2}} {}
 
     void print() {
         timeStarts();
@@ -78,32 +75,44 @@ private:
                 taken[program].push_back(secondsOf(commandFor(program, 0), input));
             }
         }
-        std::transform(taken.begin(), taken.end(), std::back_inserter(starts), median);
+        std::transform(taken.begin(), taken.end(), std::back_inserter(starts), fastest);
+    }
+
+    double secondsWithoutStart(std::size_t program, std::size_t row, std::size_t lines) const {
+        const InputFile input(repeated(programs[program].words(rows[row]), lines));
+        return secondsOf(commandFor(program, row), input) - starts[program];
+    }
+
+    /// So many lines that a run takes about a tenth of a second.
+    std::size_t linesFor(std::size_t program, std::size_t row) const {
+        constexpr double enough = 0.1;
+        constexpr double most = 50;
+        const std::size_t trial = programs[program].trialLines;
+        const double taken = secondsWithoutStart(program, row, trial);
+        const double times = taken <= enough / most ? most : enough / taken;
+        return std::max(trial, static_cast<std::size_t>(times * static_cast<double>(trial)));
     }
 
     /// Fills `seconds`: for each row and program the time for a line, without the start; 0 where there is none.
     void timeRows() {
         constexpr int rounds = 5;
+        seconds.assign(rows.size(), std::vector<double>(programs.size()));
         for (std::size_t row = 0; row < rows.size(); ++row) {
-            std::vector<std::unique_ptr<InputFile>> inputs;
-            for (const Program& program : programs) {
-                const std::string words = program.words(rows[row]);
-                inputs.push_back(words.empty() ? nullptr : std::make_unique<InputFile>(repeated(words, program.lines)));
+            std::vector<std::size_t> lines(programs.size());
+            for (std::size_t program = 0; program < programs.size(); ++program) {
+                lines[program] = programs[program].words(rows[row]).empty() ? 0 : linesFor(program, row);
             }
             std::vector<std::vector<double>> taken(programs.size());
             for (int round = 0; round < rounds; ++round) {
                 for (std::size_t program = 0; program < programs.size(); ++program) {
-                    if (inputs[program]) {
-                        taken[program].push_back(secondsOf(commandFor(program, row), *inputs[program]));
+                    if (lines[program] != 0) {
+                        taken[program].push_back(secondsWithoutStart(program, row, lines[program]) /
+                                                 static_cast<double>(lines[program]));
                     }
                 }
             }
-            seconds.emplace_back();
-            for (std::size_t program = 0; program < programs.size(); ++program) {
-                const auto lines = static_cast<double>(programs[program].lines);
-                seconds.back().push_back(taken[program].empty() ? 0
-                                                                : (median(taken[program]) - starts[program]) / lines);
-            }
+            std::transform(taken.begin(), taken.end(), seconds[row].begin(),
+                           [](const std::vector<double>& times) { return times.empty() ? 0 : fastest(times); });
         }
     }
 

@@ -45,9 +45,7 @@ inline char markCharacter(TokenClass tokenClass) {
 /// The class of each character that the table has one for, None for every other. Follows the table.
 extern std::array<TokenClass, 256> characterClasses;
 
-inline TokenClass classOfCharacter(char character) {
-    return characterClasses[static_cast<unsigned char>(character)];
-}
+inline TokenClass classOfCharacter(char character) { return characterClasses[static_cast<unsigned char>(character)]; }
 
 /// Puts a character into the table for a class. Refused silently, the table staying as it was, when the character
 /// already stands anywhere else in the table: a mark can never be a digit, a letter, an operator or the other mark.

@@ -292,7 +292,8 @@ void NumberWriter::writeFraction(Real magnitude, bool negative) {
         }
         appendPrefix();
         // Under Rational a whole number is a numerator without its denominator.
-        appendWhole(whole != 0 ? digits.text() : "0", rational ? style.has('F') : style.has('W'), style.groupSize, text);
+        appendWhole(whole != 0 ? digits.text() : "0", rational ? style.has('F') : style.has('W'), style.groupSize,
+                    text);
         if (isWhole) {
             return;
         }
