@@ -30,7 +30,7 @@ private:
 
 }  // namespace
 
-void checkButtonAction(FuzzInput input) {
+void check(FuzzInput input) {
     InputReader reader(input);
     const auto panels = panelCatalogue();
     const PanelEntry& panel = panels[reader.byte() % panels.size()];

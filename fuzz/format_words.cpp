@@ -33,7 +33,7 @@ bool keepsSignificantDigits(NumericFormat word) {
 
 }  // namespace
 
-void checkFormatWord(FuzzInput input) {
+void check(FuzzInput input) {
     InputReader reader(input);
     const NumericFormat word = wordFrom(reader);
     const std::uint32_t base = reader.between(2, 36);

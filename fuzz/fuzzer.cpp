@@ -1,7 +1,7 @@
-// The entry of libFuzzer, for the one target that CALQUO_FUZZ_TARGET names.
+// The entry of libFuzzer.
 #include "targets.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    calquo::CALQUO_FUZZ_TARGET({data, size});
+    calquo::check({data, size});
     return 0;
 }

@@ -38,7 +38,7 @@ void checkReadBack(const std::string& line) {
 
 }  // namespace
 
-void checkLine(FuzzInput input) {
+void check(FuzzInput input) {
     InputReader reader(input);
     const auto word = static_cast<NumericFormat>(reader.number(4));
     const std::string line = reader.text();

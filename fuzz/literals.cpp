@@ -72,7 +72,7 @@ Real referenceOf(const Parts& parts) {
 
 }  // namespace
 
-void checkLiteral(FuzzInput input) {
+void check(FuzzInput input) {
     InputReader reader(input);
     Parts parts;
     parts.base = reader.between(2, 36);

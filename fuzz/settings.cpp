@@ -49,7 +49,7 @@ void checkUsable(const Settings& settings) {
 
 }  // namespace
 
-void checkSettings(FuzzInput input) {
+void check(FuzzInput input) {
     InputReader reader(input);
     MemoryStorage storage;
     for (const wchar_t* const name : names) {

@@ -1,4 +1,5 @@
-// What is fuzzed: properties that hold for any input whatever, each under the name of its corpus.
+// What the targets share. A target is a property that holds for any input whatever, in a file of its own that is named
+// as its corpus is.
 #pragma once
 
 #include <algorithm>
@@ -11,24 +12,8 @@ namespace calquo {
 
 using FuzzInput = std::span<const std::uint8_t>;
 
-/// Holds one input against the target's property; a fault ends the program.
-using FuzzCheck = void (*)(FuzzInput);
-
-struct FuzzTarget {
-    const char* name;
-    FuzzCheck check;
-};
-
-void checkLine(FuzzInput input);
-void checkLiteral(FuzzInput input);
-void checkFormatWord(FuzzInput input);
-void checkSettings(FuzzInput input);
-void checkButtonAction(FuzzInput input);
-
-inline constexpr FuzzTarget fuzzTargets[] = {
-    {"lines", checkLine},        {"literals", checkLiteral},     {"format_words", checkFormatWord},
-    {"settings", checkSettings}, {"buttons", checkButtonAction},
-};
+/// Holds one input against the target's property; a fault ends the program. Each target's file defines its own.
+void check(FuzzInput input);
 
 /// Says what is wrong and aborts.
 [[noreturn]] void reportFault(const std::string& fault);
