@@ -129,7 +129,9 @@ void DigitBuffer::increment(std::uint32_t base) {
 }
 
 int leadingPlace(Real x, std::uint32_t base) {
-    return static_cast<int>(std::floor(std::log2(x) / std::log2(static_cast<Real>(base))));
+    const Real logarithm = std::log2(x) / std::log2(static_cast<Real>(base));
+    // More than what the three roundings can have added.
+    return static_cast<int>(std::floor(logarithm - std::fabs(logarithm) * 0x1p-60L));
 }
 
 void roundedDigits(Real x, std::uint32_t base, int places, DigitBuffer& digits) {

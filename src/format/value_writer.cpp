@@ -101,12 +101,10 @@ int limitedDigits(Real x, const Style& style, int fractionalDigits, int signific
     for (;;) {
         roundedDigits(x, style.base, places, digits);
         const int excess = digits.count() - significantDigits;
-        const int better = std::min(places - excess, fractionalDigits);
-        // One digit too few may also mean that the estimate of the leading place was too high.
-        if (excess <= 0 && (excess == 0 || places == fractionalDigits || better == places)) {
+        if (excess <= 0) {
             return places;
         }
-        places = better;
+        places -= excess;
     }
 }
 
@@ -235,7 +233,7 @@ void NumberWriter::writeScientific(Real magnitude, bool negative) {
     if (magnitude != 0) {
         exponent = leadingPlace(magnitude, style.base);
         roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
-        // The estimate was off by one, or the rounding carried into a new leading digit.
+        // The estimate was too low, or the rounding carried into a new leading digit.
         while (digits.count() != significant) {
             exponent += digits.count() - significant;
             roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
