@@ -1,14 +1,22 @@
-// accuracy_table COUNT LINES NAME ANSWERS...: reads the lines of accuracy_lines and the answers of one or more builds,
-// holds them against MPFR, and prints a Markdown table of the largest errors in units in the last place.
+// accuracy_table TABLE COUNT LINES [NAME ANSWERS]...: holds the answers of one or more builds to the lines of
+// accuracy_lines COUNT against exact values, and prints one of the Markdown tables: functions, literals or formats.
+// LINES and ANSWERS are folders.
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "formats.h"
 #include "functions.h"
+#include "questions.h"
+#include "support/numeral.h"
+#include "support/written_fraction.h"
+#include "support/written_number.h"
 
 namespace {
 
@@ -16,40 +24,65 @@ using namespace calquo;
 
 struct Build {
     std::string name;
-    std::ifstream answers;
+    std::filesystem::path answers;
 };
 
-std::string nextLine(std::ifstream& file) {
-    std::string line;
-    if (!std::getline(file, line)) {
-        throw std::runtime_error("a file has fewer lines than there are functions");
-    }
-    if (!line.empty() && line.back() == '\r') {
-        line.pop_back();
-    }
-    return line;
-}
+/// What a table is made from.
+struct Sources {
+    int count;
+    std::filesystem::path lines;
+    std::vector<Build> builds;
+};
 
-/// Reads a number that is written as "-16'1.8@-3"; digits of the exponent are of base 16 too. Of a complex value,
-/// "(re; im)", the real part counts: the other is a residue of rounding.
-void read(const std::string& answer, mpfr_ptr number) {
-    const std::string text = answer.substr(0, answer.find(';'));
-    const std::size_t prefix = text.find("16'");
-    if (prefix == std::string::npos) {
-        throw std::runtime_error("no number: " + answer);
+/// The lines of one file, with what each build answers.
+class Questions {
+public:
+    Questions(const Sources& sources, const std::string& file) : lines_(sources.lines / file) {
+        for (const Build& build : sources.builds) {
+            files_.emplace_back(build.answers / file);
+        }
+        answers.resize(files_.size());
     }
-    const std::size_t mark = text.find('@');
-    const std::string digits = text.substr(prefix + 3, mark == std::string::npos ? mark : mark - prefix - 3);
-    const long exponent = mark == std::string::npos ? 0 : std::strtol(text.c_str() + mark + 1, nullptr, 16);
-    mpfr_set_str(number, (digits + "@" + std::to_string(exponent)).c_str(), 16, MPFR_RNDN);
-    if (text.substr(0, prefix).find('-') != std::string::npos) {
-        mpfr_neg(number, number, MPFR_RNDN);
+
+    /// The next line; false when there are no more.
+    bool next() {
+        if (!std::getline(lines_, line)) {
+            return false;
+        }
+        for (std::size_t build = 0; build < answers.size(); ++build) {
+            if (!std::getline(files_[build], answers[build])) {
+                throw std::runtime_error("no answer to " + line);
+            }
+            if (answers[build].ends_with('\r')) {
+                answers[build].pop_back();
+            }
+        }
+        return true;
     }
+
+    std::string line;
+    std::vector<std::string> answers;
+
+private:
+    std::ifstream lines_;
+    std::vector<std::ifstream> files_;
+};
+
+void printHeading(const std::string& columns, const Sources& sources) {
+    std::string heading = "| " + columns + " |";
+    for (const Build& build : sources.builds) {
+        heading += " " + build.name + " |";
+    }
+    std::printf("%s\n|", heading.c_str());
+    for (auto bars = std::count(heading.begin(), heading.end(), '|'); bars > 1; --bars) {
+        std::printf("---|");
+    }
+    std::printf("\n");
 }
 
 /// |answer - exact| in units of the last of 64 bits of the exact value.
 double errorOf(mpfr_srcptr answer, mpfr_srcptr exact) {
-    constexpr mpfr_exp_t mantissaBits = 64, lowestBit = -16445;
+    constexpr mpfr_exp_t mantissaBits = 64, lowestBit = ExtendedBits::smallestExponent;
     BigFloat difference;
     mpfr_sub(difference.get(), answer, exact, MPFR_RNDN);
     const mpfr_exp_t unit =
@@ -58,27 +91,32 @@ double errorOf(mpfr_srcptr answer, mpfr_srcptr exact) {
     return std::abs(mpfr_get_d(difference.get(), MPFR_RNDN));
 }
 
-void printRow(const MeasuredFunction& function, int count, std::ifstream& lines, std::vector<Build>& builds) {
-    std::vector<double> worst(builds.size());
-    std::vector<std::string> where(builds.size());
-    for (int i = 0; i < count; ++i) {
-        const std::string line = nextLine(lines);
+/// Of a complex value, "(re; im)", the real part counts: the other is a residue of rounding.
+void readAnswer(const std::string& answer, mpfr_ptr number) {
+    setTo(number, numeralFrom(answer.substr(answer.starts_with('(') ? 1 : 0)));
+}
+
+void printFunction(const MeasuredFunction& function, Questions& questions, const Sources& sources) {
+    std::vector<double> worst(sources.builds.size());
+    std::string where;
+    for (int i = 0; i < sources.count && questions.next(); ++i) {
+        const std::string& line = questions.line;
         const std::size_t open = line.find('(') + 1;
         const std::size_t semicolon = line.find(';');
         const std::size_t close = line.find(')');
         BigFloat x, y, exact;
-        read(line.substr(open, std::min(semicolon, close) - open), x.get());
+        setTo(x.get(), numeralFrom(line.substr(open, std::min(semicolon, close) - open)));
         if (function.hasTwoArguments) {
-            read(line.substr(semicolon + 1, close - semicolon - 1), y.get());
+            setTo(y.get(), numeralFrom(line.substr(semicolon + 2, close - semicolon - 2)));
         }
         function.exact(exact.get(), x.get(), y.get());
-        for (std::size_t build = 0; build < builds.size(); ++build) {
+        for (std::size_t build = 0; build < worst.size(); ++build) {
             BigFloat answer;
-            read(nextLine(builds[build].answers), answer.get());
+            readAnswer(questions.answers[build], answer.get());
             const double error = errorOf(answer.get(), exact.get());
             if (error > worst[build]) {
                 worst[build] = error;
-                where[build] = line;
+                where = line;
             }
         }
     }
@@ -88,35 +126,125 @@ void printRow(const MeasuredFunction& function, int count, std::ifstream& lines,
         std::printf(" %.3f |", error);
     }
     std::printf("\n");
-    std::fprintf(stderr, "%s: worst at %s\n", std::string(function.name).c_str(), where.front().c_str());
+    std::fprintf(stderr, "%s: worst at %s\n", std::string(function.name).c_str(), where.c_str());
 }
+
+void printFunctions(const Sources& sources) {
+    printHeading("function | arguments", sources);
+    Questions questions(sources, fileName(functionsName, exactWord));
+    for (const MeasuredFunction& function : measuredFunctions()) {
+        printFunction(function, questions, sources);
+    }
+}
+
+/// The wrong answers of one build in a row of a table.
+struct WrongAnswers {
+    int count = 0;
+    double largestError = 0;  ///< Of all answers, wrong or not.
+};
+
+/// The rows of a table that has one for each of the everyday bases and one for all others.
+class RowsOfBases {
+public:
+    explicit RowsOfBases(const Sources& sources) { rows_.fill(std::vector<WrongAnswers>(sources.builds.size())); }
+
+    void add(std::uint32_t base, std::size_t build, const WrittenError& error, const Questions& questions) {
+        WrongAnswers& wrong = rows_[rowOfBase(base)][build];
+        wrong.largestError = std::max(wrong.largestError, error.units);
+        if (error.isWrong) {
+            ++wrong.count;
+            std::fprintf(stderr, "wrong: %s = %s\n", questions.line.c_str(), questions.answers[build].c_str());
+        }
+    }
+
+    void print(const std::string& firstColumn, bool hasErrors) const {
+        for (std::size_t row = 0; row < baseRows; ++row) {
+            const std::string base = row < std::size(everydayBases) ? std::to_string(everydayBases[row]) : "others";
+            std::printf("| %s%s |", firstColumn.c_str(), base.c_str());
+            for (const WrongAnswers& wrong : rows_[row]) {
+                std::printf(" %d", wrong.count);
+                if (hasErrors) {
+                    std::printf(", %.3f", wrong.largestError);
+                }
+                std::printf(" |");
+            }
+            std::printf("\n");
+        }
+    }
+
+private:
+    std::array<std::vector<WrongAnswers>, baseRows> rows_;
+};
+
+void printLiterals(const Sources& sources) {
+    printHeading("base", sources);
+    RowsOfBases rows(sources);
+    Questions questions(sources, fileName(literalsName, exactWord));
+    while (questions.next()) {
+        const Numeral literal = numeralFrom(questions.line.substr(0, questions.line.find(' ')));
+        BigFloat exact, nearest, answer;
+        setTo(exact.get(), literal);
+        mpfr_set_ld(nearest.get(), nearestReal(literal), MPFR_RNDN);
+        for (std::size_t build = 0; build < sources.builds.size(); ++build) {
+            readAnswer(questions.answers[build], answer.get());
+            const bool isWrong = mpfr_equal_p(answer.get(), nearest.get()) == 0;
+            rows.add(literal.base, build, {isWrong, errorOf(answer.get(), exact.get())}, questions);
+        }
+    }
+    rows.print("", true);
+}
+
+void addNumbers(const CheckedFormat& format, NumericFormat word, const Sources& sources, RowsOfBases& rows) {
+    Questions questions(sources, fileName(format.name(), word));
+    while (questions.next()) {
+        // "NUMBER 'BASE"
+        const std::size_t blank = questions.line.find(' ');
+        const auto base = static_cast<std::uint32_t>(std::stoul(questions.line.substr(blank + 2)));
+        BigFloat x;
+        setTo(x.get(), numeralFrom(questions.line.substr(0, blank)));
+        for (std::size_t build = 0; build < sources.builds.size(); ++build) {
+            const std::string& text = questions.answers[build];
+            const WrittenError error = format.writesFractions()
+                                           ? WrittenError{!isClosestFraction(text, x.get(), word, base), 0}
+                                           : errorOfWritten(text, x.get(), word, base);
+            rows.add(base, build, error, questions);
+        }
+    }
+}
+
+void printFormats(const Sources& sources) {
+    printHeading("format | base", sources);
+    for (const CheckedFormat& format : checkedFormats()) {
+        RowsOfBases rows(sources);
+        for (const NumericFormat word : format.words) {
+            addNumbers(format, word, sources, rows);
+        }
+        rows.print(std::string(format.name()) + " | ", !format.writesFractions());
+    }
+}
+
+struct Table {
+    std::string_view name;
+    void (*print)(const Sources&);
+};
+
+constexpr Table tables[] = {{"functions", printFunctions}, {"literals", printLiterals}, {"formats", printFormats}};
 
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count < 5 || count % 2 == 0) {
-        std::fprintf(stderr, "usage: accuracy_table COUNT LINES NAME ANSWERS...\n");
+    const auto* const table = std::find_if(std::begin(tables), std::end(tables),
+                                           [&](const Table& row) { return count > 1 && row.name == arguments[1]; });
+    if (count < 6 || count % 2 != 0 || table == std::end(tables)) {
+        std::fprintf(stderr, "usage: accuracy_table functions|literals|formats COUNT LINES NAME ANSWERS...\n");
         return 2;
     }
-    // Arguments and results as small as denormals, and what compositions need in between.
-    mpfr_set_emin(-100000);
-    mpfr_set_emax(100000);
-    std::ifstream lines(arguments[2]);
-    std::vector<Build> builds;
-    std::printf("| function | arguments |");
-    for (int i = 3; i < count; i += 2) {
-        builds.push_back({arguments[i], std::ifstream(arguments[i + 1])});
-        std::printf(" %s |", arguments[i]);
+    Sources sources{static_cast<int>(std::strtol(arguments[2], nullptr, 10)), arguments[3], {}};
+    for (int i = 4; i < count; i += 2) {
+        sources.builds.push_back({arguments[i], arguments[i + 1]});
     }
-    std::printf("\n|---|---|");
-    for (std::size_t build = 0; build < builds.size(); ++build) {
-        std::printf("---|");
-    }
-    std::printf("\n");
     try {
-        for (const MeasuredFunction& function : measuredFunctions()) {
-            printRow(function, static_cast<int>(std::strtol(arguments[1], nullptr, 10)), lines, builds);
-        }
+        table->print(sources);
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "accuracy_table: %s\n", fault.what());
         return 1;

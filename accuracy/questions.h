@@ -1,0 +1,25 @@
+// The files of lines that calq answers, each under a word of its own.
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "format/numeric_format.h"
+
+namespace calquo {
+
+/// The same for the lines and for the answers: a name, and the word in hexadecimal digits.
+inline std::string fileName(std::string_view name, NumericFormat word) {
+    char digits[9];
+    std::snprintf(digits, sizeof digits, "%08X", word);
+    return std::string(name) + "-" + digits;
+}
+
+inline constexpr std::string_view functionsName = "functions";
+inline constexpr std::string_view literalsName = "literals";
+
+/// For exact answers in base 16: Scientific, with all the digits that the word has room for.
+inline constexpr NumericFormat exactWord = std::uint32_t{1} << 28 | field::significantDigits;
+
+}  // namespace calquo
