@@ -99,7 +99,10 @@ void readAnswer(const std::string& answer, mpfr_ptr number) {
 void printFunction(const MeasuredFunction& function, Questions& questions, const Sources& sources) {
     std::vector<double> worst(sources.builds.size());
     std::string where;
-    for (int i = 0; i < sources.count && questions.next(); ++i) {
+    for (int i = 0; i < sources.count; ++i) {
+        if (!questions.next()) {
+            throw std::runtime_error("there are fewer lines than functions to ask for");
+        }
         const std::string& line = questions.line;
         const std::size_t open = line.find('(') + 1;
         const std::size_t semicolon = line.find(';');
@@ -137,22 +140,26 @@ void printFunctions(const Sources& sources) {
     }
 }
 
-/// The wrong answers of one build in a row of a table.
-struct WrongAnswers {
+/// The answers of one build in a row of a table.
+struct AnswersOfRow {
     int count = 0;
+    int wrong = 0;
     double largestError = 0;  ///< Of all answers, wrong or not.
 };
 
 /// The rows of a table that has one for each of the everyday bases and one for all others.
 class RowsOfBases {
 public:
-    explicit RowsOfBases(const Sources& sources) { rows_.fill(std::vector<WrongAnswers>(sources.builds.size())); }
+    explicit RowsOfBases(const Sources& sources) : fewest_(sources.count) {
+        rows_.fill(std::vector<AnswersOfRow>(sources.builds.size()));
+    }
 
     void add(std::uint32_t base, std::size_t build, const WrittenError& error, const Questions& questions) {
-        WrongAnswers& wrong = rows_[rowOfBase(base)][build];
-        wrong.largestError = std::max(wrong.largestError, error.units);
+        AnswersOfRow& answers = rows_[rowOfBase(base)][build];
+        ++answers.count;
+        answers.largestError = std::max(answers.largestError, error.units);
         if (error.isWrong) {
-            ++wrong.count;
+            ++answers.wrong;
             std::fprintf(stderr, "wrong: %s = %s\n", questions.line.c_str(), questions.answers[build].c_str());
         }
     }
@@ -161,10 +168,13 @@ public:
         for (std::size_t row = 0; row < baseRows; ++row) {
             const std::string base = row < std::size(everydayBases) ? std::to_string(everydayBases[row]) : "others";
             std::printf("| %s%s |", firstColumn.c_str(), base.c_str());
-            for (const WrongAnswers& wrong : rows_[row]) {
-                std::printf(" %d", wrong.count);
+            for (const AnswersOfRow& answers : rows_[row]) {
+                if (answers.count < fewest_) {
+                    throw std::runtime_error("there are fewer lines than asked for");
+                }
+                std::printf(" %d", answers.wrong);
                 if (hasErrors) {
-                    std::printf(", %.3f", wrong.largestError);
+                    std::printf(", %.3f", answers.largestError);
                 }
                 std::printf(" |");
             }
@@ -173,7 +183,8 @@ public:
     }
 
 private:
-    std::array<std::vector<WrongAnswers>, baseRows> rows_;
+    int fewest_;
+    std::array<std::vector<AnswersOfRow>, baseRows> rows_;
 };
 
 void printLiterals(const Sources& sources) {
