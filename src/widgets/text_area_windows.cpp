@@ -124,6 +124,41 @@ private:
     HWND window_;
 };
 
+/// Whether the whole text shows in the window, scrolled or not.
+bool fits(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    POINTL first{}, last{};
+    SendMessageW(window, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&first), 0);
+    SendMessageW(window, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), lengthOf(window));
+    return last.y - first.y < client.bottom;
+}
+
+/// Shows the scroll bar in front of a text that will need it. When the bar takes its room behind the text, the control
+/// breaks all lines a second time, which in Wine's takes the square of their number where some are wrapped.
+class EarlyScrollBar {
+public:
+    EarlyScrollBar(HWND window, std::size_t bytes) : window_(window), isShown_(bytes >= much) {
+        if (isShown_) {
+            ShowScrollBar(window_, SB_VERT, TRUE);
+        }
+    }
+    ~EarlyScrollBar() {
+        // Many bytes may show little.
+        if (isShown_ && fits(window_)) {
+            ShowScrollBar(window_, SB_VERT, FALSE);
+        }
+    }
+    EarlyScrollBar(const EarlyScrollBar&) = delete;
+    EarlyScrollBar& operator=(const EarlyScrollBar&) = delete;
+
+private:
+    static constexpr std::size_t much = 20'000;
+
+    HWND window_;
+    bool isShown_;
+};
+
 }  // namespace
 
 /// Which member hears which message.
@@ -329,6 +364,7 @@ bool TextArea::replaceContentByPlainText(std::wstring_view text) {
 
 bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
     const PaintingPause pause(handle());
+    const EarlyScrollBar scrollBar(handle(), bytes.size());
     const TextRange before = selection();
     const bool wasEmpty = lengthOf(handle()) == 0;
     // In place of a selection, the stream is one step for undo and takes its look from the first character.

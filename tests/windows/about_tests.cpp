@@ -103,6 +103,7 @@ TEST(About, IsOneWindowThatClosesInEveryWayAndLeavesNothingBehind) {
     }
     EXPECT_EQ(heldResources().drawingObjects, before.drawingObjects);
     EXPECT_EQ(heldResources().windows, before.windows);
+    EXPECT_EQ(heldResources().allocations, before.allocations);
 }
 
 }  // namespace

@@ -172,6 +172,7 @@ TEST(PanelButtons, OpeningAndClosingEveryPanelLeavesNothingBehind) {
     const Resources after = heldResources();
     EXPECT_LE(after.drawingObjects, before.drawingObjects + ofTheSystem);
     EXPECT_EQ(after.windows, before.windows);
+    EXPECT_LT(after.allocations, before.allocations + 100) << "less than one for two rounds";
 }
 
 TEST(PanelButtons, PaintingEveryPanelLeavesNothingBehind) {

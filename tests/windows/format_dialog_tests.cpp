@@ -406,6 +406,7 @@ TEST(FormatDialog, LeavesNothingBehind) {
     }
     EXPECT_EQ(heldResources().drawingObjects, before.drawingObjects);
     EXPECT_EQ(heldResources().windows, before.windows);
+    EXPECT_EQ(heldResources().allocations, before.allocations);
 }
 
 }  // namespace

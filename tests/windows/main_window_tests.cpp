@@ -7,8 +7,10 @@
 #include <cstring>
 #include <string>
 
+#include "file_folder.h"
 #include "panels/catalogue.h"
 #include "program.h"
+#include "resources.h"
 #include "shell/command_ids.h"
 #include "widgets/button.h"
 #include "widgets/toolkit.h"
@@ -300,6 +302,39 @@ TEST(Commands, UnknownOnesAndThoseOfControlsDoNothing) {
     }
     EXPECT_EQ(program.text(), L"2+3");
     expectLaidOut(program, {});
+}
+
+/// Opens what there is to be opened, and ends with all of it open.
+void live() {
+    const FileFolder folder;
+    MemoryStorage storage;
+    storage.values[L"Default File"] = folder.path(L"sheet.rtf");
+    Program program(storage, {[](WindowHandle, const BoxText&) { return BoxAnswer::Cancel; },
+                              [](WindowHandle, const FileRequest&) { return FileChoice{}; }});
+    for (const unsigned panel : {basicKeypad, angles, lengths}) {
+        program.command(panel);
+        Program::click(program.buttonsOf(panel).front());
+    }
+    for (const wchar_t* const line : {L"fact(20)/7", L"2+"}) {
+        program.setText(line);
+        SendMessageW(program.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+        SendMessageW(program.workArea(), WM_KEYDOWN, VK_F9, 1);
+    }
+    program.command(identifierOf(Command::SaveDefaultFile));
+    program.command(identifierOf(Command::ReadDefaultFile));
+    folder.put(L"sheet.rtf", "no rich text");
+    program.command(identifierOf(Command::ReadDefaultFile));
+    program.command(identifierOf(Command::About));
+    program.command(modifyFormatCommands.first);
+}
+
+TEST(MainWindow, LeavesNoMemoryBehind) {
+    live();  // what is made once and kept
+    const Resources before = heldResources();
+    live();
+    const Resources after = heldResources();
+    EXPECT_EQ(after.allocations, before.allocations);
+    EXPECT_EQ(after.windows, before.windows);
 }
 
 }  // namespace

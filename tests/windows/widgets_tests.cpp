@@ -15,6 +15,7 @@
 #include "widgets/label.h"
 #include "widgets/radio_button.h"
 #include "widgets/selector.h"
+#include "widgets/text_area.h"
 #include "widgets/toolkit.h"
 
 namespace calquo {
@@ -353,12 +354,48 @@ TEST(Label, ShowsAllOfItsText) {
     }
 }
 
+bool hasScrollBar(const Component& component) {
+    return (GetWindowLongW(component.handle(), GWL_STYLE) & WS_VSCROLL) != 0;
+}
+
+TEST(TextArea, HasItsScrollBarBeforeALongTextIsBrokenIntoLines) {
+    const Program program;
+    const std::string hidden = "{\\rtf1{\\info " + std::string(50'000, 'x') + "}2+3}";
+    int width = 0;
+    std::vector<LRESULT> lengths;  // of the text, when the bar took its room
+    const auto noteRoom = [&](const Message& message) -> std::optional<MessageAnswer> {
+        if (const HWND window = FindWindowExW(program.handle(), program.workArea(), L"RichEdit20A", nullptr);
+            message.code == WM_WINDOWPOSCHANGED && sizeOf(window).width < width) {
+            width = sizeOf(window).width;
+            lengths.push_back(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
+        }
+        return std::nullopt;
+    };
+    TextArea area(program.handle(), 1, {}, nullptr, noteRoom);
+    area.moveTo({0, 0, 300, 200});
+    width = sizeOf(area.handle()).width;
+    std::wstring text;
+    for (int line = 0; line < 5000; ++line) {
+        text += L"2+3*4 = 14\r";
+    }
+    EXPECT_FALSE(hasScrollBar(area));
+    EXPECT_TRUE(area.replaceContentByPlainText(text));
+    EXPECT_TRUE(hasScrollBar(area));
+    EXPECT_EQ(lengths, std::vector<LRESULT>{0});
+    TextArea other(program.handle(), 1, {}, nullptr, nullptr);
+    other.moveTo({0, 0, 300, 200});
+    EXPECT_TRUE(other.replaceContentByRichText(hidden));
+    EXPECT_FALSE(hasScrollBar(other)) << "many bytes that show little";
+}
+
 TEST(Resources, AreSeenOneByOne) {
     const Program program;  // with the thread's first window the system makes some of its own
     const Resources before = heldResources();
     const FontOwner font(CreateFontW(10, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"Arial"));
     const WindowOwner window(
         CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+    const std::string text(1000, '=');
+    EXPECT_EQ(heldResources().allocations, before.allocations + 1) << text;
     EXPECT_EQ(heldResources().windows, before.windows + 1);
     EXPECT_GE(heldResources().drawingObjects, before.drawingObjects + 1);
 }
