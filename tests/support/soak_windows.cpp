@@ -83,7 +83,7 @@ public:
         } else {
             SendMessageW(program_.workArea(), EM_UNDO, 0, 0);
         }
-        constexpr LRESULT longSheet = 20000;
+        constexpr LRESULT longSheet = 3000;  // characters
         if (SendMessageW(program_.workArea(), WM_GETTEXTLENGTH, 0, 0) > longSheet) {
             program_.command(identifierOf(Command::ClearWorkArea));
         }
@@ -113,6 +113,12 @@ private:
     }
 
     void evaluate() {
+        if (below(3) == 0) {
+            // Away from what the line before has carried on, or from its error, which would stay in a growing line.
+            constexpr WPARAM end = 0x7FFFFFFF;
+            SendMessageW(program_.workArea(), EM_SETSEL, end, static_cast<LPARAM>(end));
+            SendMessageW(program_.workArea(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\n"));
+        }
         std::string line = operand();
         for (std::uint32_t count = below(5); count > 0; --count) {
             line += "+-*/^;"[below(6)];
@@ -171,15 +177,18 @@ bool hasGrown(const Checkpoint& first, const Checkpoint& last) {
     constexpr int cachedContexts = 64;
     constexpr double noticeableMegabytes = 2;
     constexpr double noticeableSlowness = 3;  // on a machine with other work
+    // What is made once and kept, like a longer text of the settings.
+    constexpr int noticeableAllocations = 20;
     return last.held.drawingObjects > first.held.drawingObjects + cachedContexts ||
+           last.held.allocations > first.held.allocations + noticeableAllocations ||
            last.held.windows > first.held.windows || last.megabytes > first.megabytes + noticeableMegabytes ||
            last.millisecondsForALine > first.millisecondsForALine * noticeableSlowness;
 }
 
 int run(int steps, std::uint32_t seed) {
     constexpr int parts = 10;
-    std::printf("%d steps, seed %u\n%10s %10s %10s %10s %10s\n", steps, static_cast<unsigned>(seed), "steps",
-                "ms a line", "MB", "drawing", "windows");
+    std::printf("%d steps, seed %u\n%10s %10s %10s %12s %10s %10s\n", steps, static_cast<unsigned>(seed), "steps",
+                "ms a line", "MB", "allocations", "drawing", "windows");
     Day day(seed);
     std::vector<Checkpoint> checkpoints;
     for (int part = 0; part < parts; ++part) {
@@ -187,8 +196,8 @@ int run(int steps, std::uint32_t seed) {
             day.step();
         }
         const Checkpoint now = day.rest();
-        std::printf("%10d %10.2f %10.1f %10d %10d\n", steps / parts * (part + 1), now.millisecondsForALine,
-                    now.megabytes, now.held.drawingObjects, now.held.windows);
+        std::printf("%10d %10.2f %10.1f %12d %10d %10d\n", steps / parts * (part + 1), now.millisecondsForALine,
+                    now.megabytes, now.held.allocations, now.held.drawingObjects, now.held.windows);
         std::fflush(stdout);
         checkpoints.push_back(now);
     }
