@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <functional>
 
 #include "desk.h"
@@ -72,6 +73,11 @@ TEST(WorkAreaSpeed, EnterDoesNotSlowDownWithTheLength) {
         }
     }
     const double few = median(desks[0].enter);
+    std::printf(
+        "Enter at 10,000 lines takes %.2f times, at 100,000 lines %.2f times that at 40 lines; a character %.2f and "
+        "%.2f times.\n",
+        median(desks[1].enter) / few, median(desks[2].enter) / few, median(desks[1].typing) / median(desks[0].typing),
+        median(desks[2].typing) / median(desks[0].typing));
     EXPECT_LT(median(desks[1].enter), 2 * few);
     // Wine's control walks from the text's start to find a place, and to paint: a typed character shows what that
     // costs. An Enter may search twice more, for its line and its result.
