@@ -39,9 +39,11 @@ inline bool isClosest(const mpq_class& fraction, const mpq_class& x, const mpz_c
     return q <= limit && distance <= abs(x - before) && distance <= abs(x - behind);
 }
 
+/// Without a sign. Throws std::runtime_error for anything else.
 inline mpz_class wholeNumber(std::string_view text, std::uint32_t base) {
     const Numeral numeral = numeralFrom(text);
-    if (numeral.base != base || !numeral.fraction.empty() || numeral.exponent != 0) {
+    const bool hasSign = text.starts_with('-') || text.starts_with('+');
+    if (hasSign || numeral.base != base || !numeral.fraction.empty() || numeral.exponent != 0) {
         throw std::runtime_error("no whole number in base " + std::to_string(base) + ": " + std::string(text));
     }
     return mpz_class(numeral.whole, static_cast<int>(base));
@@ -58,8 +60,12 @@ inline bool isClosestFraction(std::string_view text, mpfr_srcptr x, NumericForma
     limit = std::min(mpz_class(std::max(mpz_class(limit - 1), mpz_class(1))), mpz_class((mpz_class(1) << 127) - 1));
 
     const bool isNegative = text.starts_with('-');
+    text = text.substr(isNegative || text.starts_with('+') ? 1 : 0);
     const std::size_t blank = text.find(' ');
     const std::size_t slash = text.find('/');
+    if (blank != std::string_view::npos && slash == std::string_view::npos) {
+        return false;
+    }
     mpz_class whole = 0, numerator = 0, denominator = 1;
     if (slash == std::string_view::npos || blank != std::string_view::npos) {
         whole = wholeNumber(text.substr(0, blank), base);

@@ -114,14 +114,16 @@ inline WrittenError errorOfWritten(std::string_view text, mpfr_srcptr x, Numeric
     mpfr_round(rounded.get(), exact.get());
 
     const Numeral numeral = numeralFrom(text);
-    Numeral digits{base, false, numeral.whole + numeral.fraction, "", 0};
+    Numeral digits{base, false, numeral.whole + numeral.fraction, "", 0, 0};
     setTo(written.get(), digits);
     shift(written.get(), base, last.place + numeral.exponent - static_cast<long>(numeral.fraction.size()));
 
     WrittenError error;
     const bool hasForm = last.isScientific ? numeral.whole.size() == 1 && numeral.whole != "0" : numeral.exponent == 0;
     const bool hasSign = numeral.negative == (isNegative && mpfr_zero_p(rounded.get()) == 0);
-    error.isWrong = numeral.base != base || !hasForm || !hasSign || mpfr_equal_p(written.get(), rounded.get()) == 0;
+    const bool hasGroups = numeral.groupSize == 0 || numeral.groupSize == getField(word, field::groupSize);
+    error.isWrong =
+        numeral.base != base || !hasForm || !hasGroups || !hasSign || mpfr_equal_p(written.get(), rounded.get()) == 0;
     mpfr_sub(exact.get(), written.get(), exact.get(), MPFR_RNDN);
     error.units = std::fabs(mpfr_get_d(exact.get(), MPFR_RNDN));
     return error;
