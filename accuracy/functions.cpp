@@ -1,5 +1,5 @@
-// The table. The ranges leave out where a value is complex or not finite, and where the function's formula cancels:
-// small arguments of sinH = (e^x - e^-x)/2 and its kin, and the poles of tan = sin 2x / (cos 2x + 1).
+// The tables. The first one's ranges leave out where a value is complex or not finite, and where the function's formula
+// cancels, which is what the other table has.
 #include "functions.h"
 
 #include <vector>
@@ -38,23 +38,23 @@ void logarithmToBase(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr base) {
 }
 
 constexpr Range everywhere{-16000, 16000};
-constexpr Range positive{-16000, 16000, false};
+constexpr Range positive{-16000, 16000, Sign::Positive};
 constexpr Range everyday{-4, 7};
-constexpr Range squaresStayFinite{1, 8000, false};
+constexpr Range squaresStayFinite{1, 8000, Sign::Positive};
 
-std::vector<MeasuredFunction> makeTable() {
+std::vector<MeasuredFunction> makeMeasured() {
     return {
         {"sqrt", positive, of(mpfr_sqrt)},
         {"cbrt", positive, of(mpfr_cbrt)},
         {"exp", {-4, 13}, of(mpfr_exp)},
         {"ln", positive, of(mpfr_log)},
-        {"ln", {-2, 1, false}, of(mpfr_log)},
+        {"ln", {-2, 1, Sign::Positive}, of(mpfr_log)},
         {"lg", positive, of(mpfr_log2)},
         {"log", positive, of(mpfr_log10)},
-        {"log", {-2, 1, false}, of(mpfr_log10)},
-        {"logB", positive, logarithmToBase, {1, 100, false}, true},
-        {"pow", {-100, 100, false}, power, {-40, 7}, true},
-        {"root", positive, root, {1, 6, false}, true},
+        {"log", {-2, 1, Sign::Positive}, of(mpfr_log10)},
+        {"logB", positive, logarithmToBase, {1, 100, Sign::Positive}, true},
+        {"pow", {-100, 100, Sign::Positive}, power, {-40, 7}, true},
+        {"root", positive, root, {1, 6, Sign::Positive}, true},
         {"sin", everywhere, of(mpfr_sin)},
         {"sin", everyday, of(mpfr_sin)},
         {"cos", everywhere, of(mpfr_cos)},
@@ -78,16 +78,40 @@ std::vector<MeasuredFunction> makeTable() {
         {"aSinH", squaresStayFinite, of(mpfr_asinh)},
         {"aCosH", squaresStayFinite, of(mpfr_acosh)},
         {"aTanH", {-3, -1}, of(mpfr_atanh)},
-        {"aCscH", {-8000, -1, false}, ofInverse(mpfr_asinh)},
-        {"aSecH", {-8000, -1, false}, ofInverse(mpfr_acosh)},
+        {"aCscH", {-8000, -1, Sign::Positive}, ofInverse(mpfr_asinh)},
+        {"aSecH", {-8000, -1, Sign::Positive}, ofInverse(mpfr_acosh)},
         {"aCotH", {1, 3}, ofInverse(mpfr_atanh)},
+    };
+}
+
+/// Small arguments of sinH = (e^x - e^-x) / 2 and its kin, the poles of tan = sin 2x / (cos 2x + 1), and what is close
+/// to 1 in front of, or behind, the logarithm of an inverse function.
+std::vector<MeasuredFunction> makeCancelling() {
+    constexpr Range small{-30, 0};
+    return {
+        {"sinH", small, of(mpfr_sinh)},
+        {"tanH", small, of(mpfr_tanh)},
+        {"cscH", small, of(mpfr_csch)},
+        {"cotH", small, of(mpfr_coth)},
+        {"aSinH", small, of(mpfr_asinh)},
+        {"aSinH", {0, 20, Sign::Negative}, of(mpfr_asinh)},
+        {"aCosH", {-30, 0, Sign::Positive, 1}, of(mpfr_acosh)},
+        {"aTanH", {-30, -3}, of(mpfr_atanh)},
+        {"aCotH", {3, 30}, ofInverse(mpfr_atanh)},
+        {"tan", everyday, of(mpfr_tan)},
+        {"cot", everyday, of(mpfr_cot)},
     };
 }
 
 }  // namespace
 
 std::span<const MeasuredFunction> measuredFunctions() {
-    static const std::vector<MeasuredFunction> table = makeTable();
+    static const std::vector<MeasuredFunction> table = makeMeasured();
+    return table;
+}
+
+std::span<const MeasuredFunction> cancellingFunctions() {
+    static const std::vector<MeasuredFunction> table = makeCancelling();
     return table;
 }
 

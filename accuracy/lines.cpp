@@ -1,6 +1,6 @@
-// accuracy_lines COUNT FOLDER: writes random lines for calq into files of the folder: COUNT calls of each function,
-// COUNT literals and, for each kind of format, COUNT numbers to be written in each row of bases. Numbers are given
-// exactly.
+// accuracy_lines COUNT FOLDER: writes random lines for calq into files of the folder: COUNT calls of each function
+// in each of its ranges, COUNT literals and, for each kind of format, COUNT numbers to be written in each row of bases.
+// Numbers are given exactly.
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -10,12 +10,14 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <span>
 #include <string>
 
 #include "format/value_writer.h"
 #include "formats.h"
 #include "functions.h"
 #include "questions.h"
+#include "support/lossless.h"
 #include "support/numeral.h"
 #include "support/random_reals.h"
 #include "support/written_number.h"
@@ -24,7 +26,7 @@ namespace {
 
 using namespace calquo;
 
-std::string exactly(Real x) { return FormatValue(Value(x), exactWord, 16); }
+std::string exactly(Real x) { return FormatValue(Value(x), losslessWord, losslessBase); }
 
 /// The power of two is uniform over the range, and the mantissa too; a quarter of the mantissas have few bits.
 Real argumentIn(const Range& range, RandomReals& random) {
@@ -33,11 +35,12 @@ Real argumentIn(const Range& range, RandomReals& random) {
         bits.mantissa = bits.mantissa >> 56 << 56;
     }
     bits.signExponent = static_cast<std::uint16_t>(16383 + random.between(range.low, range.high - 1));
-    return range.negativeToo && random.between(0, 1) == 0 ? -realOf(bits) : realOf(bits);
+    const bool isNegative = range.sign == Sign::Negative || (range.sign == Sign::Either && random.between(0, 1) == 0);
+    return range.offset + (isNegative ? -realOf(bits) : realOf(bits));
 }
 
-void writeFunctions(int count, RandomReals& random, std::ofstream lines) {
-    for (const MeasuredFunction& function : measuredFunctions()) {
+void writeFunctions(std::span<const MeasuredFunction> functions, int count, RandomReals& random, std::ofstream lines) {
+    for (const MeasuredFunction& function : functions) {
         for (int i = 0; i < count; ++i) {
             lines << function.name << "(" << exactly(argumentIn(function.range, random));
             if (function.hasTwoArguments) {
@@ -162,8 +165,11 @@ int main(int count, char** arguments) {
     const int lineCount = static_cast<int>(std::strtol(arguments[1], nullptr, 10));
     const std::filesystem::path folder = arguments[2];
     RandomReals random;
-    writeFunctions(lineCount, random, std::ofstream(folder / fileName(functionsName, exactWord)));
-    writeLiterals(lineCount, random, std::ofstream(folder / fileName(literalsName, exactWord)));
+    writeFunctions(measuredFunctions(), lineCount, random,
+                   std::ofstream(folder / fileName(functionsName, losslessWord)));
+    writeFunctions(cancellingFunctions(), lineCount, random,
+                   std::ofstream(folder / fileName(cancellingName, losslessWord)));
+    writeLiterals(lineCount, random, std::ofstream(folder / fileName(literalsName, losslessWord)));
     for (const CheckedFormat& format : checkedFormats()) {
         const int words = static_cast<int>(format.words.size());
         for (const NumericFormat word : format.words) {

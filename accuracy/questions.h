@@ -17,9 +17,7 @@ inline std::string fileName(std::string_view name, NumericFormat word) {
 }
 
 inline constexpr std::string_view functionsName = "functions";
+inline constexpr std::string_view cancellingName = "cancelling";
 inline constexpr std::string_view literalsName = "literals";
-
-/// For exact answers in base 16: Scientific, with all the digits that the word has room for.
-inline constexpr NumericFormat exactWord = std::uint32_t{1} << 28 | field::significantDigits;
 
 }  // namespace calquo

@@ -1,5 +1,6 @@
 // accuracy_table TABLE COUNT LINES [NAME ANSWERS]...: holds the answers of one or more builds to the lines of
-// accuracy_lines COUNT against exact values, and prints one of the Markdown tables: functions, literals or formats.
+// accuracy_lines COUNT against exact values, and prints one of the Markdown tables: functions,
+// cancelling, literals or formats.
 // LINES and ANSWERS are folders.
 #include <algorithm>
 #include <array>
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -14,6 +16,7 @@
 #include "formats.h"
 #include "functions.h"
 #include "questions.h"
+#include "support/lossless.h"
 #include "support/numeral.h"
 #include "support/written_fraction.h"
 #include "support/written_number.h"
@@ -80,7 +83,7 @@ void printHeading(const std::string& columns, const Sources& sources) {
     std::printf("\n");
 }
 
-/// |answer - exact| in units of the last of 64 bits of the exact value.
+/// |answer - exact| in units of the last of 64 bits of the exact value; infinite where either is no number.
 double errorOf(mpfr_srcptr answer, mpfr_srcptr exact) {
     constexpr mpfr_exp_t mantissaBits = 64, lowestBit = ExtendedBits::smallestExponent;
     BigFloat difference;
@@ -88,16 +91,47 @@ double errorOf(mpfr_srcptr answer, mpfr_srcptr exact) {
     const mpfr_exp_t unit =
         mpfr_zero_p(exact) != 0 ? lowestBit : std::max(mpfr_get_exp(exact) - mantissaBits, lowestBit);
     mpfr_mul_2si(difference.get(), difference.get(), -unit, MPFR_RNDN);
-    return std::abs(mpfr_get_d(difference.get(), MPFR_RNDN));
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    return mpfr_nan_p(difference.get()) != 0 ? infinite : std::abs(mpfr_get_d(difference.get(), MPFR_RNDN));
 }
 
-/// Of a complex value, "(re; im)", the real part counts: the other is a residue of rounding.
+/// Of a complex value, "(re; im)", the real part counts: the other is a residue of rounding. Throws std::runtime_error
+/// when it is more than that.
 void readAnswer(const std::string& answer, mpfr_ptr number) {
-    setTo(number, numeralFrom(answer.substr(answer.starts_with('(') ? 1 : 0)));
+    if (!answer.starts_with('(')) {
+        setTo(number, numeralFrom(answer));
+        return;
+    }
+    constexpr double largestResidue = 0x1p-62;
+    const std::size_t separator = answer.find("; ");
+    if (separator == std::string::npos || !answer.ends_with(')')) {
+        throw std::runtime_error("no value: " + answer);
+    }
+    BigFloat residue;
+    setTo(residue.get(), numeralFrom(answer.substr(separator + 2, answer.size() - separator - 3)));
+    if (std::fabs(mpfr_get_d(residue.get(), MPFR_RNDA)) > largestResidue) {
+        throw std::runtime_error("not real: " + answer);
+    }
+    setTo(number, numeralFrom(answer.substr(1, separator - 1)));
 }
 
-void printFunction(const MeasuredFunction& function, Questions& questions, const Sources& sources) {
-    std::vector<double> worst(sources.builds.size());
+/// The answers of one build in one range of a function.
+struct AnswersInRange {
+    int messages = 0;         ///< Instead of a value.
+    double largestError = 0;  ///< Of all values.
+};
+
+std::string textOf(const Range& range) {
+    std::string text = range.offset != 0 ? std::to_string(range.offset) + " + " : "";
+    text += range.sign == Sign::Either ? "±" : range.sign == Sign::Negative ? "-" : "";
+    const std::string sign = range.sign == Sign::Negative ? "-" : "";
+    return text + "2^" + std::to_string(range.low) + " to " + sign + "2^" + std::to_string(range.high);
+}
+
+/// How the next questions, which are those for a function, are answered.
+std::vector<AnswersInRange> answersInRange(const MeasuredFunction& function, Questions& questions,
+                                           const Sources& sources) {
+    std::vector<AnswersInRange> answers(sources.builds.size());
     std::string where;
     for (int i = 0; i < sources.count; ++i) {
         if (!questions.next()) {
@@ -113,30 +147,52 @@ void printFunction(const MeasuredFunction& function, Questions& questions, const
             setTo(y.get(), numeralFrom(line.substr(semicolon + 2, close - semicolon - 2)));
         }
         function.exact(exact.get(), x.get(), y.get());
-        for (std::size_t build = 0; build < worst.size(); ++build) {
+        for (std::size_t build = 0; build < answers.size(); ++build) {
+            if (questions.answers[build].starts_with("Error ")) {
+                ++answers[build].messages;
+                continue;
+            }
             BigFloat answer;
             readAnswer(questions.answers[build], answer.get());
             const double error = errorOf(answer.get(), exact.get());
-            if (error > worst[build]) {
-                worst[build] = error;
+            if (error > answers[build].largestError) {
+                answers[build].largestError = error;
                 where = line;
             }
         }
     }
-    std::printf("| `%s` | %s2^%d to 2^%d |", std::string(function.name).c_str(), function.range.negativeToo ? "±" : "",
-                function.range.low, function.range.high);
-    for (const double error : worst) {
-        std::printf(" %.3f |", error);
-    }
-    std::printf("\n");
     std::fprintf(stderr, "%s: worst at %s\n", std::string(function.name).c_str(), where.c_str());
+    return answers;
+}
+
+void printStartOfRow(const MeasuredFunction& function) {
+    std::printf("| `%s` | %s |", std::string(function.name).c_str(), textOf(function.range).c_str());
 }
 
 void printFunctions(const Sources& sources) {
     printHeading("function | arguments", sources);
-    Questions questions(sources, fileName(functionsName, exactWord));
+    Questions questions(sources, fileName(functionsName, losslessWord));
     for (const MeasuredFunction& function : measuredFunctions()) {
-        printFunction(function, questions, sources);
+        printStartOfRow(function);
+        for (const AnswersInRange& answers : answersInRange(function, questions, sources)) {
+            if (answers.messages != 0) {
+                throw std::runtime_error("no value of " + std::string(function.name));
+            }
+            std::printf(" %.3f |", answers.largestError);
+        }
+        std::printf("\n");
+    }
+}
+
+void printCancelling(const Sources& sources) {
+    printHeading("function | arguments", sources);
+    Questions questions(sources, fileName(cancellingName, losslessWord));
+    for (const MeasuredFunction& function : cancellingFunctions()) {
+        printStartOfRow(function);
+        for (const AnswersInRange& answers : answersInRange(function, questions, sources)) {
+            std::printf(" %d, %.2g |", answers.messages, answers.largestError);
+        }
+        std::printf("\n");
     }
 }
 
@@ -190,7 +246,7 @@ private:
 void printLiterals(const Sources& sources) {
     printHeading("base", sources);
     RowsOfBases rows(sources);
-    Questions questions(sources, fileName(literalsName, exactWord));
+    Questions questions(sources, fileName(literalsName, losslessWord));
     while (questions.next()) {
         const Numeral literal = numeralFrom(questions.line.substr(0, questions.line.find(' ')));
         BigFloat exact, nearest, answer;
@@ -239,7 +295,10 @@ struct Table {
     void (*print)(const Sources&);
 };
 
-constexpr Table tables[] = {{"functions", printFunctions}, {"literals", printLiterals}, {"formats", printFormats}};
+constexpr Table tables[] = {{"functions", printFunctions},
+                            {"cancelling", printCancelling},
+                            {"literals", printLiterals},
+                            {"formats", printFormats}};
 
 }  // namespace
 
@@ -247,7 +306,8 @@ int main(int count, char** arguments) {
     const auto* const table = std::find_if(std::begin(tables), std::end(tables),
                                            [&](const Table& row) { return count > 1 && row.name == arguments[1]; });
     if (count < 6 || count % 2 != 0 || table == std::end(tables)) {
-        std::fprintf(stderr, "usage: accuracy_table functions|literals|formats COUNT LINES NAME ANSWERS...\n");
+        std::fprintf(stderr,
+                     "usage: accuracy_table functions|cancelling|literals|formats COUNT LINES NAME ANSWERS...\n");
         return 2;
     }
     Sources sources{static_cast<int>(std::strtol(arguments[2], nullptr, 10)), arguments[3], {}};
