@@ -5,6 +5,7 @@
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
+#include "support/lossless.h"
 #include "targets.h"
 #include "values/errors.h"
 #include "workarea/record.h"

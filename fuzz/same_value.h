@@ -1,15 +1,10 @@
-// Values written with all their digits, and whether two are the same to the last bit.
+// Whether two values are the same to the last bit.
 #pragma once
 
-#include "format/numeric_format.h"
 #include "values/extended.h"
 #include "values/value.h"
 
 namespace calquo {
-
-/// Scientific with as many digits as the word has room for; in base 16 they hold every number.
-inline constexpr NumericFormat losslessWord = std::uint32_t{1} << 28 | field::significantDigits;
-inline constexpr std::uint32_t losslessBase = 16;
 
 /// Whether a value can be read back at all: the language refuses to negate infinities, and NaNs are never the same.
 inline bool isWrittenWithoutLoss(const Value& value) {

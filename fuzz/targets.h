@@ -53,7 +53,6 @@ public:
         rest_ = rest_.subspan(taken.size());
         return taken;
     }
-    FuzzInput rest() const { return rest_; }
     std::string text() const { return {rest_.begin(), rest_.end()}; }
 
 private:

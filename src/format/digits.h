@@ -36,7 +36,7 @@ private:
 /// @param places -16,500 to 16,500, and so that there are no more than 16,500 digits
 void roundedDigits(Real x, std::uint32_t base, int places, DigitBuffer& digits);
 
-/// floor(log x) in a base, for finite positive x; it may be one too low just above a power of the base.
+/// floor(log x) in a base, for finite positive x; it may be one too low at or just above a power of the base.
 int leadingPlace(Real x, std::uint32_t base);
 
 }  // namespace calquo
