@@ -41,7 +41,7 @@ const Row rows[] = {
      "2.71828182845904523536028747135266249775724709", "2.71828182845904523536028747135266249775724709",
      [] { return number(2.71828182845904523536L); }},
 
-    {"bases", "16'FF+1", "0xFF+1", "", "0xFF+1", [] { return number(255) + number(1); }},
+    {"bases", "16'FF+1", "", "", "0xFF+1", [] { return number(255) + number(1); }},
     {"bases", "2'101101*3", "", "", "0b101101*3", [] { return number(45) * number(3); }},
     {"bases", "16'DEAD.BEEF-8'777", "", "", "", [] { return number(57005.74583435058594L) - number(511); }},
     {"bases", "12345+1 '16", "", "obase=16;12345+1", "12345+1 to hex", [] { return number(12345) + number(1); }},
@@ -89,7 +89,7 @@ const Row rows[] = {
          return size * std::cos(number(2)) + size * std::sin(number(2));
      }},
 
-    {"lists", "sum(1; 2; 3; 4)", "sum(1,2,3,4)", "1+2+3+4", "sum([1, 2, 3, 4])",
+    {"lists", "sum(1; 2; 3; 4)", "sum(1,2,3,4)", "1+2+3+4", "total([1, 2, 3, 4])",
      [] { return number(1) + number(2) + number(3) + number(4); }},
     {"lists", "max(3; 7; 5)", "max(3,7,5)", "", "max(3, 7, 5)",
      [] {
@@ -122,8 +122,8 @@ const Row rows[] = {
      }},
     {"integers", "gcd(1071; 462)", "", "", "gcd(1071, 462)",
      [] { return static_cast<long double>(std::gcd(word(1071), word(462))); }},
-    {"integers", "mod(17; 5)", "", "17/5", "17\\5", [] { return std::floor(number(17) / number(5)); }},
-    {"integers", "bXor(65535; 4660)", "", "", "bitxor(65535, 4660)",
+    {"integers", "mod(17; 5)", "", "scale=0;17/5", "17\\5", [] { return std::floor(number(17) / number(5)); }},
+    {"integers", "bXor(65535; 4660)", "", "", "xor(65535, 4660)",
      [] { return static_cast<long double>(word(65535) ^ word(4660)); }},
     {"integers", "round(2.567)", "rint(2.567)", "", "round(2.567)", [] { return std::round(number(2.567L)); }},
 

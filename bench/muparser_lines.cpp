@@ -1,4 +1,5 @@
-// muparser_lines: evaluates each line of standard input with muParser and writes its value, as calq does.
+// muparser_lines: evaluates each line of standard input with muParser and writes its value. One that muParser does not
+// know ends the program.
 #include <muParser.h>
 
 #include <cstdio>
@@ -13,7 +14,8 @@ int main() {
             parser.SetExpr(line);
             std::printf("%.9g\n", parser.Eval());
         } catch (const mu::Parser::exception_type& fault) {
-            std::printf("Error (%s)\n", fault.GetMsg().c_str());
+            std::fprintf(stderr, "muparser_lines: %s\n", fault.GetMsg().c_str());
+            return 1;
         }
     }
     return 0;

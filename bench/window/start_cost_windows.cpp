@@ -61,7 +61,10 @@ void run(int rounds) {
     }};
     // The first round only fills the system's caches.
     for (int round = 0; round <= rounds; ++round) {
-        for (Candidate& candidate : candidates) {
+        for (std::size_t turn = 0; turn < candidates.size(); ++turn) {
+            // Each comes behind each other one, which may leave something to be done behind.
+            const std::size_t place = round % 2 == 0 ? turn : candidates.size() - 1 - turn;
+            Candidate& candidate = candidates[(place + static_cast<std::size_t>(round)) % candidates.size()];
             const Measured measured = measure(candidate);
             for (std::size_t quantity = 0; round > 0 && quantity < measured.size(); ++quantity) {
                 candidate.values[quantity].push_back(measured[quantity]);

@@ -10,6 +10,14 @@ namespace {
 constexpr std::string_view initialCharacters =
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
 
+constexpr std::array<TokenClass, 256> classifyCharacters() {
+    std::array<TokenClass, 256> classes{};
+    for (std::size_t i = firstClassInTable; i < initialCharacters.size(); ++i) {
+        classes[static_cast<unsigned char>(initialCharacters[i])] = static_cast<TokenClass>(i - firstClassInTable);
+    }
+    return classes;
+}
+
 }  // namespace
 
 constinit std::array<char, 83> characterTable = [] {
@@ -19,13 +27,7 @@ constinit std::array<char, 83> characterTable = [] {
     return table;
 }();
 
-constinit std::array<TokenClass, 256> characterClasses = [] {
-    std::array<TokenClass, 256> classes{};
-    for (std::size_t i = firstClassInTable; i < initialCharacters.size(); ++i) {
-        classes[static_cast<unsigned char>(initialCharacters[i])] = static_cast<TokenClass>(i - firstClassInTable);
-    }
-    return classes;
-}();
+constinit std::array<TokenClass, 256> characterClasses = classifyCharacters();
 
 void setMarkCharacter(TokenClass tokenClass, char character) {
     const std::string_view taken(characterTable.data(), characterTable.size());

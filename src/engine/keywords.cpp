@@ -1,6 +1,9 @@
 // Lookup in the keyword table.
 #include "engine/keywords.h"
 
+#include <algorithm>
+#include <array>
+
 #include "engine/keyword_table.h"
 #include "engine/lexer.h"
 
@@ -12,6 +15,9 @@ const Keyword& row(std::size_t index) { return keywordTable[index > keywordCount
 constexpr std::size_t letterCount = 26;
 
 constexpr std::size_t letterNumber(char letter) { return static_cast<std::size_t>(lowerCase(letter) - 'a'); }
+
+static_assert(std::all_of(keywordTable.begin() + 1, keywordTable.end() - 1,
+                          [](const Keyword& keyword) { return isLetter(keyword.name.front()); }));
 
 /// The index of the first name that begins with a letter or with a later one; behind the last letter's, the end.
 constexpr std::array<std::size_t, letterCount + 1> firstWithLetter = [] {

@@ -59,15 +59,17 @@ private:
     std::int64_t left;
 };
 
-/// Exact powers of ten: 10^27 is the last one whose odd factor fits into 64 bits.
-constexpr std::array<Real, 28> powersOfTen = [] {
+constexpr std::array<Real, 28> computePowersOfTen() {
     std::array<Real, 28> rows{};
     rows[0] = 1;
     for (std::size_t i = 1; i < rows.size(); ++i) {
         rows[i] = rows[i - 1] * 10;
     }
     return rows;
-}();
+}
+
+/// Exact powers of ten: 10^27 is the last one whose odd factor fits into 64 bits.
+constexpr std::array<Real, 28> powersOfTen = computePowersOfTen();
 
 /// base^exponent where the extended format holds it exactly.
 std::optional<Real> exactPower(std::uint32_t base, std::uint64_t exponent) {

@@ -91,14 +91,16 @@ constexpr bool isWellFormed(NumericFormat word, FormatKind kind) {
     });
 }
 
-// Also: every letter of every kind stands in the table.
-static_assert([] {
+constexpr bool areDefaultsWellFormed() {
     for (std::uint32_t kind = 0; kind < defaultFormats.size(); ++kind) {
         if (!isWellFormed(defaultFormats[kind], static_cast<FormatKind>(kind))) {
             return false;
         }
     }
     return true;
-}());
+}
+
+// Also: every letter of every kind stands in the table.
+static_assert(areDefaultsWellFormed());
 
 }  // namespace calquo

@@ -52,14 +52,16 @@ inline constexpr std::array formatKinds = std::to_array<FormatKindRow>({
     {"fractional", "Fractional Format", "GDWF+", 0x63180004},
 });
 
-/// The default words, indexed by kind: what "reset all formats" restores.
-inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = [] {
+constexpr std::array<NumericFormat, formatKinds.size()> collectDefaultFormats() {
     std::array<NumericFormat, formatKinds.size()> words{};
     for (std::size_t i = 0; i < words.size(); ++i) {
         words[i] = formatKinds[i].defaultWord;
     }
     return words;
-}();
+}
+
+/// The default words, indexed by kind: what "reset all formats" restores.
+inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = collectDefaultFormats();
 
 /// The value of a field of the word.
 constexpr std::uint32_t getField(NumericFormat word, NumericFormat mask) {
@@ -71,11 +73,5 @@ constexpr std::uint32_t largestIn(NumericFormat mask) { return mask >> std::coun
 
 /// Sets a field of the word. Raises 5 ("internal fault"), leaving the word as it is, when the value does not fit.
 void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value);
-
-/// Whether the kind of a word has the attribute of a letter.
-constexpr bool hasAttribute(NumericFormat word, char letter) {
-    const std::uint32_t kind = getField(word, field::kind);
-    return kind < formatKinds.size() && formatKinds[kind].letters.find(letter) != std::string_view::npos;
-}
 
 }  // namespace calquo

@@ -32,6 +32,9 @@ struct AttributeLetter {
                 kinds |= 1U << kind;
             }
         }
+        if (kinds == 0) {
+            throw "no kind has the letter";
+        }
     }
 };
 

@@ -35,7 +35,13 @@ std::uint64_t commonDivisor(std::span<const std::uint64_t> words) {
 
 }  // namespace
 
-Value gcd(std::span<const Value> items) { return fromWord(commonDivisor(toWords(items))); }
+Value gcd(std::span<const Value> items) {
+    std::uint64_t divisor = 0;
+    for (const Value& item : items) {
+        divisor = std::gcd(toUnsignedWord(item), divisor);
+    }
+    return fromWord(divisor);
+}
 
 Value gcf(std::span<const Value> items) {
     const Words words = toWords(items);

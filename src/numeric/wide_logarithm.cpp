@@ -119,8 +119,7 @@ UInt128 exponentialExcess(UInt128 s) {
     return s + multiplyHigh(s, multiplyHigh(s, sum));
 }
 
-/// e^(j/128) in units of 2^-127, for every j with j/128 below ln 2 and one more.
-constexpr std::array<UInt128, 90> exponentials = [] {
+constexpr std::array<UInt128, 90> computeExponentials() {
     constexpr UInt128 one = {std::uint64_t{1} << 63, 0};
     // e^(1/128), by the series in units of 2^-127.
     UInt128 term = shiftRight(one, 7);
@@ -136,7 +135,10 @@ constexpr std::array<UInt128, 90> exponentials = [] {
         rows[j] = shiftLeft(multiplyHigh(rows[j - 1], step), 1);
     }
     return rows;
-}();
+}
+
+/// e^(j/128) in units of 2^-127, for every j with j/128 below ln 2 and one more.
+constexpr std::array<UInt128, 90> exponentials = computeExponentials();
 
 /// a n for a sum a and a count of at most 15 bits, in two's complement.
 UInt128 timesCount(UInt128 a, int count) {
