@@ -1,38 +1,13 @@
-// Counts by the system's own books, and by an operator new that keeps one.
+// Counts by the system's own books, and by that of operator new.
 #include "resources.h"
 
-#include <atomic>
-#include <cstdlib>
 #include <cstring>
-#include <new>
 
+#include "support/allocations.h"
 #include "widgets/windows_api.h"
 
 // Needs <windows.h> in front of it.
 #include <winternl.h>
-
-namespace {
-
-std::atomic<int> liveAllocations = 0;
-
-}  // namespace
-
-// The other forms of both end in these.
-void* operator new(std::size_t size) {
-    void* const memory = std::malloc(size);
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    ++liveAllocations;
-    return memory;
-}
-
-void operator delete(void* memory) noexcept {
-    liveAllocations -= memory != nullptr ? 1 : 0;
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace calquo {
 namespace {
@@ -84,7 +59,7 @@ BOOL CALLBACK countTopLevel(HWND window, LPARAM count) {
 Resources heldResources() {
     Resources held;
     held.drawingObjects = drawingObjects();
-    held.allocations = liveAllocations;
+    held.allocations = allocationsHeld();
     EnumThreadWindows(GetCurrentThreadId(), countTopLevel, reinterpret_cast<LPARAM>(&held.windows));
     return held;
 }

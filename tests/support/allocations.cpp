@@ -1,0 +1,64 @@
+#include "support/allocations.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#ifdef _WIN32
+#include <malloc.h>
+#endif
+
+namespace {
+
+std::atomic<int> made = 0;
+std::atomic<int> deleted = 0;
+
+void* counted(void* memory) {
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    ++made;
+    return memory;
+}
+
+}  // namespace
+
+// The other forms of both end in these.
+void* operator new(std::size_t size) { return counted(std::malloc(size)); }
+
+void* operator new(std::size_t size, std::align_val_t alignment) {
+    const auto unit = static_cast<std::size_t>(alignment);
+#ifdef _WIN32
+    return counted(_aligned_malloc(size, unit));
+#else
+    return counted(std::aligned_alloc(unit, (size + unit - 1) / unit * unit));
+#endif
+}
+
+void operator delete(void* memory) noexcept {
+    deleted += memory != nullptr ? 1 : 0;
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::align_val_t) noexcept {
+    deleted += memory != nullptr ? 1 : 0;
+#ifdef _WIN32
+    _aligned_free(memory);
+#else
+    std::free(memory);
+#endif
+}
+
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+
+void operator delete(void* memory, std::size_t, std::align_val_t alignment) noexcept {
+    operator delete(memory, alignment);
+}
+
+namespace calquo {
+
+int allocationsMade() { return made; }
+
+int allocationsHeld() { return made - deleted; }
+
+}  // namespace calquo
