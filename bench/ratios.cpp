@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <iterator>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -14,7 +16,8 @@
 namespace calquo::bench {
 namespace {
 
-enum Column : std::size_t {
+/// Places in the list of the programs.
+enum Place : std::size_t {
     Bare,
     Calq,
     FirstPeer,
