@@ -28,13 +28,12 @@ public:
     /// The residue of any word.
     [[nodiscard]] constexpr std::uint64_t residue(std::uint64_t number) const { return multiply(number, square_); }
 
-    /// The residue of the product of two residues.
+    /// The residue of the product of two residues; a b / 2^64 mod m for any a below m and any word b.
     [[nodiscard]] constexpr std::uint64_t multiply(std::uint64_t a, std::uint64_t b) const {
-        return reduce(calquo::multiply(a, b));
+        const UInt128 product = calquo::multiply(a, b);
+        const std::uint64_t high = calquo::multiply(product.low * inverse_, modulus_).high;
+        return product.high >= high ? product.high - high : product.high + (modulus_ - high);
     }
-
-    /// The inverse of m modulo 2^64.
-    [[nodiscard]] constexpr std::uint64_t inverse() const { return inverse_; }
 
     /// (a + b) mod m and (a - b) mod m, for a and b below m.
     [[nodiscard]] constexpr std::uint64_t add(std::uint64_t a, std::uint64_t b) const {
@@ -42,12 +41,6 @@ public:
     }
     [[nodiscard]] constexpr std::uint64_t subtract(std::uint64_t a, std::uint64_t b) const {
         return a >= b ? a - b : a + (modulus_ - b);
-    }
-
-    /// product / 2^64 mod m, for a product below m 2^64.
-    [[nodiscard]] constexpr std::uint64_t reduce(UInt128 product) const {
-        const std::uint64_t high = calquo::multiply(product.low * inverse_, modulus_).high;
-        return product.high >= high ? product.high - high : product.high + (modulus_ - high);
     }
 
 private:
