@@ -5,15 +5,12 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
 
-#include "format/format_dialog.h"
-#include "panels/button_panel.h"
-#include "shell/about.h"
 #include "shell/caption_strip.h"
+#include "shell/commands.h"
 #include "shell/file_commands.h"
-#include "shell/help.h"
 #include "shell/main_menu.h"
+#include "shell/open_panels.h"
 #include "shell/settings.h"
 #include "shell/user_dialogs.h"
 #include "shell/window_layout.h"
@@ -41,8 +38,6 @@ private:
     struct Procedure;  // the window procedure, whose signature needs the system's types
     struct MessageRow;
     static const MessageRow messageRows[];
-    struct CommandRow;
-    static const CommandRow commandRows[];
     struct CaptionRow;
     static const CaptionRow captionRows[];
 
@@ -69,23 +64,6 @@ private:
     bool saveBeforeEnd();
     void shutDown();
 
-    void runCommand(std::uint16_t identifier);
-    void togglePanel(std::uint16_t identifier);
-    void clearWorkArea(std::uint16_t identifier);
-    void readDefaultFile(std::uint16_t identifier);
-    void saveDefaultFile(std::uint16_t identifier);
-    void chooseFile(std::uint16_t identifier);
-    void toggleOption(std::uint16_t identifier);
-    void toggleHiddenButtons(std::uint16_t identifier);
-    void toggleAngle(std::uint16_t identifier);
-    void selectFormat(std::uint16_t identifier);
-    void modifyFormat(std::uint16_t identifier);
-    void resetFormats(std::uint16_t identifier);
-    void openHelp(std::uint16_t identifier);
-    void showAbout(std::uint16_t identifier);
-    void exit(std::uint16_t identifier);
-
-    void openPanel(std::uint16_t identifier);
     void openMenuAtCaption();
 
     void hearButton(const Component& button);
@@ -110,13 +88,11 @@ private:
     UserDialogs dialogs_;
     WindowOwner window_;
     MainMenu menu_;
-    Help help_;
-    FormatDialog formatDialog_;
-    About about_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
     std::unique_ptr<FileCommands> files_;
-    std::vector<std::unique_ptr<ButtonPanel>> panels_;  ///< The open ones, in their order on the screen.
+    OpenPanels panels_;
+    std::unique_ptr<Commands> commands_;
     WindowHandle lastFocus_ = nullptr;
     bool created_ = false;
     bool savedBeforeEnd_ = false;  ///< Or left unsaved, as the user wants it.

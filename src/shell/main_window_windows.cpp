@@ -1,11 +1,10 @@
-// The main window's class, its messages and its commands.
+// The main window's class, its messages and its layout.
 #include "shell/main_window.h"
 
 #include <algorithm>
 #include <string>
 
 #include "numeric/random.h"
-#include "panels/catalogue.h"
 #include "shell/command_ids.h"
 #include "shell/menu_marks.h"
 #include "shell/menu_tree.h"
@@ -14,14 +13,15 @@
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
 #include "widgets/painting.h"
+#include "widgets/screens.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-constexpr DWORD windowStyle = WS_POPUP | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN;
-constexpr DWORD extendedStyle = WS_EX_APPWINDOW;
+constexpr WindowStyle windowStyle{
+    WS_POPUP | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 
 /// What a usable work area measures at least, in buttons.
 constexpr Size smallestWorkAreaInButtons{10, 5};
@@ -45,24 +45,6 @@ private:
     Action action_;
 };
 
-Rectangle rectangleOf(const RECT& corners) {
-    return {corners.left, corners.top, corners.right - corners.left, corners.bottom - corners.top};
-}
-
-RECT cornersOf(const Rectangle& place) {
-    return {place.left, place.top, place.left + place.width, place.top + place.height};
-}
-
-constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
-                                           identifierOf(Command::ButtonsAddGradients),
-                                           identifierOf(Command::ButtonsAddRadians)};
-
-Rectangle windowRectangle(HWND window) {
-    RECT corners{};
-    GetWindowRect(window, &corners);
-    return rectangleOf(corners);
-}
-
 void place(ButtonPanel& panel, const Rectangle& rectangle) {
     panel.moveTo(rectangle);
     panel.layOut();
@@ -74,50 +56,12 @@ Point menuCorner(const Component& button) {
     return {place.left - menuOffset, place.top - menuOffset};
 }
 
-int dotsPerInchOfScreen() {
-    const HDC screen = GetDC(nullptr);
-    const int dots = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dots;
-}
-
-struct Screen {
-    Rectangle whole;
-    Rectangle desk;  ///< Without the taskbar.
-};
-
-Screen screenOf(HMONITOR monitor) {
-    MONITORINFO description{};
-    description.cbSize = sizeof description;
-    GetMonitorInfoW(monitor, &description);
-    return {rectangleOf(description.rcMonitor), rectangleOf(description.rcWork)};
-}
-
-BOOL CALLBACK noteScreen(HMONITOR monitor, HDC, LPRECT, LPARAM screens) {
-    reinterpret_cast<std::vector<Rectangle>*>(screens)->push_back(screenOf(monitor).desk);
-    return TRUE;
-}
-
-/// The screens without their taskbars, the one nearest to the window first.
-std::vector<Rectangle> screensAround(HWND window) {
-    std::vector<Rectangle> screens = {screenOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).desk};
-    EnumDisplayMonitors(nullptr, nullptr, noteScreen, reinterpret_cast<LPARAM>(&screens));
-    return screens;
-}
-
-/// The window around a client area of `client`, by its upper left corner in the client's coordinates.
-Rectangle windowAround(Size client) {
-    RECT around{0, 0, client.width, client.height};
-    AdjustWindowRectEx(&around, windowStyle, FALSE, extendedStyle);
-    return rectangleOf(around);
-}
-
 /// The maximized window: the screen without its taskbar, with all but one pixel of the sizing frame around it.
 Rectangle maximizedPlace(HWND window) {
-    const Rectangle desk = screenOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)).desk;
-    const Rectangle frame = windowAround({0, 0});
-    return {desk.left + frame.left + 1, desk.top + frame.top + 1, desk.width + frame.width - 2,
-            desk.height + frame.height - 2};
+    const Rectangle area = screenOf(window).usableArea;
+    const Rectangle frame = windowAround({}, windowStyle);
+    return {area.left + frame.left + 1, area.top + frame.top + 1, area.width + frame.width - 2,
+            area.height + frame.height - 2};
 }
 
 }  // namespace
@@ -188,39 +132,6 @@ const MainWindow::MessageRow MainWindow::messageRows[] = {
     {WM_COMMAND, &MainWindow::hearCommand},
 };
 
-/// What the commands do; each is given its identifier.
-struct MainWindow::CommandRow {
-    CommandRange range;
-    void (MainWindow::*act)(std::uint16_t);
-
-    constexpr CommandRow(CommandRange commands, void (MainWindow::*action)(std::uint16_t))
-        : range(commands), act(action) {}
-    constexpr CommandRow(Command command, void (MainWindow::*action)(std::uint16_t))
-        : CommandRow(CommandRange{identifierOf(command), identifierOf(command)}, action) {}
-};
-
-const MainWindow::CommandRow MainWindow::commandRows[] = {
-    {panelCommands, &MainWindow::togglePanel},
-    {Command::ClearWorkArea, &MainWindow::clearWorkArea},
-    {Command::ReadDefaultFile, &MainWindow::readDefaultFile},
-    {Command::SaveDefaultFile, &MainWindow::saveDefaultFile},
-    {Command::SelectDefaultFile, &MainWindow::chooseFile},
-    {Command::ReadFromFile, &MainWindow::chooseFile},
-    {Command::SaveAsFile, &MainWindow::chooseFile},
-    {Command::ReadDefaultAtStartup, &MainWindow::toggleOption},
-    {Command::SaveDefaultAtExit, &MainWindow::toggleOption},
-    {selectFormatCommands, &MainWindow::selectFormat},
-    {modifyFormatCommands, &MainWindow::modifyFormat},
-    {Command::ResetFormats, &MainWindow::resetFormats},
-    {Command::HelpContents, &MainWindow::openHelp},
-    {Command::About, &MainWindow::showAbout},
-    {Command::Exit, &MainWindow::exit},
-    {Command::HideButtons, &MainWindow::toggleHiddenButtons},
-    {Command::ButtonsAddDegrees, &MainWindow::toggleAngle},
-    {Command::ButtonsAddGradients, &MainWindow::toggleAngle},
-    {Command::ButtonsAddRadians, &MainWindow::toggleAngle},
-};
-
 /// What the buttons of the caption strip do, by the letter that their labels begin with.
 struct MainWindow::CaptionRow {
     char letter;
@@ -241,8 +152,9 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs) : settings_(sett
     if (const auto stored = settings_.windowRect()) {
         place = {stored->left, stored->top, stored->right - stored->left, stored->bottom - stored->top};
     }
-    const HWND window = CreateWindowExW(extendedStyle, title.c_str(), title.c_str(), windowStyle, place.left, place.top,
-                                        place.width, place.height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    const HWND window =
+        CreateWindowExW(windowStyle.extendedStyle, title.c_str(), title.c_str(), windowStyle.style, place.left,
+                        place.top, place.width, place.height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (window == nullptr) {
         UnregisterClassW(title.c_str(), GetModuleHandleW(nullptr));
         rethrowKeptException();
@@ -272,16 +184,19 @@ std::optional<MessageAnswer> MainWindow::hear(const Message& message) {
 // --- Beginning and end ----------------------------------------------------------------------------------------------
 
 std::optional<MessageAnswer> MainWindow::hearCreation(const Message&) {
-    setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, dotsPerInchOfScreen())));
+    setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, screenDotsPerInch())));
     caption_ = std::make_unique<CaptionStrip>(handle());
     workArea_ =
         std::make_unique<WorkArea>(handle(), identifierOf(Command::WorkArea), identifierOf(Command::HelpContents),
                                    [this] { return settings_.format(settings_.selectedFormat()); });
-    workArea_->giveFocus();
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
+    commands_ = std::make_unique<Commands>(CommandTargets{handle(), settings_, menu_, panels_, *workArea_, *files_,
+                                                          [this] { layOutAndRefresh(); },
+                                                          [this](WindowHandle dialog) { lastFocus_ = dialog; }});
+    workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isMarked(identifier, settings_); });
     for (const std::uint16_t identifier : settings_.selectedPanels()) {
-        openPanel(identifier);
+        panels_.open(handle(), identifier);
     }
     moveWhereItCanBeReached();
     layOut();
@@ -325,10 +240,7 @@ void MainWindow::shutDown() {
     if (!savedBeforeEnd_) {
         saveBeforeEnd();  // nobody has asked before
     }
-    std::vector<std::uint16_t> identifiers(panels_.size());
-    std::transform(panels_.begin(), panels_.end(), identifiers.begin(),
-                   [](const auto& panel) { return panel->command(); });
-    settings_.setSelectedPanels(identifiers);
+    settings_.setSelectedPanels(panels_.identifiers());
 }
 
 std::optional<MessageAnswer> MainWindow::forgetWindow(const Message&) {
@@ -364,8 +276,7 @@ std::optional<MessageAnswer> MainWindow::hearActivation(const Message& message) 
 }
 
 bool MainWindow::canHaveFocus(WindowHandle window) const {
-    const bool isDialog = window != nullptr && (window == formatDialog_.handle() || window == about_.handle());
-    return isDialog || IsChild(handle(), window) != 0;
+    return commands_->isOpenDialog(window) || IsChild(handle(), window) != 0;
 }
 
 void MainWindow::giveFocusToPart() { SetFocus(canHaveFocus(lastFocus_) ? lastFocus_ : workArea_->handle()); }
@@ -411,9 +322,7 @@ WindowParts MainWindow::parts() const {
     WindowParts parts;
     parts.leftCaption = caption_->left().preferredSize();
     parts.rightCaption = caption_->right().preferredSize();
-    for (const auto& panel : panels_) {
-        parts.panels.push_back(panel->preferredSize());
-    }
+    parts.panels = panels_.preferredSizes();
     parts.panelsHidden = settings_.boolean(BooleanSetting::HideButtons);
     parts.smallestWorkArea = {smallestWorkAreaInButtons.width * buttonSize(),
                               smallestWorkAreaInButtons.height * buttonSize()};
@@ -421,7 +330,7 @@ WindowParts MainWindow::parts() const {
 }
 
 Size MainWindow::smallestWindow() const {
-    const Rectangle needed = windowAround(smallestClient(parts()));
+    const Rectangle needed = windowAround(smallestClient(parts()), windowStyle);
     // More than the screen has would put a part of the window out of reach.
     const Rectangle most = maximizedPlace(handle());
     return {std::min(needed.width, most.width), std::min(needed.height, most.height)};
@@ -430,7 +339,7 @@ Size MainWindow::smallestWindow() const {
 std::optional<MessageAnswer> MainWindow::answerSizeLimits(const Message& message) {
     MINMAXINFO& limits = *reinterpret_cast<MINMAXINFO*>(message.longParameter);
     const Rectangle most = maximizedPlace(handle());
-    const Rectangle screen = screenOf(MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST)).whole;
+    const Rectangle screen = screenOf(handle()).whole;
     limits.ptMaxPosition = {most.left - screen.left, most.top - screen.top};
     limits.ptMaxSize = {most.width, most.height};
     limits.ptMaxTrackSize = limits.ptMaxSize;
@@ -445,7 +354,7 @@ void MainWindow::moveWhereItCanBeReached() {
     const Rectangle place = windowRectangle(handle());
     // A stored place counts as it is: the layout enlarges it where it must. The system's choice may have no size.
     const Size least = settings_.windowRect() ? Size{} : smallestWindow();
-    const Rectangle reachable = reachablePlace(place, least, screensAround(handle()));
+    const Rectangle reachable = reachablePlace(place, least, usableAreasAround(handle()));
     if (reachable != place) {
         MoveWindow(handle(), reachable.left, reachable.top, reachable.width, reachable.height, FALSE);
     }
@@ -464,8 +373,8 @@ std::optional<MessageAnswer> MainWindow::hearPlace(const Message&) {
         }
     }
     // Also while minimized or maximized: the next start is to find the last rectangle that the system reported.
-    const RECT corners = cornersOf(windowRectangle(handle()));
-    settings_.setWindowRect({corners.left, corners.top, corners.right, corners.bottom});
+    const RECT edges = edgesOf(windowRectangle(handle()));
+    settings_.setWindowRect({edges.left, edges.top, edges.right, edges.bottom});
     return 0;
 }
 
@@ -482,11 +391,7 @@ void MainWindow::layOut() {
     const WindowLayout layout = layOutWindow(clientSize(handle()), parts());
     place(caption_->left(), layout.leftCaption);
     place(caption_->right(), layout.rightCaption);
-    const bool hidden = settings_.boolean(BooleanSetting::HideButtons);
-    for (std::size_t index = 0; index < panels_.size(); ++index) {
-        place(*panels_[index], layout.panels[index]);
-        hidden ? panels_[index]->hide() : panels_[index]->show();
-    }
+    panels_.layOut(layout.panels, settings_.boolean(BooleanSetting::HideButtons));
     workArea_->moveTo(layout.workArea);
 }
 
@@ -495,7 +400,7 @@ void MainWindow::layOutAndRefresh() {
     RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-// --- Menu and commands ----------------------------------------------------------------------------------------------
+// --- Menu -----------------------------------------------------------------------------------------------------------
 
 void MainWindow::openMenuAtCaption() {
     const Rectangle panel = windowRectangle(caption_->left().handle());
@@ -525,7 +430,7 @@ std::optional<MessageAnswer> MainWindow::hearCommand(const Message& message) {
     const HWND control = reinterpret_cast<HWND>(message.longParameter);
     const auto notice = static_cast<ButtonNotice>(HIWORD(message.wordParameter));
     if (control == nullptr) {
-        runCommand(LOWORD(message.wordParameter));
+        commands_->run(LOWORD(message.wordParameter));
     } else if (notice == ButtonNotice::Pressed || notice == ButtonNotice::Clicked) {
         if (const Component* const button = Component::of(control)) {
             hearButton(*button);
@@ -533,83 +438,6 @@ std::optional<MessageAnswer> MainWindow::hearCommand(const Message& message) {
     }
     return 0;
 }
-
-void MainWindow::runCommand(std::uint16_t identifier) {
-    for (const CommandRow& row : commandRows) {
-        if (row.range.contains(identifier)) {
-            (this->*row.act)(identifier);
-            return;
-        }
-    }
-}
-
-void MainWindow::togglePanel(std::uint16_t identifier) {
-    const bool open = !menu_.isChecked(identifier);
-    if (open) {
-        openPanel(identifier);
-    } else {
-        std::erase_if(panels_, [&](const auto& panel) { return panel->command() == identifier; });
-    }
-    menu_.setChecked(identifier, open);
-    layOutAndRefresh();
-}
-
-void MainWindow::openPanel(std::uint16_t identifier) {
-    if (const PanelEntry* const entry = findPanel(identifier)) {
-        panels_.push_back(std::make_unique<ButtonPanel>(handle(), *entry));
-    }
-}
-
-void MainWindow::clearWorkArea(std::uint16_t) { workArea_->clear(); }
-
-void MainWindow::readDefaultFile(std::uint16_t) { files_->readDefault(); }
-
-void MainWindow::saveDefaultFile(std::uint16_t) { files_->saveDefault(); }
-
-void MainWindow::chooseFile(std::uint16_t identifier) { files_->actOnChosenFile(static_cast<Command>(identifier)); }
-
-void MainWindow::toggleOption(std::uint16_t identifier) {
-    const bool on = !menu_.isChecked(identifier);
-    menu_.setChecked(identifier, on);
-    if (const auto setting = booleanSettingOf(identifier)) {
-        settings_.setBoolean(*setting, on);
-    }
-}
-
-void MainWindow::toggleHiddenButtons(std::uint16_t identifier) {
-    toggleOption(identifier);
-    layOutAndRefresh();
-}
-
-void MainWindow::toggleAngle(std::uint16_t identifier) {
-    const bool on = !menu_.isChecked(identifier);
-    settings_.chooseAngle(on ? angleOptionOf(identifier) : AngleOption::None);
-    for (const std::uint16_t entry : angleCommands) {
-        menu_.setChecked(entry, on && entry == identifier);
-    }
-}
-
-void MainWindow::selectFormat(std::uint16_t identifier) {
-    settings_.selectFormat(formatOf(selectFormatCommands, identifier));
-    for (std::uint16_t entry = selectFormatCommands.first; entry <= selectFormatCommands.last; ++entry) {
-        menu_.setChecked(entry, entry == identifier);
-    }
-}
-
-void MainWindow::modifyFormat(std::uint16_t identifier) {
-    const FormatKind kind = formatOf(modifyFormatCommands, identifier);
-    const FormatPlace place{[this, kind] { return settings_.format(kind); },
-                            [this, kind](NumericFormat word) { settings_.setFormat(kind, word); }};
-    lastFocus_ = formatDialog_.open(workArea_->handle(), place);
-}
-
-void MainWindow::resetFormats(std::uint16_t) { settings_.resetFormats(); }
-
-void MainWindow::showAbout(std::uint16_t) { lastFocus_ = about_.open(workArea_->handle()); }
-
-void MainWindow::openHelp(std::uint16_t) { help_.open(handle(), helpFile(), displayTopic, 0); }
-
-void MainWindow::exit(std::uint16_t) { SendMessageW(handle(), WM_CLOSE, 0, 0); }
 
 // --- Buttons --------------------------------------------------------------------------------------------------------
 
@@ -640,7 +468,7 @@ void MainWindow::maximize(const Component&) { ShowWindow(handle(), SW_MAXIMIZE);
 
 void MainWindow::restore(const Component&) { ShowWindow(handle(), SW_RESTORE); }
 
-void MainWindow::closeByButton(const Component&) { exit(0); }
+void MainWindow::closeByButton(const Component&) { commands_->run(identifierOf(Command::Exit)); }
 
 void MainWindow::openMainMenu(const Component& button) { menu_.open(handle(), menuCorner(button)); }
 

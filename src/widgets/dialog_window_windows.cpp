@@ -3,26 +3,15 @@
 
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
+#include "widgets/screens.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-constexpr DWORD windowStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-constexpr DWORD extendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-
-Rectangle rectangleOf(const RECT& corners) {
-    return {corners.left, corners.top, corners.right - corners.left, corners.bottom - corners.top};
-}
-
-/// The screen, without its taskbar, that a window is on.
-Rectangle screenOf(HWND window) {
-    MONITORINFO description{};
-    description.cbSize = sizeof description;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &description);
-    return rectangleOf(description.rcWork);
-}
+constexpr WindowStyle windowStyle{WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
+                                  WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT};
 
 }  // namespace
 
@@ -82,8 +71,9 @@ WindowHandle DialogWindow::open(const Creation& creation) {
 
 void DialogWindow::create(const Creation& creation) {
     Procedure::registerClass(creation.windowClass);
-    window_.reset(CreateWindowExW(extendedStyle, creation.windowClass, wideText(creation.title).c_str(), windowStyle, 0,
-                                  0, 0, 0, creation.owner, nullptr, GetModuleHandleW(nullptr), this));
+    window_.reset(CreateWindowExW(windowStyle.extendedStyle, creation.windowClass, wideText(creation.title).c_str(),
+                                  windowStyle.style, 0, 0, 0, 0, creation.owner, nullptr, GetModuleHandleW(nullptr),
+                                  this));
     if (!window_) {
         raise(ErrorCode::InternalFault);
     }
@@ -96,12 +86,9 @@ void DialogWindow::create(const Creation& creation) {
 }
 
 void DialogWindow::place(Size client, WindowHandle owner) {
-    RECT frame{0, 0, client.width, client.height};
-    AdjustWindowRectEx(&frame, windowStyle, FALSE, extendedStyle);
-    RECT around{};
-    GetWindowRect(owner, &around);
-    const Rectangle size = rectangleOf(frame);
-    const Rectangle place = centredPlace({size.width, size.height}, rectangleOf(around), screenOf(owner));
+    const Rectangle window = windowAround(client, windowStyle);
+    const Rectangle place =
+        centredPlace({window.width, window.height}, windowRectangle(owner), screenOf(owner).usableArea);
     MoveWindow(handle(), place.left, place.top, place.width, place.height, FALSE);
 }
 

@@ -12,6 +12,7 @@
 #include "program.h"
 #include "resources.h"
 #include "shell/command_ids.h"
+#include "shell/menu_tree.h"
 #include "widgets/button.h"
 #include "widgets/toolkit.h"
 
@@ -289,6 +290,16 @@ TEST(Commands, TheSelectedFormatIsTheResults) {
         }
     }
 }
+
+void expectCommands(const std::vector<MenuEntry>& entries) {
+    for (const MenuEntry& entry : entries) {
+        const bool isChosen = entry.kind != MenuKind::Separator && entry.kind != MenuKind::Submenu;
+        EXPECT_EQ(Commands::knows(entry.identifier), isChosen) << entry.label;
+        expectCommands(entry.children);
+    }
+}
+
+TEST(Commands, EveryEntryOfTheMenuHasOne) { expectCommands(mainMenu()); }
 
 TEST(Commands, UnknownOnesAndThoseOfControlsDoNothing) {
     Program program;

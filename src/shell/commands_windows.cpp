@@ -1,0 +1,140 @@
+// The commands as a table, and each of them.
+#include "shell/commands.h"
+
+#include <algorithm>
+
+#include "shell/command_ids.h"
+#include "shell/menu_marks.h"
+#include "widgets/windows_api.h"
+
+namespace calquo {
+namespace {
+
+constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
+                                           identifierOf(Command::ButtonsAddGradients),
+                                           identifierOf(Command::ButtonsAddRadians)};
+
+}  // namespace
+
+/// What a command does; it is given its identifier.
+struct Commands::Row {
+    CommandRange range;
+    void (Commands::*act)(std::uint16_t);
+
+    constexpr Row(CommandRange commands, void (Commands::*action)(std::uint16_t)) : range(commands), act(action) {}
+    constexpr Row(Command command, void (Commands::*action)(std::uint16_t))
+        : Row(CommandRange{identifierOf(command), identifierOf(command)}, action) {}
+};
+
+const Commands::Row Commands::rows[] = {
+    {panelCommands, &Commands::togglePanel},
+    {Command::ClearWorkArea, &Commands::clearWorkArea},
+    {Command::ReadDefaultFile, &Commands::readDefaultFile},
+    {Command::SaveDefaultFile, &Commands::saveDefaultFile},
+    {Command::SelectDefaultFile, &Commands::chooseFile},
+    {Command::ReadFromFile, &Commands::chooseFile},
+    {Command::SaveAsFile, &Commands::chooseFile},
+    {Command::ReadDefaultAtStartup, &Commands::toggleOption},
+    {Command::SaveDefaultAtExit, &Commands::toggleOption},
+    {selectFormatCommands, &Commands::selectFormat},
+    {modifyFormatCommands, &Commands::modifyFormat},
+    {Command::ResetFormats, &Commands::resetFormats},
+    {Command::HelpContents, &Commands::openHelp},
+    {Command::About, &Commands::showAbout},
+    {Command::Exit, &Commands::exit},
+    {Command::HideButtons, &Commands::toggleHiddenButtons},
+    {Command::ButtonsAddDegrees, &Commands::toggleAngle},
+    {Command::ButtonsAddGradients, &Commands::toggleAngle},
+    {Command::ButtonsAddRadians, &Commands::toggleAngle},
+};
+
+const Commands::Row* Commands::rowOf(std::uint16_t identifier) {
+    const Row* const row =
+        std::ranges::find_if(rows, [&](const Row& candidate) { return candidate.range.contains(identifier); });
+    return row == std::end(rows) ? nullptr : row;
+}
+
+void Commands::run(std::uint16_t identifier) {
+    if (const Row* const row = rowOf(identifier)) {
+        (this->*row->act)(identifier);
+    }
+}
+
+bool Commands::isOpenDialog(WindowHandle window) const {
+    return window != nullptr && (window == formatDialog_.handle() || window == about_.handle());
+}
+
+// --- Panels and options ---------------------------------------------------------------------------------------------
+
+void Commands::togglePanel(std::uint16_t identifier) {
+    const bool open = !targets_.menu.isChecked(identifier);
+    if (open) {
+        targets_.panels.open(targets_.window, identifier);
+    } else {
+        targets_.panels.close(identifier);
+    }
+    targets_.menu.setChecked(identifier, open);
+    targets_.layOut();
+}
+
+void Commands::toggleOption(std::uint16_t identifier) {
+    const bool on = !targets_.menu.isChecked(identifier);
+    targets_.menu.setChecked(identifier, on);
+    if (const auto setting = booleanSettingOf(identifier)) {
+        targets_.settings.setBoolean(*setting, on);
+    }
+}
+
+void Commands::toggleHiddenButtons(std::uint16_t identifier) {
+    toggleOption(identifier);
+    targets_.layOut();
+}
+
+void Commands::toggleAngle(std::uint16_t identifier) {
+    const bool on = !targets_.menu.isChecked(identifier);
+    targets_.settings.chooseAngle(on ? angleOptionOf(identifier) : AngleOption::None);
+    for (const std::uint16_t entry : angleCommands) {
+        targets_.menu.setChecked(entry, on && entry == identifier);
+    }
+}
+
+// --- Work area and files --------------------------------------------------------------------------------------------
+
+void Commands::clearWorkArea(std::uint16_t) { targets_.workArea.clear(); }
+
+void Commands::readDefaultFile(std::uint16_t) { targets_.files.readDefault(); }
+
+void Commands::saveDefaultFile(std::uint16_t) { targets_.files.saveDefault(); }
+
+void Commands::chooseFile(std::uint16_t identifier) {
+    targets_.files.actOnChosenFile(static_cast<Command>(identifier));
+}
+
+// --- Formats --------------------------------------------------------------------------------------------------------
+
+void Commands::selectFormat(std::uint16_t identifier) {
+    targets_.settings.selectFormat(formatOf(selectFormatCommands, identifier));
+    for (std::uint16_t entry = selectFormatCommands.first; entry <= selectFormatCommands.last; ++entry) {
+        targets_.menu.setChecked(entry, entry == identifier);
+    }
+}
+
+void Commands::modifyFormat(std::uint16_t identifier) {
+    const FormatKind kind = formatOf(modifyFormatCommands, identifier);
+    Settings& settings = targets_.settings;
+    const FormatPlace place{[&settings, kind] { return settings.format(kind); },
+                            [&settings, kind](NumericFormat word) { settings.setFormat(kind, word); }};
+    targets_.keepFocusIn(formatDialog_.open(targets_.workArea.handle(), place));
+}
+
+void Commands::resetFormats(std::uint16_t) { targets_.settings.resetFormats(); }
+
+// --- Help and exit --------------------------------------------------------------------------------------------------
+
+void Commands::showAbout(std::uint16_t) { targets_.keepFocusIn(about_.open(targets_.workArea.handle())); }
+
+void Commands::openHelp(std::uint16_t) { help_.open(targets_.window, helpFile(), displayTopic, 0); }
+
+void Commands::exit(std::uint16_t) { SendMessageW(targets_.window, WM_CLOSE, 0, 0); }
+
+}  // namespace calquo

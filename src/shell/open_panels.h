@@ -1,0 +1,29 @@
+// The open button panels, one below the other in the order in which they were opened.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "panels/button_panel.h"
+#include "widgets/geometry.h"
+
+namespace calquo {
+
+class OpenPanels {
+public:
+    /// Opens a panel of the catalogue on `parent`, below the others; nothing happens for another identifier.
+    void open(WindowHandle parent, std::uint16_t identifier);
+    void close(std::uint16_t identifier);
+
+    std::vector<std::uint16_t> identifiers() const;
+    std::vector<Size> preferredSizes() const;
+
+    /// Moves each panel to its rectangle, and hides or shows them all.
+    void layOut(const std::vector<Rectangle>& rectangles, bool hidden);
+
+private:
+    std::vector<std::unique_ptr<ButtonPanel>> panels_;
+};
+
+}  // namespace calquo

@@ -1,0 +1,43 @@
+// The panels' windows.
+#include "shell/open_panels.h"
+
+#include "panels/catalogue.h"
+
+namespace calquo {
+
+void OpenPanels::open(WindowHandle parent, std::uint16_t identifier) {
+    if (const PanelEntry* const entry = findPanel(identifier)) {
+        panels_.push_back(std::make_unique<ButtonPanel>(parent, *entry));
+    }
+}
+
+void OpenPanels::close(std::uint16_t identifier) {
+    std::erase_if(panels_, [&](const auto& panel) { return panel->command() == identifier; });
+}
+
+std::vector<std::uint16_t> OpenPanels::identifiers() const {
+    std::vector<std::uint16_t> identifiers;
+    for (const auto& panel : panels_) {
+        identifiers.push_back(panel->command());
+    }
+    return identifiers;
+}
+
+std::vector<Size> OpenPanels::preferredSizes() const {
+    std::vector<Size> sizes;
+    for (const auto& panel : panels_) {
+        sizes.push_back(panel->preferredSize());
+    }
+    return sizes;
+}
+
+void OpenPanels::layOut(const std::vector<Rectangle>& rectangles, bool hidden) {
+    for (std::size_t index = 0; index < panels_.size(); ++index) {
+        ButtonPanel& panel = *panels_[index];
+        panel.moveTo(rectangles[index]);
+        panel.layOut();
+        hidden ? panel.hide() : panel.show();
+    }
+}
+
+}  // namespace calquo
