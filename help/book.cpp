@@ -2,11 +2,11 @@
 #include "book.h"
 
 #include <algorithm>
-#include <cctype>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 
+#include "html.h"
 #include "values/program.h"
 
 namespace calquo {
@@ -50,12 +50,6 @@ std::string siteMap(const std::string& items) {
            items + "</UL>\n</BODY>\n</HTML>\n";
 }
 
-std::string lowerCaseOf(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
-    return text;
-}
-
 /// A list of the help compiler, opened and closed level by level.
 class NestedList {
 public:
@@ -91,6 +85,7 @@ Book::Book(const std::filesystem::path& folder) {
                 return request.kind == "contents" ? std::string(contentsMark) : tables_.html(request);
             },
         .linkOfName = [this](std::string_view name) { return tables_.entryOf(name); },
+        .count = &Tables::count,
     };
     // In the second round every entry is known, and can be linked to.
     for (int round = 0; round < 2; ++round) {
@@ -213,7 +208,7 @@ std::string Book::siteMapOfIndex() const {
         }
     }
     std::sort(terms.begin(), terms.end(), [](const auto& a, const auto& b) {
-        return std::pair(lowerCaseOf(a.first), a.second) < std::pair(lowerCaseOf(b.first), b.second);
+        return std::pair(inLowerCase(a.first), a.second) < std::pair(inLowerCase(b.first), b.second);
     });
     std::string items;
     for (const auto& [term, target] : terms) {

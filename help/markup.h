@@ -1,18 +1,18 @@
-// The markup of the help's pages, a part of Markdown, and its way to HTML.
+// The help's pages, written in Markdown, and their way to HTML. A library reads the Markdown; this adds what is ours.
 //
-// "# " begins the page's title, "## " a section, "### " a subsection. Paragraphs, lists ("- " or "1. ", further lines
-// indented), tables ("| a | b |" with a row of dashes below the first) and blocks between "```" stand apart by empty
-// lines. Inside a line: `code`, **bold**, *slanted*, [text](page.md#section), [text](name:sin) for the entry of a name,
-// ![text](picture.png); a backslash takes its meaning from the character behind it.
+// A page has one title, "# ", then sections and subsections. [text](page.md#section) leads to another page,
+// [text](name:sin) to the entry of a name of the language. "{names}" stands for a number that the program knows; see
+// tables.h.
 //
 // A block ```lines shows lines of the work area, "EXPRESSION = RESULT", and so do the columns "Line" and "Result" of a
 // table and code in the text that holds " = ": tests evaluate them all. "<!-- calq: OPTION... -->" gives calq's options
 // for the next block or table. A block ```console shows commands behind "$ " with their output, ```text anything else.
+// Any other block, ```KIND ARGUMENT, stands for a table made from the program's own ones; see tables.h.
 //
-// "<!-- index: TERM; TERM -->" leads from terms of the index to the heading above it. "@KIND ARGUMENT", with further
-// lines up to an empty one, stands for a table made from the program's own ones; see tables.h.
+// "<!-- index: TERM; TERM -->" leads from terms of the index to the heading above it.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -22,7 +22,7 @@ namespace calquo {
 
 /// A place that the contents or the index leads to.
 struct Landmark {
-    std::string text;  ///< Plain ASCII without markup.
+    std::string text;  ///< Without markup.
     std::string anchor;
 };
 
@@ -47,21 +47,19 @@ struct TableRequest {
     std::vector<std::string> rows{};
 };
 
-/// What the pages get from elsewhere. Both throw std::invalid_argument for what there is not.
+/// What the pages get from elsewhere. All throw std::invalid_argument for what there is not.
 struct PageSources {
     std::function<std::string(const TableRequest&)> table;  ///< The HTML of a table.
     std::function<std::string(std::string_view)>
-        linkOfName;  ///< The entry of a name of the language, "PAGE.html#ANCHOR".
+        linkOfName;                                      ///< The entry of a name of the language, "PAGE.html#ANCHOR".
+    std::function<std::size_t(std::string_view)> count;  ///< How many there are of something: "names".
 };
 
-/// Reads a page's markup. Throws MarkupFault.
-Page readPage(const std::string& name, std::string_view markup, const PageSources& sources);
+/// Reads a page. Throws MarkupFault.
+Page readPage(const std::string& name, std::string_view markdown, const PageSources& sources);
 
-/// The HTML of a piece of text with its markup. Throws std::invalid_argument for a mark without its end.
-std::string textHtml(std::string_view text, const PageSources& sources);
-
-/// Plain text as HTML in ASCII; UTF-8 becomes character references.
-std::string escaped(std::string_view text);
+/// The HTML of a paragraph, without its tag. Throws std::invalid_argument for a text that is more or less than that.
+std::string textHtml(std::string_view markdown, const PageSources& sources);
 
 /// A line of the work area as HTML, its result in the style that it has there.
 std::string recordHtml(std::string_view record);

@@ -9,6 +9,7 @@
 #include "engine/function_table.h"
 #include "format/attributes.h"
 #include "format/value_writer.h"
+#include "html.h"
 #include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "units/named_constants.h"
@@ -40,12 +41,6 @@ constexpr DimensionRow dimensions[] = {
     {Dimension::Time, "Time", "s"},
     {Dimension::Volume, "Volume", "m3"},
 };
-
-std::string element(std::string_view tag, std::string_view content) {
-    std::string html = "<";
-    html.append(tag).append(">").append(content).append("</").append(tag.substr(0, tag.find(' '))).append(">");
-    return html;
-}
 
 std::string code(std::string_view text) { return element("code", escaped(text)); }
 
@@ -219,7 +214,7 @@ std::string panelTable(const PanelEntry& panel) {
 /// Texts that a page gives for names. All must have been asked for in the end.
 class Tables::Descriptions {
 public:
-    explicit Descriptions(const TableRequest& request) {
+    Descriptions(const Tables& tables, const TableRequest& request) : tables_(tables) {
         for (const std::string& row : request.rows) {
             const std::size_t end = std::min(row.find(' '), row.size());
             const std::size_t begin = std::min(row.find_first_not_of(' ', end), row.size());
@@ -231,19 +226,15 @@ public:
     /// The names in the order of the page.
     const std::vector<std::string>& names() const { return names_; }
 
-    /// The page's text for a name, or else the table's as markup that means itself.
+    /// The HTML of the page's text for a name, or else of the table's.
     std::string of(std::string_view name, std::string_view described) {
         const auto row = texts_.find(std::string(name));
         if (row == texts_.end()) {
-            std::string markup;
-            for (const char character : described) {
-                markup.append("\\").append(1, character);
-            }
-            return markup;
+            return escaped(described);
         }
-        std::string text = row->second;
+        std::string html = tables_.text(row->second);
         texts_.erase(row);
-        return text;
+        return html;
     }
 
     void expectAllUsed() const {
@@ -253,6 +244,7 @@ public:
     }
 
 private:
+    const Tables& tables_;
     std::vector<std::string> names_;
     std::map<std::string, std::string> texts_;
 };
@@ -272,7 +264,7 @@ std::string Tables::html(const TableRequest& request) {
             return (this->*row.write)(request);
         }
     }
-    throw std::invalid_argument("there is no table @" + request.kind);
+    throw std::invalid_argument("there is no block or table \"" + request.kind + "\"");
 }
 
 std::string Tables::entryOf(std::string_view name) const {
@@ -283,15 +275,26 @@ std::string Tables::entryOf(std::string_view name) const {
     return entries_[index].place;
 }
 
-std::string Tables::text(std::string_view markup) const {
-    return textHtml(markup, {.table = {}, .linkOfName = [this](std::string_view name) { return entryOf(name); }});
+std::string Tables::text(std::string_view markdown) const {
+    return textHtml(
+        markdown, {.table = {}, .linkOfName = [this](std::string_view name) { return entryOf(name); }, .count = count});
+}
+
+std::size_t Tables::count(std::string_view what) {
+    if (what == "names") {
+        return keywordCount;
+    }
+    if (what == "functions") {
+        const auto secondNames = std::count_if(functionTable.begin(), functionTable.end(),
+                                               [](const FunctionRow& row) { return !row.otherName.empty(); });
+        return functionTable.size() + static_cast<std::size_t>(secondNames);
+    }
+    throw std::invalid_argument("there is no count of \"" + std::string(what) + "\"");
 }
 
 std::string Tables::entry(const TableRequest& request, std::string_view name, const std::string& explanation,
                           std::string_view arguments) {
-    std::string anchor = "name-";
-    std::transform(name.begin(), name.end(), std::back_inserter(anchor),
-                   [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
+    const std::string anchor = "name-" + inLowerCase(name);
     Entry& known = entries_[lookup(name)];
     const std::string place = request.page + ".html#" + anchor;
     if (!known.place.empty() && known.place != place) {
@@ -306,7 +309,7 @@ std::string Tables::entry(const TableRequest& request, std::string_view name, co
 }
 
 std::string Tables::functions(const TableRequest& request) {
-    Descriptions descriptions(request);
+    Descriptions descriptions(*this, request);
     std::string rows = headRow({"Function", "What it gives", "Line", "Result"});
     for (const std::string& name : descriptions.names()) {
         const auto* const function = std::find_if(functionTable.begin(), functionTable.end(),
@@ -314,7 +317,7 @@ std::string Tables::functions(const TableRequest& request) {
         if (function == functionTable.end()) {
             throw std::invalid_argument("there is no function \"" + name + "\"");
         }
-        const std::string explanation = text(descriptions.of(name, function->description));
+        const std::string explanation = descriptions.of(name, function->description);
         std::string cells = entry(request, function->name, explanation, function->arguments);
         if (!function->otherName.empty()) {
             cells += "<br>" + entry(request, function->otherName, explanation, function->arguments);
@@ -331,13 +334,13 @@ std::string Tables::units(const TableRequest& request) {
     if (dimension == std::end(dimensions)) {
         throw std::invalid_argument("there is no dimension \"" + request.argument + "\"");
     }
-    Descriptions descriptions(request);
+    Descriptions descriptions(*this, request);
     std::string rows = headRow({"Unit", "What it is", "Size in " + code(dimension->baseUnit)});
     for (const Unit& unit : unitTable) {
         if (unit.dimension != dimension->dimension) {
             continue;
         }
-        const std::string explanation = text(descriptions.of(unit.name, unit.description));
+        const std::string explanation = descriptions.of(unit.name, unit.description);
         std::string cells = entry(request, unit.name, explanation);
         for (const Alias& alias : unit.aliases) {
             cells += "<br>" + entry(request, alias.name, explanation);
@@ -354,11 +357,11 @@ std::string Tables::units(const TableRequest& request) {
 }
 
 std::string Tables::prefixTable(const TableRequest& request) {
-    Descriptions descriptions(request);
+    Descriptions descriptions(*this, request);
     std::string rows = headRow({"Prefix", "Factor", "Factor written out"});
     for (const NamedConstant& prefix : prefixes) {
         const std::string power = resultOf("log(" + std::string(prefix.name) + ")", defaultFormats[0]);
-        const std::string explanation = text(descriptions.of(prefix.name, prefix.description));
+        const std::string explanation = descriptions.of(prefix.name, prefix.description);
         rows += element("tr", element("td class=\"name\"", entry(request, prefix.name, explanation)) +
                                   element("td", "10<sup>" + escaped(power) + "</sup>") + element("td", explanation)) +
                 "\n";
@@ -368,10 +371,10 @@ std::string Tables::prefixTable(const TableRequest& request) {
 }
 
 std::string Tables::constants(const TableRequest& request) {
-    Descriptions descriptions(request);
+    Descriptions descriptions(*this, request);
     std::string rows = headRow({"Name", "What it is", "Line", "Result"});
     for (const NamedConstant& constant : namedConstants) {
-        const std::string explanation = text(descriptions.of(constant.name, constant.description));
+        const std::string explanation = descriptions.of(constant.name, constant.description);
         rows += element("tr", element("td class=\"name\"", entry(request, constant.name, explanation)) +
                                   element("td", explanation) + exampleCells(constant.name)) +
                 "\n";

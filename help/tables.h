@@ -1,13 +1,13 @@
 // The tables of the help's pages that are made from the program's own: names with their examples' results, units,
 // output formats, button panels.
 //
-// @functions            rows "NAME TEXT": the functions of these names, explained by the texts
-// @units DIMENSION      all units of a dimension ("Length"); rows "NAME TEXT" replace descriptions
-// @prefixes, @constants the other names; rows as above
-// @names                every name of the language, with a link to its entry
-// @formats              the attributes of the output formats and what they are at first
-// @samples              rows "EXPRESSION": their results in every output format
-// @panels GROUP         the panels of a submenu ("Keypads"), their buttons and what these insert
+// functions             rows "NAME TEXT": the functions of these names, explained by the texts
+// units DIMENSION       all units of a dimension ("Length"); rows "NAME TEXT" replace descriptions
+// prefixes, constants   the other names; rows as above
+// names                 every name of the language, with a link to its entry
+// formats               the attributes of the output formats and what they are at first
+// samples               rows "EXPRESSION": their results in every output format
+// panels GROUP          the panels of a submenu ("Keypads"), their buttons and what these insert
 #pragma once
 
 #include <array>
@@ -28,6 +28,10 @@ public:
     /// "PAGE.html#ANCHOR" of a name's entry; empty as long as no table has explained it. Throws std::invalid_argument
     /// when the language has no such name.
     std::string entryOf(std::string_view name) const;
+
+    /// How many "names" the language has, how many of them are "functions". Throws std::invalid_argument for anything
+    /// else.
+    static std::size_t count(std::string_view what);
 
 private:
     class Descriptions;
@@ -50,7 +54,7 @@ private:
     /// Makes the entry of a name on the request's page; returns the name as code with its anchor.
     std::string entry(const TableRequest& request, std::string_view name, const std::string& explanation,
                       std::string_view arguments = {});
-    std::string text(std::string_view markup) const;
+    std::string text(std::string_view markdown) const;
 
     std::array<Entry, keywordCount + 1> entries_;  ///< By the names' indices.
 };

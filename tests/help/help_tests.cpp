@@ -145,23 +145,13 @@ TEST(Help, LinksLeadToPagesAndPlacesThatThereAre) {
     EXPECT_EQ(count, 0) << "a link is none of the above";
 }
 
-TEST(Help, EveryNameHasOneEntryAndALinkToItInTheListOfNames) {
+TEST(Help, TheListOfNamesLeadsToTheEntryOfEach) {
     const std::string& list = pages().at("names");
     for (std::size_t index = 1; index <= keywordCount; ++index) {
-        const std::string name(nameOf(index)), arguments(argumentsOf(index));
-        std::string anchor = "name-" + name;
-        std::transform(anchor.begin(), anchor.end(), anchor.begin(), lowerCase);
-        const std::string call = name + (arguments.empty() ? "" : "(" + arguments + ")");
-        const std::string entry = "id=\"" + anchor + "\"><code>" + call + "</code>";
-        std::size_t entries = 0;
-        for (const auto& [page, html] : pages()) {
-            if (html.find(entry) != std::string::npos) {
-                ++entries;
-                const std::string link = "<a href=\"" + page + ".html#" + anchor + "\"><code>" + name + "</code></a>";
-                EXPECT_NE(list.find(link), std::string::npos) << link;
-            }
-        }
-        EXPECT_EQ(entries, 1u) << entry;
+        const std::string name(nameOf(index));
+        std::string link = ".html#name-" + name;
+        std::transform(link.begin(), link.end(), link.begin(), lowerCase);
+        EXPECT_NE(list.find(link + "\"><code>" + name + "</code></a>"), std::string::npos) << name;
     }
 }
 
