@@ -72,6 +72,7 @@ private:
     std::size_t conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value);
     std::size_t postfix(std::size_t index, Value& value);
 
+    std::size_t nameOrGroup(std::size_t index, Value& value);
     std::size_t nameOperand(std::size_t index, Value& value);
     std::size_t unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value);
     std::size_t listCall(std::size_t nameEnd, const Binding& binding, Value& value);
@@ -81,6 +82,11 @@ private:
     std::size_t argumentList(std::size_t index);
     [[nodiscard]] bool isLiteralFrom(std::size_t index, const Value& value) const;
     [[nodiscard]] Value complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im);
+
+    /// Whether a name or a group begins at an index.
+    [[nodiscard]] bool isBareOperandAt(std::size_t index) const {
+        return isLetter(at(index)) || isAt(TokenClass::ListOpen, index);
+    }
 
     [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
     [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
@@ -214,11 +220,11 @@ std::size_t Evaluator::rightOperand(Level level, const Operator& found, Value& v
 /// A bare operand behind the value so far multiplies it, or is the source unit of the conversion that follows.
 std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
     const std::size_t start = skipBlanks(index);
-    Value right;
-    std::size_t end = start + bareOperand(start, right);
-    if (end == start) {
+    if (!isBareOperandAt(start)) {
         return 0;
     }
+    Value right;
+    const std::size_t end = start + bareOperand(start, right);
     const Operator found = readOperator(end);
     if (found.kind == TokenClass::Arrow) {
         const Value quantity = value;
@@ -264,17 +270,15 @@ std::size_t Evaluator::power(std::size_t index, Value& value) {
 /// signed operand = { "+" | "-" } postfix operand. The sign deliberately binds tighter than the power: -2^2 is 4.
 std::size_t Evaluator::signedOperand(std::size_t index, Value& value) {
     std::size_t start = index;
-    int factor = 1;
-    for (Sign sign = readSign(line, start, Blanks::Skip); sign.length != 0;
-         sign = readSign(line, start, Blanks::Skip)) {
-        factor *= sign.factor;
-        start += sign.length;
+    bool negative = false;
+    for (; isAt(TokenClass::Plus, start) || isAt(TokenClass::Minus, start); start = skipBlanks(start + 1)) {
+        negative = negative != isAt(TokenClass::Minus, start);
     }
     const std::size_t length = postfixOperand(start, value);
     if (length == 0) {
         return 0;
     }
-    if (factor < 0) {
+    if (negative) {
         setErrorPosition(position(index));
         value = neg(value);
     }
@@ -289,12 +293,12 @@ std::size_t Evaluator::postfixOperand(std::size_t index, Value& value) {
 
 std::size_t Evaluator::postfix(std::size_t index, Value& value) {
     const std::size_t start = skipBlanks(index);
-    const bool percent = isAt(TokenClass::Percent, start);
-    if (!percent && !isAt(TokenClass::Factorial, start)) {
+    const TokenClass kind = classOfCharacter(at(start));
+    if (kind != TokenClass::Percent && kind != TokenClass::Factorial) {
         return 0;
     }
     setErrorPosition(position(start));
-    value = percent ? pct(value) : fact(value);
+    value = kind == TokenClass::Percent ? pct(value) : fact(value);
     return start + 1 - index;
 }
 
@@ -306,27 +310,25 @@ std::size_t Evaluator::operand(std::size_t index, Value& value) {
         value = Value(number).at({position(index), end, -1, end});
         return length;
     }
-    if (const std::size_t length = nameOperand(index, value); length != 0) {
-        return length;
+    return nameOrGroup(index, value);
+}
+
+std::size_t Evaluator::nameOrGroup(std::size_t index, Value& value) {
+    if (!isBareOperandAt(index)) {
+        return 0;
     }
-    return group(index, value);
+    return isLetter(at(index)) ? nameOperand(index, value) : group(index, value);
 }
 
 /// bare operand = (name operand | group) [ "%" | "!" ]
 std::size_t Evaluator::bareOperand(std::size_t index, Value& value) {
-    std::size_t length = nameOperand(index, value);
-    if (length == 0) {
-        length = group(index, value);
-    }
+    const std::size_t length = nameOrGroup(index, value);
     return length == 0 ? 0 : length + postfix(index + length, value);
 }
 
 /// A name, with its arguments if it is a function.
 std::size_t Evaluator::nameOperand(std::size_t index, Value& value) {
     const std::size_t length = nameLength(line, index);
-    if (length == 0) {
-        return 0;
-    }
     const std::size_t nameEnd = index + length;
     const std::size_t keyword = lookup(line.substr(index, length));
     if (keyword == 0) {
@@ -413,9 +415,6 @@ std::size_t Evaluator::listCall(std::size_t nameEnd, const Binding& binding, Val
 
 /// group = "(" expression ")" | "(" expression ";" expression ")", the latter a complex number of two real parts.
 std::size_t Evaluator::group(std::size_t index, Value& value) {
-    if (!isAt(TokenClass::ListOpen, index)) {
-        return 0;
-    }
     const Nesting level(*this, index);
     std::size_t end = index + 1;
     const std::size_t length = expression(end, value);
