@@ -173,13 +173,8 @@ std::string helpText() {
 }
 
 void applyToEngine(const Options& options) {
-    if (options.decimalMark && options.groupMark) {
-        setMarks(*options.decimalMark, *options.groupMark);
-    } else if (options.decimalMark) {
-        setMarkCharacter(TokenClass::DecimalMark, *options.decimalMark);
-    } else if (options.groupMark) {
-        setMarkCharacter(TokenClass::GroupMark, *options.groupMark);
-    }
+    setMarks(options.decimalMark.value_or(markCharacter(TokenClass::DecimalMark)),
+             options.groupMark.value_or(markCharacter(TokenClass::GroupMark)));
     if (options.seed) {
         seedRandom(*options.seed);
     } else {

@@ -1,60 +1,49 @@
 // The character table. The decimal and the group mark are the user's to choose.
 #include "engine/characters.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace calquo {
 
-namespace {
-
-constexpr std::string_view initialCharacters =
-    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
-
-constexpr std::array<TokenClass, 256> classifyCharacters() {
-    std::array<TokenClass, 256> classes{};
-    for (std::size_t i = firstClassInTable; i < initialCharacters.size(); ++i) {
-        classes[static_cast<unsigned char>(initialCharacters[i])] = static_cast<TokenClass>(i - firstClassInTable);
+consteval CharacterTable::CharacterTable() {
+    constexpr std::string_view initial =
+        "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
+    static_assert(initial.size() == std::tuple_size_v<decltype(characters_)>);
+    initial.copy(characters_.data(), initial.size());
+    // The ">" at the end only completes an arrow.
+    for (std::size_t index = firstClass; index + 1 < characters_.size(); ++index) {
+        classes_[static_cast<unsigned char>(characters_[index])] = static_cast<TokenClass>(index - firstClass);
     }
-    return classes;
 }
 
-}  // namespace
+constinit CharacterTable characterTable;
 
-constinit std::array<char, 83> characterTable = [] {
-    std::array<char, 83> table{};
-    static_assert(initialCharacters.size() == table.size());
-    initialCharacters.copy(table.data(), table.size());
-    return table;
-}();
+bool CharacterTable::isFreeForMarks(char character) const {
+    const bool isMark = character == mark(TokenClass::DecimalMark) || character == mark(TokenClass::GroupMark);
+    const bool isTaken = std::find(characters_.begin(), characters_.end(), character) != characters_.end();
+    return character != '\0' && (isMark || !isTaken);
+}
 
-constinit std::array<TokenClass, 256> characterClasses = classifyCharacters();
-
-void setMarkCharacter(TokenClass tokenClass, char character) {
-    const std::string_view taken(characterTable.data(), characterTable.size());
-    if (character != '\0' && taken.find(character) == std::string_view::npos) {
-        char& entry = characterTable[firstClassInTable + static_cast<std::size_t>(tokenClass)];
-        characterClasses[static_cast<unsigned char>(entry)] = TokenClass::None;
-        characterClasses[static_cast<unsigned char>(character)] = tokenClass;
-        entry = character;
-    }
+void CharacterTable::setMark(TokenClass tokenClass, char character) {
+    characters_[indexOf(tokenClass)] = character;
+    classes_[static_cast<unsigned char>(character)] = tokenClass;
 }
 
 void setMarks(char decimalMark, char groupMark) {
-    // Exchanging them needs a third place: the group mark waits on a character that nothing else uses.
-    constexpr char waiting = '\x01';
     const char oldDecimal = markCharacter(TokenClass::DecimalMark);
     const char oldGroup = markCharacter(TokenClass::GroupMark);
-    setMarkCharacter(TokenClass::GroupMark, waiting);
-    setMarkCharacter(TokenClass::DecimalMark, decimalMark);
-    setMarkCharacter(TokenClass::GroupMark, groupMark);
-    // A refused group mark goes back to what it was, and when the decimal mark has taken that, both do.
-    if (markCharacter(TokenClass::GroupMark) == waiting) {
-        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    const char decimal = characterTable.isFreeForMarks(decimalMark) ? decimalMark : oldDecimal;
+    const bool keepsGroup = groupMark == decimal || !characterTable.isFreeForMarks(groupMark);
+    const char group = keepsGroup ? oldGroup : groupMark;
+    if (group == decimal) {
+        return;
     }
-    if (markCharacter(TokenClass::GroupMark) == waiting) {
-        setMarkCharacter(TokenClass::DecimalMark, oldDecimal);
-        setMarkCharacter(TokenClass::GroupMark, oldGroup);
+    for (const char old : {oldDecimal, oldGroup}) {
+        characterTable.classes_[static_cast<unsigned char>(old)] = TokenClass::None;
     }
+    characterTable.setMark(TokenClass::DecimalMark, decimal);
+    characterTable.setMark(TokenClass::GroupMark, group);
 }
 
 }  // namespace calquo

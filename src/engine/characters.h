@@ -28,31 +28,48 @@ enum class TokenClass : std::uint8_t {
     Power,  ///< "^" or "**"
     Percent,
     Factorial,
-    Arrow,         ///< "->"; the character of its row is not used for matching
-    SecondEquals,  ///< "="
-    BlankRun,      ///< zero or more blanks and tabs; has no character of its own
+    Arrow,  ///< "->"; the character of its row is not used for matching
 };
 
-/// The table: the digits in the order of their values, the underscore, then one character for each class that has one.
-constexpr std::size_t firstClassInTable = 63;
-extern std::array<char, 83> characterTable;
+/// The characters of the language, and the class of each. There is one table, and only setMarks changes it.
+class CharacterTable {
+public:
+    consteval CharacterTable();
+    CharacterTable(const CharacterTable&) = delete;
+    CharacterTable& operator=(const CharacterTable&) = delete;
+
+    [[nodiscard]] char digit(std::uint32_t value) const { return characters_[value]; }
+    [[nodiscard]] char mark(TokenClass tokenClass) const { return characters_[indexOf(tokenClass)]; }
+    /// None for a character that is of no class.
+    [[nodiscard]] TokenClass classOf(char character) const { return classes_[static_cast<unsigned char>(character)]; }
+    /// Whether a character may become one of the two marks: no other use of the language for it stands in the table.
+    [[nodiscard]] bool isFreeForMarks(char character) const;
+
+private:
+    friend void setMarks(char decimalMark, char groupMark);
+
+    /// After the 62 digits of both cases and the underscore.
+    static constexpr std::size_t firstClass = 63;
+    static constexpr std::size_t indexOf(TokenClass tokenClass) {
+        return firstClass + static_cast<std::size_t>(tokenClass);
+    }
+    void setMark(TokenClass tokenClass, char character);
+
+    std::array<char, 83> characters_{};  // the digits by their values, "_", a character for each class, ">"
+    std::array<TokenClass, 256> classes_{};
+};
+
+extern constinit CharacterTable characterTable;
 
 /// The table's character of a class that has one.
-inline char markCharacter(TokenClass tokenClass) {
-    return characterTable[firstClassInTable + static_cast<std::size_t>(tokenClass)];
-}
+inline char markCharacter(TokenClass tokenClass) { return characterTable.mark(tokenClass); }
 
-/// The class of each character that the table has one for, None for every other. Follows the table.
-extern std::array<TokenClass, 256> characterClasses;
+/// The class of a character that the table has one for, None for every other.
+inline TokenClass classOfCharacter(char character) { return characterTable.classOf(character); }
 
-inline TokenClass classOfCharacter(char character) { return characterClasses[static_cast<unsigned char>(character)]; }
-
-/// Puts a character into the table for a class. Refused silently, the table staying as it was, when the character
-/// already stands anywhere else in the table: a mark can never be a digit, a letter, an operator or the other mark.
-void setMarkCharacter(TokenClass tokenClass, char character);
-
-/// Sets both marks at once, so that they can be exchanged. One that is refused stays as it was; when the other has
-/// taken its character, both do.
+/// Sets both marks at once, so that they can be exchanged. One that has another use in the language stays as it was; so
+/// does the group mark when it is to be the same as the decimal mark, and both do when the decimal mark has taken its
+/// character.
 void setMarks(char decimalMark, char groupMark);
 
 constexpr bool isBlank(char character) { return character == ' ' || character == '\t'; }
@@ -81,7 +98,7 @@ constexpr std::uint32_t digitValue(char character) {
 }
 
 /// The digit character of a value of 0 to 35.
-inline char digitCharacter(std::uint32_t value) { return characterTable[value]; }
+inline char digitCharacter(std::uint32_t value) { return characterTable.digit(value); }
 
 /// From this base on "e" is a digit, and only the table's exponent mark begins an exponent.
 constexpr std::uint32_t firstBaseWithDigitE = 15;

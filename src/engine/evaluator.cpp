@@ -89,9 +89,7 @@ private:
     }
 
     [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
-    [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const {
-        return tokenLengthHere(kind, line, index) != 0;
-    }
+    [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const { return tokenLength(kind, line, index) != 0; }
     // Many levels ask for the blanks and for the operator at the same index, one after the other.
     /// Past the blanks at an index.
     std::size_t skipBlanks(std::size_t index) {

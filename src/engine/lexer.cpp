@@ -33,20 +33,6 @@ void checkBase(std::uint32_t base, std::size_t index) {
 
 }  // namespace
 
-std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_t index, Blanks blanks) {
-    if (blanks == Blanks::Keep) {
-        return tokenLengthHere(tokenClass, line, index);
-    }
-    const std::size_t before = blankLength(line, index);
-    if (tokenClass == TokenClass::BlankRun) {
-        return before;
-    }
-    const bool blankToken = tokenClass == TokenClass::Blank || tokenClass == TokenClass::Tab;
-    const std::size_t start = blankToken ? index : index + before;
-    const std::size_t length = tokenLengthHere(tokenClass, line, start);
-    return length == 0 ? 0 : start - index + length + blankLength(line, start + length);
-}
-
 Sign readSign(std::string_view line, std::size_t index, Blanks blanks) {
     const bool skip = blanks == Blanks::Skip;
     const std::size_t start = skip ? index + blankLength(line, index) : index;
@@ -63,7 +49,7 @@ BasePrefix readBasePrefix(std::string_view line, std::size_t index) {
     while (digits < 2 && isDecimalDigit(characterAt(line, index + digits))) {
         ++digits;
     }
-    if (digits == 0 || tokenLengthHere(TokenClass::BaseMark, line, index + digits) == 0) {
+    if (digits == 0 || tokenLength(TokenClass::BaseMark, line, index + digits) == 0) {
         return {};
     }
     const std::uint32_t base = readWholeNumber(line, index).number;
@@ -72,7 +58,7 @@ BasePrefix readBasePrefix(std::string_view line, std::size_t index) {
 }
 
 OutputBase readOutputBaseDirective(std::string_view line, std::size_t index) {
-    if (tokenLengthHere(TokenClass::BaseMark, line, index) == 0) {
+    if (tokenLength(TokenClass::BaseMark, line, index) == 0) {
         return {};
     }
     const WholeNumber number = readWholeNumber(line, index + 1);
@@ -86,7 +72,7 @@ OutputBase readOutputBaseDirective(std::string_view line, std::size_t index) {
 
 OutputBase readOutputBaseSuffix(std::string_view line, std::size_t index) {
     const std::size_t start = index + blankLength(line, index);
-    if (start == index || tokenLengthHere(TokenClass::BaseMark, line, start) == 0) {
+    if (start == index || tokenLength(TokenClass::BaseMark, line, start) == 0) {
         return {};
     }
     const WholeNumber number = readWholeNumber(line, start + 1);

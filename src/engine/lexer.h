@@ -8,7 +8,7 @@
 
 namespace calquo {
 
-/// Whether blanks and tabs around a token are counted into its length.
+/// Whether blanks and tabs around a sign are counted into its length.
 enum class Blanks { Keep, Skip };
 
 /// Number of blanks and tabs at an index.
@@ -45,11 +45,10 @@ inline OperatorToken readOperatorHere(std::string_view line, std::size_t index) 
 }
 
 /// Length of a token of the class that starts exactly at an index, 0 when none does.
-inline std::size_t tokenLengthHere(TokenClass tokenClass, std::string_view line, std::size_t index) {
+inline std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_t index) {
     const char character = characterAt(line, index);
     switch (tokenClass) {
         case TokenClass::None:
-        case TokenClass::BlankRun:
             return 0;
         case TokenClass::ExponentMark:
             return character == 'e' || character == 'E' || classOfCharacter(character) == tokenClass ? 1 : 0;
@@ -60,16 +59,10 @@ inline std::size_t tokenLengthHere(TokenClass tokenClass, std::string_view line,
             const OperatorToken found = readOperatorHere(line, index);
             return found.kind == tokenClass ? found.length : 0;
         }
-        case TokenClass::SecondEquals:
-            return classOfCharacter(character) == TokenClass::Equals ? 1 : 0;
         default:
             return classOfCharacter(character) == tokenClass ? 1 : 0;
     }
 }
-
-/// Number of characters of a token of the class that starts at an index, 0 when none does. With Blanks::Skip the blanks
-/// before and after the token count into the length. A BlankRun is only ever found with Blanks::Skip.
-std::size_t tokenLength(TokenClass tokenClass, std::string_view line, std::size_t index, Blanks blanks);
 
 struct Sign {
     int factor = 1;          ///< -1 for a minus

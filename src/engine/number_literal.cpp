@@ -64,7 +64,7 @@ private:
     [[nodiscard]] bool digitHere() const { return digitAt(index); }
 
     [[nodiscard]] bool exponentMarkHere() const {
-        return literal.base < firstBaseWithDigitE ? tokenLengthHere(TokenClass::ExponentMark, line, index) != 0
+        return literal.base < firstBaseWithDigitE ? tokenLength(TokenClass::ExponentMark, line, index) != 0
                                                   : at(TokenClass::ExponentMark);
     }
 

@@ -101,25 +101,12 @@ constexpr std::uint32_t numberOf(Setting setting) {
     return static_cast<std::uint32_t>(setting);
 }
 
-/// Whether the language has no use for a character, unless as one of the two marks.
-bool isFreeForMarks(char character) {
-    const auto taken = [&](std::size_t index) {
-        const bool isMark = index == firstClassInTable + numberOf(TokenClass::DecimalMark) ||
-                            index == firstClassInTable + numberOf(TokenClass::GroupMark);
-        return characterTable[index] == character && !isMark;
-    };
-    std::size_t index = 0;
-    while (index < characterTable.size() && !taken(index)) {
-        ++index;
-    }
-    return index == characterTable.size();
-}
-
 /// The first character of a text where it can be a mark, else `otherwise`.
 char markOf(const std::wstring& text, char otherwise) {
     const wchar_t first = text.empty() ? L'\0' : text.front();
     const bool isPrintable = first > L' ' && first <= L'~';
-    return isPrintable && isFreeForMarks(static_cast<char>(first)) ? static_cast<char>(first) : otherwise;
+    return isPrintable && characterTable.isFreeForMarks(static_cast<char>(first)) ? static_cast<char>(first)
+                                                                                  : otherwise;
 }
 
 }  // namespace

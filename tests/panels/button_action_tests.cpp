@@ -273,8 +273,8 @@ bool isToken(std::string_view text) {
     if (text.size() == 1 && digitValue(text.front()) != notADigit) {
         return true;
     }
-    for (std::uint8_t code = 0; code < static_cast<std::uint8_t>(TokenClass::BlankRun); ++code) {
-        if (tokenLengthHere(static_cast<TokenClass>(code), text, 0) == text.size()) {
+    for (std::uint8_t code = 0; code <= static_cast<std::uint8_t>(TokenClass::Arrow); ++code) {
+        if (tokenLength(static_cast<TokenClass>(code), text, 0) == text.size()) {
             return true;
         }
     }
