@@ -16,47 +16,47 @@
 namespace calquo {
 namespace {
 
-/// Walks over the digits of a literal from the first significant one on, and over zeros without end behind them.
+/// Walks over the digits of a literal from the first significant one on, and over zeros without end after them.
 class DigitReader {
 public:
-    explicit DigitReader(const LiteralDigits& literal) : text(literal.text), left(literal.count) {
-        while (left != 0 && peek() == 0) {
-            next();
-        }
-    }
+    explicit DigitReader(const LiteralDigits& literal) : text_(literal.text), left_(literal.count) { skipZeros(); }
 
     /// Digits from the current one on.
-    [[nodiscard]] std::int64_t remaining() const { return left; }
+    [[nodiscard]] std::int64_t remaining() const { return left_; }
 
     std::uint32_t next() {
-        if (left == 0) {
+        if (left_ == 0) {
             return 0;
         }
         const std::uint32_t digit = peek();
-        ++index;
-        --left;
+        ++index_;
+        --left_;
         return digit;
     }
 
     /// Whether a digit other than 0 follows.
     bool anyLeft() {
-        while (left != 0 && peek() == 0) {
-            next();
-        }
-        return left != 0;
+        skipZeros();
+        return left_ != 0;
     }
 
 private:
-    std::uint32_t peek() {
-        while (digitValue(text[index]) == notADigit) {
-            ++index;
+    void skipZeros() {
+        while (left_ != 0 && peek() == 0) {
+            next();
         }
-        return digitValue(text[index]);
     }
 
-    std::string_view text;
-    std::size_t index = 0;
-    std::int64_t left;
+    std::uint32_t peek() {
+        while (digitValue(text_[index_]) == notADigit) {
+            ++index_;
+        }
+        return digitValue(text_[index_]);
+    }
+
+    std::string_view text_;
+    std::size_t index_ = 0;
+    std::int64_t left_;
 };
 
 constexpr std::array<Real, 28> computePowersOfTen() {
@@ -85,19 +85,19 @@ std::optional<Real> exactPower(std::uint32_t base, std::uint64_t exponent) {
 
 /// One rounding of an exact product or quotient.
 std::optional<Real> shortValue(const LiteralDigits& literal) {
-    if (!literal.complete) {
+    if (!literal.significandFits) {
         return std::nullopt;
     }
-    if (literal.head == 0) {
+    if (literal.significand == 0) {
         return 0;
     }
-    const auto head = static_cast<Real>(literal.head);
+    const auto significand = static_cast<Real>(literal.significand);
     const auto magnitude = static_cast<std::uint64_t>(std::abs(literal.exponent));
     const std::optional<Real> scale = exactPower(literal.base, magnitude);
     if (!scale) {
         return std::nullopt;
     }
-    return literal.exponent < 0 ? head / *scale : head * *scale;
+    return literal.exponent < 0 ? significand / *scale : significand * *scale;
 }
 
 /// Compares the literal with (2 kept + 1) * 2^(exponent - 1), half-way between two extended numbers.

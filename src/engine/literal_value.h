@@ -11,9 +11,9 @@ namespace calquo {
 /// What the scanner finds of a literal: a whole number of digits, scaled by base^exponent.
 struct LiteralDigits {
     std::uint32_t base = 10;
-    std::string_view text;      ///< the digits; characters that are no digits of any base are marks, and skipped
-    std::uint64_t head = 0;     ///< the digits as one number, when they fit
-    bool complete = true;       ///< whether they fit
+    std::string_view text;          ///< the digits; characters that are no digits of any base are marks, and skipped
+    std::uint64_t significand = 0;  ///< the digits as one number, when they fit
+    bool significandFits = true;
     std::int64_t count = 0;     ///< number of digits in text
     std::int64_t exponent = 0;  ///< power of the base of the last digit
 };

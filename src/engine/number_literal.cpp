@@ -16,122 +16,115 @@ constexpr std::int64_t hugeExponent = std::int64_t{1} << 60;
 
 class Scanner {
 public:
-    Scanner(std::string_view text, std::size_t start) : line(text), index(start) {
-        const BasePrefix prefix = readBasePrefix(line, index);
-        literal.base = prefix.base;
-        prefixed = prefix.length != 0;
-        index += prefix.length;
-    }
-
-    /// Whether a literal begins here; behind a prefix it must.
-    [[nodiscard]] bool begins() const {
-        const bool found = at(TokenClass::DecimalMark) || digitHere();
-        if (!found && prefixed) {
+    /// Reads the base prefix; digits must follow it.
+    Scanner(std::string_view line, std::size_t start) : line_(line), index_(start) {
+        const BasePrefix prefix = readBasePrefix(line_, index_);
+        literal_.base = prefix.base;
+        prefixed_ = prefix.length != 0;
+        index_ += prefix.length;
+        if (prefixed_ && !digitHere() && !at(TokenClass::DecimalMark)) {
             if (isNameCharacter(here())) {
-                raiseAt(ErrorCode::InvalidDigit, index + 1);
+                raiseAt(ErrorCode::InvalidDigit, index_ + 1);
             }
-            raiseAt(ErrorCode::Incomplete, index);
+            raiseAt(ErrorCode::Incomplete, index_);
         }
-        return found;
     }
 
     Real scan() {
-        const std::size_t start = index;
+        const std::size_t start = index_;
         scanDigits();
         if (at(TokenClass::DecimalMark)) {
-            ++index;
+            ++index_;
             scanFraction();
         }
-        literal.text = line.substr(start, index - start);
-        if (exponentMarkHere()) {
-            ++index;
-            literal.exponent += scanExponent();
+        literal_.text = line_.substr(start, index_ - start);
+        if (at(TokenClass::ExponentMark)) {
+            ++index_;
+            literal_.exponent += scanExponent();
         }
         checkEnd();
-        const Real number = literalValue(literal);
+        const Real number = literalValue(literal_);
         if (number > largestFinite) {
-            raiseAt(ErrorCode::DomainRange, index);
+            raiseAt(ErrorCode::DomainRange, index_);
         }
         return number;
     }
 
-    [[nodiscard]] std::size_t end() const { return index; }
+    [[nodiscard]] std::size_t end() const { return index_; }
 
 private:
-    [[nodiscard]] char here() const { return characterAt(line, index); }
-    [[nodiscard]] bool at(TokenClass mark) const { return here() == markCharacter(mark); }
-    [[nodiscard]] bool digitAt(std::size_t place) const { return digitValue(characterAt(line, place)) < literal.base; }
-    [[nodiscard]] bool digitHere() const { return digitAt(index); }
-
-    [[nodiscard]] bool exponentMarkHere() const {
-        return literal.base < firstBaseWithDigitE ? tokenLength(TokenClass::ExponentMark, line, index) != 0
-                                                  : at(TokenClass::ExponentMark);
+    [[nodiscard]] char here() const { return characterAt(line_, index_); }
+    /// Where "e" is a digit it has been read as one.
+    [[nodiscard]] bool at(TokenClass mark) const { return tokenLength(mark, line_, index_) != 0; }
+    [[nodiscard]] bool digitAt(std::size_t index) const {
+        return digitValue(characterAt(line_, index)) < literal_.base;
     }
+    [[nodiscard]] bool digitHere() const { return digitAt(index_); }
 
     void scanDigits() {
         while (digitHere()) {
             takeDigit();
             if (at(TokenClass::GroupMark)) {
-                if (!digitAt(index + 1)) {
-                    raiseAt(ErrorCode::MisplacedGroupMark, index);
+                if (!digitAt(index_ + 1)) {
+                    raiseAt(ErrorCode::MisplacedGroupMark, index_);
                 }
-                ++index;
+                ++index_;
             }
         }
     }
 
     void takeDigit() {
         const std::uint32_t digit = digitValue(here());
-        literal.complete = literal.complete && literal.head <= (UINT64_MAX - digit) / literal.base;
-        if (literal.complete) {
-            literal.head = literal.head * literal.base + digit;
-        }
-        ++literal.count;
-        ++index;
+        literal_.significandFits =
+            literal_.significandFits &&
+            !__builtin_mul_overflow(literal_.significand, literal_.base, &literal_.significand) &&
+            !__builtin_add_overflow(literal_.significand, digit, &literal_.significand);
+        ++literal_.count;
+        ++index_;
     }
 
     void scanFraction() {
         if (at(TokenClass::GroupMark)) {
-            raiseAt(ErrorCode::MisplacedGroupMark, index);
+            raiseAt(ErrorCode::MisplacedGroupMark, index_);
         }
-        const std::int64_t wholeDigits = literal.count;
+        const std::int64_t wholeDigits = literal_.count;
         scanDigits();
-        if (literal.count == 0) {
-            raiseAt(ErrorCode::Incomplete, index);
+        if (literal_.count == 0) {
+            raiseAt(ErrorCode::Incomplete, index_);
         }
         if (at(TokenClass::DecimalMark)) {
-            raiseAt(ErrorCode::InvalidFormat, index);
+            raiseAt(ErrorCode::InvalidFormat, index_);
         }
-        literal.exponent = wholeDigits - literal.count;
+        literal_.exponent = wholeDigits - literal_.count;
     }
 
     std::int64_t scanExponent() {
-        const Sign sign = readSign(line, index, Blanks::Keep);
-        index += sign.length;
-        const bool wrongDigit = prefixed ? isNameCharacter(here()) : isDecimalDigit(here());
-        if (!digitHere() && !wrongDigit) {
-            raiseAt(ErrorCode::MissingExponent, index);
+        const Sign sign = readSign(line_, index_, Blanks::Keep);
+        index_ += sign.length;
+        // After a base prefix a letter is a digit in any case, if a wrong one.
+        if (!digitHere() && !(prefixed_ && isNameCharacter(here()))) {
+            raiseAt(ErrorCode::MissingExponent, index_);
         }
         std::int64_t exponent = 0;
-        for (; digitHere(); ++index) {
-            exponent = exponent < hugeExponent / 64 ? exponent * literal.base + digitValue(here()) : hugeExponent;
+        for (; digitHere(); ++index_) {
+            exponent = exponent < hugeExponent / 64 ? exponent * literal_.base + digitValue(here()) : hugeExponent;
         }
         return sign.factor * exponent;
     }
 
     void checkEnd() const {
         if (at(TokenClass::GroupMark)) {
-            raiseAt(ErrorCode::MisplacedGroupMark, index);
+            raiseAt(ErrorCode::MisplacedGroupMark, index_);
         }
-        if (isNameCharacter(here()) && (prefixed || !keywordAt(line, index))) {
-            raiseAt(ErrorCode::InvalidDigit, index + 1);
+        if (isNameCharacter(here()) && (prefixed_ || !keywordAt(line_, index_))) {
+            raiseAt(ErrorCode::InvalidDigit, index_ + 1);
         }
     }
 
-    std::string_view line;
-    std::size_t index;
-    bool prefixed = false;
-    LiteralDigits literal;
+    std::string_view line_;
+    std::size_t index_;
+    bool prefixed_ = false;
+    LiteralDigits literal_;
 };
 
 }  // namespace
@@ -143,9 +136,6 @@ std::size_t readNumber(std::string_view line, std::size_t index, Real& number) {
         return 0;
     }
     Scanner scanner(line, index);
-    if (!scanner.begins()) {
-        return 0;
-    }
     number = scanner.scan();
     return scanner.end() - index;
 }

@@ -97,35 +97,35 @@ void exactDigits(const ExtendedBits& bits, std::uint32_t base, int places, int t
 }  // namespace
 
 void DigitBuffer::append(std::uint32_t digit) {
-    if (length != 0 || digit != 0) {
-        characters[length] = digitCharacter(digit);
-        ++length;
+    if (length_ != 0 || digit != 0) {
+        characters_[length_] = digitCharacter(digit);
+        ++length_;
     }
 }
 
 void DigitBuffer::assign(UInt128 number, std::uint32_t base) {
     clear();
     while (number.high != 0) {
-        characters[length++] = digitCharacter(static_cast<std::uint32_t>(divideInPlace(number, base)));
+        characters_[length_++] = digitCharacter(static_cast<std::uint32_t>(divideInPlace(number, base)));
     }
     for (std::uint64_t word = number.low; word != 0; word /= base) {
-        characters[length++] = digitCharacter(static_cast<std::uint32_t>(word % base));
+        characters_[length_++] = digitCharacter(static_cast<std::uint32_t>(word % base));
     }
-    std::reverse(characters.begin(), characters.begin() + static_cast<std::ptrdiff_t>(length));
+    std::reverse(characters_.begin(), characters_.begin() + static_cast<std::ptrdiff_t>(length_));
 }
 
 void DigitBuffer::increment(std::uint32_t base) {
-    for (std::size_t i = length; i-- != 0;) {
-        const std::uint32_t digit = digitValue(characters[i]) + 1;
-        characters[i] = digitCharacter(digit % base);
+    for (std::size_t i = length_; i-- != 0;) {
+        const std::uint32_t digit = digitValue(characters_[i]) + 1;
+        characters_[i] = digitCharacter(digit % base);
         if (digit != base) {
             return;
         }
     }
     // Every digit was the highest one: all are 0 now, and a 1 goes ahead of them.
-    characters[length] = '0';
-    ++length;
-    characters[0] = '1';
+    characters_[length_] = '0';
+    ++length_;
+    characters_[0] = '1';
 }
 
 int leadingPlace(Real x, std::uint32_t base) {

@@ -12,14 +12,14 @@
 namespace calquo {
 
 /// The digits of a whole number, without leading zeros; none for 0. Long enough for the largest finite number in base 2
-/// with every place behind the mark that a format can ask for, and uninitialized but for what is used.
+/// with every place after the mark that a format can ask for, and uninitialized but for what is used.
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): clearing 16 KB would cost more than writing the digits.
 class DigitBuffer {
 public:
-    [[nodiscard]] std::string_view text() const { return {characters.data(), length}; }
-    [[nodiscard]] int count() const { return static_cast<int>(length); }
+    [[nodiscard]] std::string_view text() const { return {characters_.data(), length_}; }
+    [[nodiscard]] int count() const { return static_cast<int>(length_); }
 
-    void clear() { length = 0; }
+    void clear() { length_ = 0; }
     /// Appends a digit; a leading zero is dropped.
     void append(std::uint32_t digit);
     /// Replaces the content by the digits of a number.
@@ -28,8 +28,8 @@ public:
     void increment(std::uint32_t base);
 
 private:
-    std::array<char, 16500> characters;
-    std::size_t length = 0;
+    std::array<char, 16500> characters_;
+    std::size_t length_ = 0;
 };
 
 /// The digits of x * base^places for finite positive x, rounded to a whole number, halves away from zero.

@@ -62,9 +62,8 @@ Fraction closestFraction(Real x, UInt128 limit) {
         if (step.quotient > most) {
             const Fraction further = onwards(most);
             const UInt128 distance = whole - multiplyLow(most, part);
-            const bool closer =
-                most != UInt128{} && productBelow(distance, current.denominator, part, further.denominator);
-            return closer ? further : current;
+            // Without a further step that is the convergent before, which is never closer.
+            return productBelow(distance, current.denominator, part, further.denominator) ? further : current;
         }
         const Fraction next = onwards(step.quotient);
         before = current;

@@ -18,7 +18,7 @@ constexpr UInt128 largestDenominator = {UINT64_MAX / 2, UINT64_MAX};
 /// the smaller denominator.
 ///
 /// Method: the continued fraction of the exact binary value; the best approximation is the last convergent within the
-/// limit or the furthest semiconvergent behind it, whichever is closer (Khinchin, Continued Fractions, theorem 15).
+/// limit or the furthest semiconvergent after it, whichever is closer (Khinchin, Continued Fractions, theorem 15).
 /// @param x 0 <= x < 1
 /// @param limit 1 to largestDenominator
 Fraction closestFraction(Real x, UInt128 limit);

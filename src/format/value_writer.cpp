@@ -81,7 +81,7 @@ void appendWhole(std::string_view digits, bool grouped, int groupSize, std::stri
     }
 }
 
-/// Appends the digits behind the decimal mark, in groups counted from the mark.
+/// Appends the digits after the decimal mark, in groups counted from the mark.
 void appendFraction(std::size_t zeros, std::string_view digits, bool grouped, int groupSize, std::string& text) {
     const auto size = static_cast<std::size_t>(groupSize);
     for (std::size_t i = 0; i < zeros + digits.size(); ++i) {
@@ -92,8 +92,8 @@ void appendFraction(std::size_t zeros, std::string_view digits, bool grouped, in
     }
 }
 
-/// The digits of x with as many places behind the mark as the limits on fractional and on significant digits leave.
-/// Returns that number of places; negative when digits ahead of the mark are rounded away.
+/// The digits of x with as many places after the mark as the limits on fractional and on significant digits leave.
+/// Returns that number of places; negative when digits before the mark are rounded away.
 int limitedDigits(Real x, const Style& style, int fractionalDigits, int significantDigits, DigitBuffer& digits) {
     // With so many places the digits would not fit into a word, and starting from an estimate is quicker.
     constexpr int fewPlaces = 15;
@@ -113,7 +113,7 @@ int limitedDigits(Real x, const Style& style, int fractionalDigits, int signific
 
 class NumberWriter {
 public:
-    NumberWriter(const Style& numberStyle, std::string& output) : style(numberStyle), text(output) {}
+    NumberWriter(const Style& style, std::string& text) : style_(style), text_(text) {}
 
     void write(Real x);
 
@@ -127,8 +127,8 @@ private:
     void appendNumber(const DigitBuffer& digits, int places);
     void appendWholeNumber(UInt128 number, bool grouped);
 
-    Style style;
-    std::string& text;
+    Style style_;
+    std::string& text_;
 };
 
 /// Whether Automatic leaves fixed point: |log x| in the output base, rounded to a whole number, is above the limit.
@@ -149,10 +149,10 @@ Real madeWhole(Real x, std::uint32_t method) {
 void NumberWriter::write(Real x) {
     const bool negative = x < 0;
     const Real magnitude = negative ? -x : x;
-    switch (kindOf(style.word)) {
+    switch (kindOf(style_.word)) {
         case FormatKind::Automatic:
-            if (magnitude != 0 && exceedsExponentLimit(magnitude, style)) {
-                style.word = withKind(style.word, FormatKind::Scientific);
+            if (magnitude != 0 && exceedsExponentLimit(magnitude, style_)) {
+                style_.word = withKind(style_.word, FormatKind::Scientific);
                 writeScientific(magnitude, negative);
                 return;
             }
@@ -175,16 +175,16 @@ void NumberWriter::write(Real x) {
 
 void NumberWriter::appendSign(bool negative, bool zero) {
     if (negative && !zero) {
-        text += '-';
-    } else if (!zero && style.has('+')) {
-        text += '+';
+        text_ += '-';
+    } else if (!zero && style_.has('+')) {
+        text_ += '+';
     }
 }
 
 void NumberWriter::appendPrefix() {
-    if (style.base != 10) {
-        text += std::to_string(style.base);
-        text += markCharacter(TokenClass::BaseMark);
+    if (style_.base != 10) {
+        text_ += std::to_string(style_.base);
+        text_ += markCharacter(TokenClass::BaseMark);
     }
 }
 
@@ -195,34 +195,34 @@ void NumberWriter::appendNumber(const DigitBuffer& buffer, int places) {
     const std::size_t wholeDigits = digits.size() > fractional ? digits.size() - fractional : 0;
     std::string_view fraction = digits.substr(wholeDigits);
     std::size_t zeros = fractional - fraction.size();
-    if (!style.has('Z')) {
+    if (!style_.has('Z')) {
         // Without any digit but 0 find_last_not_of gives npos, and npos + 1 is 0.
         fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
         zeros = fraction.empty() ? 0 : zeros;
     }
     if (wholeDigits == 0) {
-        text += '0';
+        text_ += '0';
     } else if (places < 0) {
         std::string padded(digits);
         padded.append(static_cast<std::size_t>(-places), '0');
-        appendWhole(padded, style.has('W'), style.groupSize, text);
+        appendWhole(padded, style_.has('W'), style_.groupSize, text_);
     } else {
-        appendWhole(digits.substr(0, wholeDigits), style.has('W'), style.groupSize, text);
+        appendWhole(digits.substr(0, wholeDigits), style_.has('W'), style_.groupSize, text_);
     }
     if (zeros + fraction.size() != 0) {
-        text += markCharacter(TokenClass::DecimalMark);
-        appendFraction(zeros, fraction, style.has('F'), style.groupSize, text);
-    } else if (style.has('.')) {
-        text += markCharacter(TokenClass::DecimalMark);
+        text_ += markCharacter(TokenClass::DecimalMark);
+        appendFraction(zeros, fraction, style_.has('F'), style_.groupSize, text_);
+    } else if (style_.has('.')) {
+        text_ += markCharacter(TokenClass::DecimalMark);
     }
 }
 
 void NumberWriter::writeFixed(Real magnitude, bool negative) {
     constexpr int unlimited = 20000;
     DigitBuffer digits;
-    int places = style.limit('D', 0);
+    int places = style_.limit('D', 0);
     if (magnitude != 0) {
-        places = limitedDigits(magnitude, style, places, std::max(style.limit('S', unlimited), 1), digits);
+        places = limitedDigits(magnitude, style_, places, std::max(style_.limit('S', unlimited), 1), digits);
     }
     appendSign(negative, digits.count() == 0);
     appendPrefix();
@@ -230,37 +230,37 @@ void NumberWriter::writeFixed(Real magnitude, bool negative) {
 }
 
 void NumberWriter::writeScientific(Real magnitude, bool negative) {
-    const int significant = std::max(style.limit('S', 1), 1);
+    const int significant = std::max(style_.limit('S', 1), 1);
     DigitBuffer digits;
     int exponent = 0;
     if (magnitude != 0) {
-        exponent = leadingPlace(magnitude, style.base);
-        roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
+        exponent = leadingPlace(magnitude, style_.base);
+        roundedDigits(magnitude, style_.base, significant - 1 - exponent, digits);
         // The estimate was too low, or the rounding carried into a new leading digit.
         while (digits.count() != significant) {
             exponent += digits.count() - significant;
-            roundedDigits(magnitude, style.base, significant - 1 - exponent, digits);
+            roundedDigits(magnitude, style_.base, significant - 1 - exponent, digits);
         }
     }
     appendSign(negative, magnitude == 0);
     appendPrefix();
     appendNumber(digits, significant - 1);
-    if (exponent == 0 && !style.has('E')) {
+    if (exponent == 0 && !style_.has('E')) {
         return;
     }
-    text += style.base < firstBaseWithDigitE ? 'e' : markCharacter(TokenClass::ExponentMark);
-    text += exponent < 0 ? '-' : '+';
+    text_ += style_.base < firstBaseWithDigitE ? 'e' : markCharacter(TokenClass::ExponentMark);
+    text_ += exponent < 0 ? '-' : '+';
     appendWholeNumber({0, static_cast<std::uint64_t>(std::abs(exponent))}, false);
 }
 
 void NumberWriter::appendWholeNumber(UInt128 number, bool grouped) {
     if (number == UInt128{}) {
-        text += '0';
+        text_ += '0';
         return;
     }
     DigitBuffer digits;
-    digits.assign(number, style.base);
-    appendWhole(digits.text(), grouped, style.groupSize, text);
+    digits.assign(number, style_.base);
+    appendWhole(digits.text(), grouped, style_.groupSize, text_);
 }
 
 /// The largest number of as many digits as the field says; at least 1, and no more than the search takes, which only
@@ -278,27 +278,27 @@ UInt128 denominatorLimit(const Style& style) {
 
 void NumberWriter::writeFraction(Real magnitude, bool negative) {
     Real whole = std::trunc(magnitude);
-    Fraction fraction = closestFraction(magnitude - whole, denominatorLimit(style));
+    Fraction fraction = closestFraction(magnitude - whole, denominatorLimit(style_));
     if (fraction.numerator == fraction.denominator) {
         fraction = {};
         whole += 1;
     }
-    const bool rational = kindOf(style.word) == FormatKind::Rational;
+    const bool rational = kindOf(style_.word) == FormatKind::Rational;
     const bool isWhole = fraction.numerator == UInt128{};
     appendSign(negative, whole == 0 && isWhole);
     if (isWhole || (whole >= 1 && !rational)) {
         DigitBuffer digits;
         if (whole != 0) {
-            roundedDigits(whole, style.base, 0, digits);
+            roundedDigits(whole, style_.base, 0, digits);
         }
         appendPrefix();
         // Under Rational a whole number is a numerator without its denominator.
-        appendWhole(whole != 0 ? digits.text() : "0", rational ? style.has('F') : style.has('W'), style.groupSize,
-                    text);
+        appendWhole(whole != 0 ? digits.text() : "0", rational ? style_.has('F') : style_.has('W'), style_.groupSize,
+                    text_);
         if (isWhole) {
             return;
         }
-        text += ' ';
+        text_ += ' ';
     }
     UInt128 numerator = fraction.numerator;
     if (rational) {
@@ -306,10 +306,10 @@ void NumberWriter::writeFraction(Real magnitude, bool negative) {
         numerator = numerator + multiplyLow({0, static_cast<std::uint64_t>(whole)}, fraction.denominator);
     }
     appendPrefix();
-    appendWholeNumber(numerator, style.has('F'));
-    text += '/';
+    appendWholeNumber(numerator, style_.has('F'));
+    text_ += '/';
     appendPrefix();
-    appendWholeNumber(fraction.denominator, style.has('F'));
+    appendWholeNumber(fraction.denominator, style_.has('F'));
 }
 
 bool zeroedOut(Real x, NumericFormat word) {

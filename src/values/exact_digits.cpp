@@ -6,9 +6,10 @@
 namespace calquo {
 namespace {
 
-int digitsInWord(std::uint32_t base) {
+/// The most digits whose numbers keep to the bound of WideNatural's quotients.
+int digitsInQuotient(std::uint32_t base) {
     int count = 1;
-    while (wordPower<std::uint32_t>(base, static_cast<std::uint64_t>(count) + 1)) {
+    for (std::uint64_t power = base; power * base <= WideNatural::quotientBound; power *= base) {
         ++count;
     }
     return count;
@@ -16,23 +17,23 @@ int digitsInWord(std::uint32_t base) {
 
 }  // namespace
 
-ExactDigits::ExactDigits(UInt128 mantissa, int exponent, std::uint32_t numericBase, int places)
-    : base(numericBase), chunk(digitsInWord(numericBase)), rest(mantissa), unit(UInt128{0, 1}) {
-    (places < 0 ? rest : unit).multiplyByPower(base, static_cast<unsigned>(places < 0 ? -places : places));
-    (exponent < 0 ? unit : rest).shiftLeftBy(static_cast<unsigned>(exponent < 0 ? -exponent : exponent));
-    const unsigned shift = unit.bitsToNormalize();
-    rest.shiftLeftBy(shift);
-    unit.shiftLeftBy(shift);
+ExactDigits::ExactDigits(UInt128 mantissa, int exponent, std::uint32_t base, int places)
+    : base_(base), largestChunk_(digitsInQuotient(base)), rest_(mantissa), unit_(UInt128{0, 1}) {
+    (places < 0 ? rest_ : unit_).multiplyByPower(base, static_cast<unsigned>(places < 0 ? -places : places));
+    (exponent < 0 ? unit_ : rest_).shiftLeftBy(static_cast<unsigned>(exponent < 0 ? -exponent : exponent));
+    const unsigned shift = unit_.bitsToNormalize();
+    rest_.shiftLeftBy(shift);
+    unit_.shiftLeftBy(shift);
 }
 
 std::uint32_t ExactDigits::next(int count) {
-    rest.multiplyBy(*wordPower<std::uint32_t>(base, static_cast<std::uint64_t>(count)));
-    return rest.divideBy(unit);
+    rest_.multiplyBy(*wordPower<std::uint32_t>(base_, static_cast<std::uint64_t>(count)));
+    return rest_.divideBy(unit_);
 }
 
 bool ExactDigits::restIsHalfOrMore() {
-    rest.multiplyBy(2);
-    return compare(rest, unit) >= 0;
+    rest_.multiplyBy(2);
+    return compare(rest_, unit_) >= 0;
 }
 
 }  // namespace calquo

@@ -15,26 +15,26 @@ public:
     ExactDigits(UInt128 mantissa, int exponent, std::uint32_t base, int places);
 
     /// Whether the number is base^places or more, so that its digits do not fit. Asked before the first digit.
-    [[nodiscard]] bool tooLarge() const { return compare(rest, unit) >= 0; }
+    [[nodiscard]] bool tooLarge() const { return compare(rest_, unit_) >= 0; }
 
-    /// Most digits that one call of next can give: base^largestChunk is below 2^32.
-    [[nodiscard]] int largestChunk() const { return chunk; }
+    /// Most digits that one call of next can give: base^largestChunk is at most 2^31.
+    [[nodiscard]] int largestChunk() const { return largestChunk_; }
 
     /// The next count digits as one number, count at most largestChunk.
     std::uint32_t next(int count);
 
     /// Whether only zeros follow.
-    [[nodiscard]] bool done() const { return rest.isZero(); }
+    [[nodiscard]] bool done() const { return rest_.isZero(); }
 
     /// Whether what follows the digits given so far is half a unit of the last one or more. Ends the generation.
     bool restIsHalfOrMore();
 
 private:
-    std::uint32_t base;
-    int chunk;
+    std::uint32_t base_;
+    int largestChunk_;
     // What is left is rest / unit, a fraction of the last digit given.
-    WideNatural rest;
-    WideNatural unit;
+    WideNatural rest_;
+    WideNatural unit_;
 };
 
 }  // namespace calquo

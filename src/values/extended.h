@@ -40,7 +40,6 @@ struct ExtendedBits {
     /// Infinity or NaN.
     [[nodiscard]] bool special() const { return exponentField() == exponentMask; }
     [[nodiscard]] bool infinite() const { return special() && mantissa << 1 == 0; }
-    [[nodiscard]] bool notANumber() const { return special() && mantissa << 1 != 0; }
     /// A NaN is quiet when its mantissa's second bit is set.
     [[nodiscard]] bool quiet() const { return (mantissa >> 62 & 1) != 0; }
     /// Power of two of the mantissa's lowest bit.

@@ -15,7 +15,7 @@ class WideNatural {
 public:
     explicit WideNatural(UInt128 number);
 
-    [[nodiscard]] bool isZero() const { return used == 0; }
+    [[nodiscard]] bool isZero() const { return used_ == 0; }
 
     void multiplyBy(std::uint32_t factor);
     /// Multiplies by base^exponent.
@@ -25,8 +25,11 @@ public:
     /// How far the number can be shifted left until the top bit of its highest word is set. The number is not 0.
     [[nodiscard]] unsigned bitsToNormalize() const;
 
-    /// Replaces the number by its remainder modulo the divisor and returns the quotient, which must be below 2^32. The
-    /// divisor's highest word must have its top bit set (Knuth, The Art of Computer Programming, volume 2, 4.3.1 D).
+    static constexpr std::uint64_t quotientBound = std::uint64_t{1} << 31;
+
+    /// Replaces the number by its remainder modulo the divisor and returns the quotient, which must be below
+    /// quotientBound. The divisor's highest word must have its top bit set (Knuth, The Art of Computer Programming,
+    /// volume 2, 4.3.1 D).
     std::uint32_t divideBy(const WideNatural& divisor);
 
     friend int compare(const WideNatural& a, const WideNatural& b);
@@ -40,8 +43,8 @@ private:
     void addBack(const WideNatural& divisor);
     void trim();
 
-    std::array<std::uint32_t, capacity> words;  // lowest first; deliberately uninitialized beyond the used ones
-    std::size_t used = 0;
+    std::array<std::uint32_t, capacity> words_;  // lowest first; deliberately uninitialized beyond the used ones
+    std::size_t used_ = 0;
 };
 
 /// Negative, 0 or positive as a is below, equal to or above b.
