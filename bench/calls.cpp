@@ -28,7 +28,7 @@ std::chrono::steady_clock::duration timeOf(const std::string& line) {
 /// The slowest call of each name, the slowest names first.
 std::vector<Call> slowestCalls(std::size_t count) {
     std::vector<Call> slowest;
-    for (std::size_t keyword = 1; keyword <= keywordCount; ++keyword) {
+    for (std::size_t keyword = 1; keyword <= keywordCount(); ++keyword) {
         Call worst = {};
         for (std::string& line : hostileCalls(keyword)) {
             const auto time = timeOf(line);

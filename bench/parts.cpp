@@ -31,8 +31,8 @@ void add(const std::string& name, std::size_t times, std::function<void()> work)
 }
 
 void addTokens() {
-    add("Lexing/names", keywordCount, [] {
-        for (std::size_t keyword = 1; keyword <= keywordCount; ++keyword) {
+    add("Lexing/names", keywordCount(), [] {
+        for (std::size_t keyword = 1; keyword <= keywordCount(); ++keyword) {
             const std::string_view name = nameOf(keyword);
             benchmark::DoNotOptimize(lookup(name.substr(0, nameLength(name, 0))));
         }

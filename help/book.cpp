@@ -100,7 +100,7 @@ Book::Book(const std::filesystem::path& folder) {
             }
         }
     }
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         if (tables_.entryOf(nameOf(index)).empty()) {
             throw MarkupFault{"no page explains the name \"" + std::string(nameOf(index)) + "\""};
         }
@@ -199,7 +199,7 @@ std::string Book::siteMapOfContents() const {
 
 std::string Book::siteMapOfIndex() const {
     std::vector<std::pair<std::string, std::string>> terms;
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         terms.emplace_back(nameOf(index), tables_.entryOf(nameOf(index)));
     }
     for (const auto& [depth, page] : chapters_) {

@@ -19,29 +19,6 @@
 namespace calquo {
 namespace {
 
-struct DimensionRow {
-    Dimension dimension;
-    std::string_view name;
-    std::string_view baseUnit;
-};
-
-constexpr DimensionRow dimensions[] = {
-    {Dimension::Acceleration, "Acceleration", "mS2"},
-    {Dimension::Angle, "Angle", "rad"},
-    {Dimension::Area, "Area", "m2"},
-    {Dimension::Energy, "Energy", "joule"},
-    {Dimension::Force, "Force", "newton"},
-    {Dimension::Length, "Length", "m"},
-    {Dimension::LuminousIntensity, "Luminous intensity", "candela"},
-    {Dimension::Mass, "Mass", "kg"},
-    {Dimension::Power, "Power", "watt"},
-    {Dimension::Pressure, "Pressure", "pascal"},
-    {Dimension::Speed, "Speed", "mS"},
-    {Dimension::Temperature, "Temperature", "K"},
-    {Dimension::Time, "Time", "s"},
-    {Dimension::Volume, "Volume", "m3"},
-};
-
 std::string code(std::string_view text) { return element("code", escaped(text)); }
 
 std::string headRow(std::initializer_list<std::string_view> titles) {
@@ -282,7 +259,7 @@ std::string Tables::text(std::string_view markdown) const {
 
 std::size_t Tables::count(std::string_view what) {
     if (what == "names") {
-        return keywordCount;
+        return keywordCount();
     }
     if (what == "functions") {
         const auto secondNames = std::count_if(functionTable.begin(), functionTable.end(),
@@ -329,15 +306,16 @@ std::string Tables::functions(const TableRequest& request) {
 }
 
 std::string Tables::units(const TableRequest& request) {
-    const auto* const dimension = std::find_if(std::begin(dimensions), std::end(dimensions),
-                                               [&](const DimensionRow& row) { return row.name == request.argument; });
-    if (dimension == std::end(dimensions)) {
-        throw std::invalid_argument("there is no dimension \"" + request.argument + "\"");
+    const auto* const base = std::ranges::find_if(unitTable, [&](const Unit& unit) {
+        return unit.dimension == request.argument && unit.factor == 1 && unit.offset == 0;
+    });
+    if (base == unitTable.end()) {
+        throw std::invalid_argument("no unit measures \"" + request.argument + "\"");
     }
     Descriptions descriptions(*this, request);
-    std::string rows = headRow({"Unit", "What it is", "Size in " + code(dimension->baseUnit)});
+    std::string rows = headRow({"Unit", "What it is", "Size in " + code(base->name)});
     for (const Unit& unit : unitTable) {
-        if (unit.dimension != dimension->dimension) {
+        if (unit.dimension != request.argument) {
             continue;
         }
         const std::string explanation = descriptions.of(unit.name, unit.description);
@@ -386,7 +364,7 @@ std::string Tables::constants(const TableRequest& request) {
 std::string Tables::names(const TableRequest&) {
     std::string letters, html;
     char letter = '\0';
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         const auto initial = static_cast<char>(std::toupper(static_cast<unsigned char>(nameOf(index).front())));
         if (initial != letter) {
             html += letter == '\0' ? "" : "</table>\n";

@@ -10,9 +10,9 @@
 // panels GROUP          the panels of a submenu ("Keypads"), their buttons and what these insert
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/keywords.h"
 #include "markup.h"
@@ -56,7 +56,7 @@ private:
                       std::string_view arguments = {});
     std::string text(std::string_view markdown) const;
 
-    std::array<Entry, keywordCount + 1> entries_;  ///< By the names' indices.
+    std::vector<Entry> entries_ = std::vector<Entry>(keywordCount() + 1);  ///< By the names' indices.
 };
 
 }  // namespace calquo

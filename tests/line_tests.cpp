@@ -209,7 +209,7 @@ TEST(LineCoverage, EveryNameAndEveryErrorStandInSomeRow) {
             errors.insert(answer.substr(0, answer.find(')') + 1));
         }
     }
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         EXPECT_TRUE(names.contains(*namesIn(std::string(nameOf(index))).begin())) << nameOf(index);
     }
     for (std::uint32_t code = 1; code <= static_cast<std::uint32_t>(ErrorCode::DivisionByZero); ++code) {

@@ -119,7 +119,7 @@ void reportRefusedMark(std::optional<char> wanted, TokenClass mark, TokenClass o
 /// Every name with its arguments and what it means, a line each.
 void appendNames(std::string& text) {
     constexpr std::size_t column = 24;
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         std::string name(nameOf(index));
         if (!argumentsOf(index).empty()) {
             name.append("(").append(argumentsOf(index)).append(")");

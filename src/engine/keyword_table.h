@@ -38,45 +38,49 @@ constexpr int compareNames(std::string_view a, std::string_view b) {
     }
 }
 
-/// The names in the order of the comparison, between two empty rows that bound the search.
-inline constexpr std::array<Keyword, keywordCount + 2> keywordTable = [] {
-    std::array<Keyword, keywordCount + 2> table;
-    std::size_t count = 0;
-    // Writing past the table would not compile.
-    const auto append = [&](std::string_view name, const Binding& binding, std::string_view description,
-                            std::string_view arguments = {}) {
-        ++count;
-        table.at(count) = {name, binding, description, arguments};
-    };
+/// Calls `visit` with every name, in the order of the tables.
+template <typename Visit>
+constexpr void forEachName(const Visit& visit) {
     for (const FunctionRow& row : functionTable) {
-        append(row.name, row.binding, row.description, row.arguments);
+        visit(Keyword{row.name, row.binding, row.description, row.arguments});
         if (!row.otherName.empty()) {
-            append(row.otherName, row.binding, row.description, row.arguments);
+            visit(Keyword{row.otherName, row.binding, row.description, row.arguments});
         }
     }
     for (const Unit& unit : unitTable) {
-        append(unit.name, unit.value(), unit.description);
+        visit(Keyword{unit.name, unit.value(), unit.description});
         for (const Alias& alias : unit.aliases) {
-            append(alias.name, unit.value(), alias.description.empty() ? unit.description : alias.description);
+            visit(Keyword{alias.name, unit.value(), alias.description.empty() ? unit.description : alias.description});
         }
     }
     for (const NamedConstant& row : prefixes) {
-        append(row.name, row.value, row.description);
+        visit(Keyword{row.name, row.value, row.description});
     }
     for (const NamedConstant& row : namedConstants) {
-        append(row.name, row.value, row.description);
+        visit(Keyword{row.name, row.value, row.description});
     }
-    std::sort(table.begin() + 1, table.begin() + static_cast<std::ptrdiff_t>(count) + 1,
+}
+
+constexpr std::size_t countNames() {
+    std::size_t count = 0;
+    forEachName([&](const Keyword&) { ++count; });
+    return count;
+}
+
+/// An empty row, which stands for no name, and the names in the order of the comparison.
+inline constexpr std::array<Keyword, 1 + countNames()> keywordTable = [] {
+    std::array<Keyword, 1 + countNames()> table;
+    auto* next = table.begin();
+    forEachName([&](const Keyword& keyword) { *++next = keyword; });
+    std::sort(table.begin() + 1, table.end(),
               [](const Keyword& a, const Keyword& b) { return compareNames(a.name, b.name) < 0; });
     return table;
 }();
 
-static_assert(!keywordTable[keywordCount].name.empty() && keywordTable[keywordCount + 1].name.empty(),
-              "the language has 306 names");
-static_assert(std::adjacent_find(keywordTable.begin() + 1, keywordTable.end() - 1,
+static_assert(std::adjacent_find(keywordTable.begin(), keywordTable.end(),
                                  [](const Keyword& a, const Keyword& b) {
                                      return compareNames(a.name, b.name) >= 0;
-                                 }) == keywordTable.end() - 1,
+                                 }) == keywordTable.end(),
               "no two names may differ only in case");
 
 }  // namespace calquo

@@ -10,13 +10,13 @@
 namespace calquo {
 namespace {
 
-const Keyword& row(std::size_t index) { return keywordTable[index > keywordCount ? 0 : index]; }
+const Keyword& row(std::size_t index) { return keywordTable[index < keywordTable.size() ? index : 0]; }
 
 constexpr std::size_t letterCount = 26;
 
 constexpr std::size_t letterNumber(char letter) { return static_cast<std::size_t>(lowerCase(letter) - 'a'); }
 
-static_assert(std::all_of(keywordTable.begin() + 1, keywordTable.end() - 1,
+static_assert(std::all_of(keywordTable.begin() + 1, keywordTable.end(),
                           [](const Keyword& keyword) { return isLetter(keyword.name.front()); }));
 
 /// The index of the first name that begins with a letter or with a later one; behind the last letter's, the end.
@@ -24,7 +24,7 @@ constexpr std::array<std::size_t, letterCount + 1> firstWithLetter = [] {
     std::array<std::size_t, letterCount + 1> first{};
     std::size_t index = 1;
     for (std::size_t letter = 0; letter <= letterCount; ++letter) {
-        while (index <= keywordCount && letterNumber(keywordTable[index].name.front()) < letter) {
+        while (index < keywordTable.size() && letterNumber(keywordTable[index].name.front()) < letter) {
             ++index;
         }
         first[letter] = index;
@@ -33,6 +33,8 @@ constexpr std::array<std::size_t, letterCount + 1> firstWithLetter = [] {
 }();
 
 }  // namespace
+
+std::size_t keywordCount() { return keywordTable.size() - 1; }
 
 std::size_t lookup(std::string_view name) {
     const char first = characterAt(name, 0);

@@ -8,8 +8,8 @@
 
 namespace calquo {
 
-/// Number of names. A name is identified by its index, 1 to keywordCount, in the order of the comparison; 0 is no name.
-constexpr std::size_t keywordCount = 306;
+/// Number of names. A name is identified by its index, 1 to this number, in the order of the comparison; 0 is no name.
+std::size_t keywordCount();
 
 /// The index of a name, 0 when it is not in the table.
 std::size_t lookup(std::string_view name);
@@ -24,7 +24,7 @@ std::string_view descriptionOf(std::size_t index);
 /// What stands between a function's parentheses; empty for other names.
 std::string_view argumentsOf(std::size_t index);
 
-/// What an index of 1 to keywordCount stands for.
+/// What a name's index stands for.
 const Binding& bindingOf(std::size_t index);
 
 }  // namespace calquo

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "values/errors.h"
+
 namespace calquo {
 
 /// The attributes of one output format, packed as they are stored.
@@ -37,19 +39,20 @@ constexpr NumericFormat flags = 0x7F;                    ///< the attributes tha
 /// One row for each kind, in the order of FormatKind.
 struct FormatKindRow {
     std::string_view optionName;  ///< as given on a command line
-    std::string_view title;
-    std::string_view letters;  ///< the attributes that the kind has, in the order of its dialog
+    std::string_view menuLabel;   ///< The "&" marks the letter of its key.
+    std::string_view title;       ///< of its dialog
+    std::string_view letters;     ///< the attributes that the kind has, in the order of its dialog
     NumericFormat defaultWord;
 };
 
 inline constexpr std::array formatKinds = std::to_array<FormatKindRow>({
-    {"automatic", "Automatic Format", "GSDXIZWF.+", 0x032A1044},
-    {"scientific", "Scientific Format", "GSIZFE.+", 0x13222040},
-    {"fixed", "Fixed-Point Format", "GDIZWF.+", 0x232A2044},
-    {"currency", "Currency Format", "GDZWF.+", 0x33122034},
-    {"integer", "Integer Format", "GTW+", 0x4400200C},
-    {"rational", "Rational Format", "GDF+", 0x53180000},
-    {"fractional", "Fractional Format", "GDWF+", 0x63180004},
+    {"automatic", "&Automatic", "Automatic Format", "GSDXIZWF.+", 0x032A1044},
+    {"scientific", "&Scientific", "Scientific Format", "GSIZFE.+", 0x13222040},
+    {"fixed", "&Fixed point", "Fixed-Point Format", "GDIZWF.+", 0x232A2044},
+    {"currency", "&Currency", "Currency Format", "GDZWF.+", 0x33122034},
+    {"integer", "&Integer", "Integer Format", "GTW+", 0x4400200C},
+    {"rational", "&Rational", "Rational Format", "GDF+", 0x53180000},
+    {"fractional", "Frac&tional", "Fractional Format", "GDWF+", 0x63180004},
 });
 
 constexpr std::array<NumericFormat, formatKinds.size()> collectDefaultFormats() {
@@ -72,6 +75,11 @@ constexpr std::uint32_t getField(NumericFormat word, NumericFormat mask) {
 constexpr std::uint32_t largestIn(NumericFormat mask) { return mask >> std::countr_zero(mask); }
 
 /// Sets a field of the word. Raises 5 ("internal fault"), leaving the word as it is, when the value does not fit.
-void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value);
+inline void setField(NumericFormat& word, NumericFormat mask, std::uint32_t value) {
+    if (value > largestIn(mask)) {
+        raise(ErrorCode::InternalFault);
+    }
+    word = (word & ~mask) | value << std::countr_zero(mask);
+}
 
 }  // namespace calquo

@@ -2,6 +2,7 @@
 #include "panels/button_action.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "engine/characters.h"
@@ -52,26 +53,26 @@ SurroundCharacters insertAround(const LineSelection& line, const Surroundings& a
     return result;
 }
 
-/// A call of a function with the selection as its first argument, and `rest` behind it.
-Surroundings callOf(std::string_view name, std::string_view rest) {
-    return {std::string(name) + '(', std::string(rest) + ')'};
+/// A call of a function with the selection as its first argument, `rest` after it, and `after` after the call.
+Surroundings callOf(std::string_view name, std::string_view rest, std::string_view after = {}) {
+    return {std::string(name) + '(', std::string(rest).append(")").append(after)};
 }
 
 /// A function of the angle panels; the names of the inverse functions begin with "a". Deliberate: the hyperbolic
 /// functions are treated like the circular ones.
 Surroundings angleCall(std::string_view name, AngleOption angle) {
-    constexpr std::string_view units[] = {"", " deg", " grad", " rad"};
-    const std::string_view unit = units[static_cast<std::size_t>(angle)];
-    Surroundings call = callOf(name, "");
-    if (!unit.empty()) {
-        const bool inverse = lowerCase(name.front()) == 'a';
-        call.suffix = inverse ? ") ->" + std::string(unit) : std::string(unit) + ')';
+    const auto* const row = std::ranges::find(angleRows, angle, &AngleRow::option);
+    if (row == angleRows.end()) {
+        return callOf(name, "");
     }
-    return call;
+    if (lowerCase(name.front()) == 'a') {
+        return callOf(name, "", " ->" + std::string(row->suffix));
+    }
+    return callOf(name, row->suffix);
 }
 
-/// A name of the mathematical panels, with room for as many arguments as it takes.
-Surroundings mathematicalCall(std::string_view name) {
+/// A name of the language, with room for as many arguments as it takes.
+Surroundings callWithRoom(std::string_view name) {
     // Deliberate: what is selected comes second, and the caret goes to the first argument.
     if (name == "logB" || name == "root") {
         return {std::string(name) + "(; ", ")"};
@@ -87,24 +88,28 @@ Surroundings mathematicalCall(std::string_view name) {
     return callOf(name, rest);
 }
 
-/// A financial function with arguments to be typed over.
+/// A financial function. Arguments that are often the same are there to be typed over, values are left empty; the
+/// timing, which is last and need not be given, is left out.
 Surroundings financialCall(std::string_view name) {
-    struct Template {
-        std::string_view name, suffix;
+    struct Example {
+        std::string_view argument, text;
     };
-    constexpr Template templates[] = {
-        {"fv", "; 1 year; 5%; month; 0; month)"},
-        {"pv", "; 1 year; 5%; month; 0; month)"},
-        {"dur", "; ; 5%; month; 0; month) -> yr"},
-        {"rate", "; ; 1 year; month; 0; month)"},
+    constexpr Example examples[] = {
+        {"duration", "1 year"},      {"rate", "5%"}, {"compounding period", "month"}, {"payment", "0"},
+        {"payment period", "month"},
     };
-    std::string_view suffix = "; ; 1 year; 5%; month; month)";
-    for (const Template& row : templates) {
-        if (row.name == name) {
-            suffix = row.suffix;
+    constexpr std::string_view separator = "; ";
+    std::string_view arguments = argumentsOf(lookup(name));
+    std::string rest;
+    for (std::size_t end = arguments.find(separator); end != arguments.npos; end = arguments.find(separator)) {
+        arguments.remove_prefix(end + separator.size());
+        const std::string_view argument = arguments.substr(0, arguments.find(separator));
+        if (argument != "timing") {
+            const auto* const example = std::ranges::find(examples, argument, &Example::argument);
+            rest.append(separator).append(example == std::end(examples) ? "" : example->text);
         }
     }
-    return {std::string(name) + '(', std::string(suffix)};
+    return callOf(name, rest, name == "dur" ? " -> yr" : "");
 }
 
 /// Whether a suffix that asks for an output base stands at an index, be its base one that exists or not.
@@ -181,8 +186,6 @@ ButtonAction actionOf(std::uint16_t panel, const PanelButton& button, const Line
     const LineSelection inLine{line.text, std::min(line.begin, end), end};
     const std::string_view name = button.insertion;
     switch (entry->group) {
-        case PanelGroup::BitLevel:
-            return insertAround(inLine, callOf(name, name == "bNot" ? "" : "; "));
         case PanelGroup::Keypads:
             if (panel == numericBasePanel) {
                 return numericBaseAction(name, inLine);
@@ -190,14 +193,14 @@ ButtonAction actionOf(std::uint16_t panel, const PanelButton& button, const Line
             return name.empty() ? editingAction(button.symbol) : TypeCharacters{name};
         case PanelGroup::Financial:
             return insertAround(inLine, financialCall(name));
+        case PanelGroup::BitLevel:
         case PanelGroup::Mathematics:
-            return insertAround(inLine, mathematicalCall(name));
+        case PanelGroup::Units:
+            return insertAround(inLine, callWithRoom(name));
         case PanelGroup::Statistics:
             return insertAround(inLine, callOf(name, ""));
         case PanelGroup::Trigonometric:
             return insertAround(inLine, angleCall(name, angle));
-        case PanelGroup::Units:
-            return insertAround(inLine, {std::string(name), ""});
     }
     return NoAction{};
 }

@@ -7,12 +7,10 @@
 #include <string_view>
 #include <variant>
 
+#include "panels/angle_options.h"
 #include "panels/catalogue.h"
 
 namespace calquo {
-
-/// The unit that the buttons of angle functions add.
-enum class AngleOption : std::uint8_t { None, Degree, Gradient, Radian };
 
 /// The line that holds the selection, one character for each of the control's, and the selection's offsets in it.
 struct LineSelection {

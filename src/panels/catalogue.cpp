@@ -371,9 +371,6 @@ constexpr std::array<PanelEntry, std::size(panels)> catalogue = [] {
     return result;
 }();
 
-static_assert(catalogue.size() == 37);
-// Those that are stated one by one, and those from rows of keys.
-static_assert(buttons.size() == 288 + 100);
 static_assert(std::adjacent_find(catalogue.begin(), catalogue.end(),
                                  [](const PanelEntry& a, const PanelEntry& b) {
                                      return std::tie(a.group, a.identifier) >= std::tie(b.group, b.identifier);

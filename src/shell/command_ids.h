@@ -4,11 +4,12 @@
 #include <cstdint>
 
 #include "format/numeric_format.h"
+#include "panels/angle_options.h"
 #include "panels/catalogue.h"
 
 namespace calquo {
 
-/// The commands that have one identifier each; the panels and the formats have ranges below.
+/// The commands that have one identifier each; the panels, the formats and the angles have ranges below.
 enum class Command : std::uint16_t {
     WorkArea = 1,  ///< Carried by the work area's own notifications.
     ClearWorkArea = 0x120,
@@ -24,9 +25,6 @@ enum class Command : std::uint16_t {
     About = 0xA60,
     Exit = 0x7FFF,
     HideButtons = 0x8010,
-    ButtonsAddDegrees = 0x8031,
-    ButtonsAddGradients = 0x8032,
-    ButtonsAddRadians = 0x8033,
 };
 
 constexpr std::uint16_t identifierOf(Command command) { return static_cast<std::uint16_t>(command); }
@@ -41,6 +39,10 @@ struct CommandRange {
 
 /// Open or close the panel of the same identifier.
 inline constexpr CommandRange panelCommands{0xA001, 0xDFFE};
+
+/// Turn the angle option of the same identifier on and off.
+inline constexpr CommandRange angleCommands{angleRows.front().command, angleRows.back().command};
+static_assert(angleCommands.last - angleCommands.first + 1 == angleRows.size());
 
 /// Added to the identifier that selects a format, gives the one that modifies it.
 inline constexpr std::uint16_t modifyFormatBase = 0x4000;

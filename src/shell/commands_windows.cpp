@@ -8,13 +8,6 @@
 #include "widgets/windows_api.h"
 
 namespace calquo {
-namespace {
-
-constexpr std::uint16_t angleCommands[] = {identifierOf(Command::ButtonsAddDegrees),
-                                           identifierOf(Command::ButtonsAddGradients),
-                                           identifierOf(Command::ButtonsAddRadians)};
-
-}  // namespace
 
 /// What a command does; it is given its identifier.
 struct Commands::Row {
@@ -43,9 +36,7 @@ const Commands::Row Commands::rows[] = {
     {Command::About, &Commands::showAbout},
     {Command::Exit, &Commands::exit},
     {Command::HideButtons, &Commands::toggleHiddenButtons},
-    {Command::ButtonsAddDegrees, &Commands::toggleAngle},
-    {Command::ButtonsAddGradients, &Commands::toggleAngle},
-    {Command::ButtonsAddRadians, &Commands::toggleAngle},
+    {angleCommands, &Commands::toggleAngle},
 };
 
 const Commands::Row* Commands::rowOf(std::uint16_t identifier) {
@@ -93,8 +84,8 @@ void Commands::toggleHiddenButtons(std::uint16_t identifier) {
 void Commands::toggleAngle(std::uint16_t identifier) {
     const bool on = !targets_.menu.isChecked(identifier);
     targets_.settings.chooseAngle(on ? angleOptionOf(identifier) : AngleOption::None);
-    for (const std::uint16_t entry : angleCommands) {
-        targets_.menu.setChecked(entry, on && entry == identifier);
+    for (const AngleRow& row : angleRows) {
+        targets_.menu.setChecked(row.command, on && row.command == identifier);
     }
 }
 

@@ -9,37 +9,27 @@
 namespace calquo {
 namespace {
 
-template <typename Setting>
 struct Row {
     Command command;
-    Setting setting;
+    BooleanSetting setting;
 };
 
-constexpr Row<BooleanSetting> booleanRows[] = {
+constexpr Row booleanRows[] = {
     {Command::ReadDefaultAtStartup, BooleanSetting::ReadDefaultAtStartup},
     {Command::SaveDefaultAtExit, BooleanSetting::SaveDefaultAtExit},
     {Command::HideButtons, BooleanSetting::HideButtons},
 };
 
-constexpr Row<AngleOption> angleRows[] = {
-    {Command::ButtonsAddDegrees, AngleOption::Degree},
-    {Command::ButtonsAddGradients, AngleOption::Gradient},
-    {Command::ButtonsAddRadians, AngleOption::Radian},
-};
-
-template <typename Rows>
-auto settingIn(const Rows& rows, std::uint16_t identifier) {
-    const auto row =
-        std::ranges::find_if(rows, [&](const auto& entry) { return identifierOf(entry.command) == identifier; });
-    return row == std::end(rows) ? std::nullopt : std::optional(row->setting);
-}
-
 }  // namespace
 
-std::optional<BooleanSetting> booleanSettingOf(std::uint16_t identifier) { return settingIn(booleanRows, identifier); }
+std::optional<BooleanSetting> booleanSettingOf(std::uint16_t identifier) {
+    const auto* const row = std::ranges::find(booleanRows, static_cast<Command>(identifier), &Row::command);
+    return row == std::end(booleanRows) ? std::nullopt : std::optional(row->setting);
+}
 
 AngleOption angleOptionOf(std::uint16_t identifier) {
-    return settingIn(angleRows, identifier).value_or(AngleOption::None);
+    const auto* const row = std::ranges::find(angleRows, identifier, &AngleRow::command);
+    return row == angleRows.end() ? AngleOption::None : row->option;
 }
 
 bool isMarked(std::uint16_t identifier, const Settings& settings) {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "panels/button_action.h"
+#include "panels/angle_options.h"
 #include "shell/settings.h"
 
 namespace calquo {

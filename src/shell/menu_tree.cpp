@@ -1,7 +1,6 @@
 // The menus as tables. The panels come from their catalogue.
 #include "shell/menu_tree.h"
 
-#include <array>
 #include <utility>
 
 #include "format/numeric_format.h"
@@ -61,24 +60,20 @@ Entries buttonsMenu() {
         if (group == PanelGroup::Trigonometric) {
             Entries& children = entries.back().children;
             children.push_back(separator());
-            children.push_back(check("Buttons add \"&deg\"", Command::ButtonsAddDegrees));
-            children.push_back(check("Buttons add \"&grad\"", Command::ButtonsAddGradients));
-            children.push_back(check("Buttons add \"&rad\" (basic unit)", Command::ButtonsAddRadians));
+            for (const AngleRow& row : angleRows) {
+                children.push_back({MenuKind::Check, row.label, row.command});
+            }
         }
     }
     return entries;
 }
 
-constexpr std::array<std::string_view, formatKinds.size()> formatLabels = {
-    "&Automatic", "&Scientific", "&Fixed point", "&Currency", "&Integer", "&Rational", "Frac&tional",
-};
-
 /// An entry for each format, with the identifiers of a range.
 Entries formatEntries(MenuKind kind, CommandRange range) {
     Entries entries;
     std::uint16_t identifier = range.first;
-    for (const std::string_view label : formatLabels) {
-        entries.push_back({kind, label, identifier});
+    for (const FormatKindRow& row : formatKinds) {
+        entries.push_back({kind, row.menuLabel, identifier});
         ++identifier;
     }
     return entries;

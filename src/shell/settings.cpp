@@ -7,7 +7,6 @@
 
 #include "engine/characters.h"
 #include "format/attributes.h"
-#include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "values/errors.h"
 #include "widgets/toolkit.h"
@@ -82,17 +81,6 @@ bool fits(const Item& item, const SettingValue& value) {
     const auto* const text = std::get_if<std::wstring>(&value);
     return text == nullptr || !text->empty();
 }
-
-/// Which boolean each angle option is, the one that wins first.
-struct AngleRow {
-    AngleOption option;
-    BooleanSetting setting;
-};
-constexpr AngleRow angleRows[] = {
-    {AngleOption::Degree, BooleanSetting::ButtonsAddDegrees},
-    {AngleOption::Gradient, BooleanSetting::ButtonsAddGradients},
-    {AngleOption::Radian, BooleanSetting::ButtonsAddRadians},
-};
 
 constexpr std::uint32_t flagOf(BooleanSetting setting) { return 1u << (static_cast<std::uint32_t>(setting) - 1); }
 
@@ -180,7 +168,7 @@ void Settings::setBlock(BlockSetting setting, std::span<const std::uint8_t> data
 
 AngleOption Settings::angleOption() const {
     for (const AngleRow& row : angleRows) {
-        if (boolean(row.setting)) {
+        if (boolean(static_cast<BooleanSetting>(row.setting))) {
             return row.option;
         }
     }
@@ -189,7 +177,7 @@ AngleOption Settings::angleOption() const {
 
 void Settings::chooseAngle(AngleOption option) {
     for (const AngleRow& row : angleRows) {
-        setBoolean(row.setting, row.option == option);
+        setBoolean(static_cast<BooleanSetting>(row.setting), row.option == option);
     }
 }
 

@@ -10,19 +10,13 @@
 #include <vector>
 
 #include "format/numeric_format.h"
-#include "panels/button_action.h"
+#include "panels/angle_options.h"
 
 namespace calquo {
 
-/// The numbers of the items. The boolean of number n is bit n - 1 of the stored "Flags".
-enum class BooleanSetting : std::uint32_t {
-    ReadDefaultAtStartup = 5,
-    SaveDefaultAtExit = 6,
-    HideButtons = 8,
-    ButtonsAddDegrees = 9,
-    ButtonsAddGradients = 10,
-    ButtonsAddRadians = 11,
-};
+/// The numbers of the items. The boolean of number n is bit n - 1 of the stored "Flags"; those of the angle options
+/// stand with these.
+enum class BooleanSetting : std::uint32_t { ReadDefaultAtStartup = 5, SaveDefaultAtExit = 6, HideButtons = 8 };
 enum class NumberSetting : std::uint32_t { ButtonSize = 13, SelectedFormat = 14 };
 enum class TextSetting : std::uint32_t { DefaultFile = 16, DecimalMark = 17, GroupMark = 18 };
 enum class BlockSetting : std::uint32_t { WindowRect = 21, SelectedPanels = 22, NumericFormats = 23 };
@@ -90,9 +84,9 @@ public:
     /// changing nothing, for a size that the item does not have.
     void setBlock(BlockSetting setting, std::span<const std::uint8_t> data);
 
-    /// The first that is on of degree, gradient and radian.
+    /// The first of the angle options that is on.
     AngleOption angleOption() const;
-    /// Turns the three angle options off, then the given one on.
+    /// Turns the angle options off, then the given one on.
     void chooseAngle(AngleOption option);
 
     /// The side of a button in pixels, within 12 to 200; none when the toolkit's own size holds.

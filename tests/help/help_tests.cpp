@@ -147,7 +147,7 @@ TEST(Help, LinksLeadToPagesAndPlacesThatThereAre) {
 
 TEST(Help, TheListOfNamesLeadsToTheEntryOfEach) {
     const std::string& list = pages().at("names");
-    for (std::size_t index = 1; index <= keywordCount; ++index) {
+    for (std::size_t index = 1; index <= keywordCount(); ++index) {
         const std::string name(nameOf(index));
         std::string link = ".html#name-" + name;
         std::transform(link.begin(), link.end(), link.begin(), lowerCase);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -11,8 +12,11 @@
 #include <variant>
 
 #include "engine/evaluator.h"
+#include "engine/function_table.h"
 #include "engine/keywords.h"
 #include "engine/lexer.h"
+#include "units/named_constants.h"
+#include "units/unit_table.h"
 #include "values/errors.h"
 
 namespace calquo {
@@ -266,6 +270,23 @@ TEST(EveryButton, OfANameMakesALineThatEvaluates) {
             EXPECT_TRUE(evaluates(filled(line)));
         }
     });
+}
+
+TEST(EveryButton, TogetherStandForEveryFunctionUnitAndPrefix) {
+    std::set<std::string_view> names;
+    forEveryButton(
+        [&](const PanelEntry&, const PanelButton& button) { names.insert(nameOf(lookup(button.insertion))); });
+    names.erase("");  // of buttons that stand for no name
+    for (const FunctionRow& row : functionTable) {
+        const bool isLeftOut = row.name == "gcf" || row.name == "convert" || row.name == "int";
+        EXPECT_NE(names.contains(row.name), isLeftOut) << row.name;
+    }
+    for (const Unit& unit : unitTable) {
+        EXPECT_TRUE(names.contains(unit.name) || names.contains(unit.aliases.begin()->name)) << unit.name;
+    }
+    for (const NamedConstant& prefix : prefixes) {
+        EXPECT_TRUE(names.contains(prefix.name)) << prefix.name;
+    }
 }
 
 /// Whether a text is one token of the language: a digit, a mark, an operator, a blank or a base prefix.

@@ -40,10 +40,8 @@ std::string answer(const std::wstring& name, const Settings& settings) {
     std::ostringstream text;
     if (name == flags) {
         text << "-dgr"[static_cast<int>(settings.angleOption())];
-        for (const auto setting : {BooleanSetting::ReadDefaultAtStartup, BooleanSetting::SaveDefaultAtExit,
-                                   BooleanSetting::HideButtons, BooleanSetting::ButtonsAddDegrees,
-                                   BooleanSetting::ButtonsAddGradients, BooleanSetting::ButtonsAddRadians}) {
-            text << settings.boolean(setting);
+        for (const std::uint32_t setting : {5, 6, 8, 9, 10, 11}) {
+            text << settings.boolean(static_cast<BooleanSetting>(setting));
         }
     } else if (name == buttonSize) {
         text << settings.buttonSize().value_or(0);
