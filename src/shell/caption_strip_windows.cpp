@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "shell/program_title.h"
+#include "values/program.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -62,8 +62,7 @@ void CaptionStrip::paint(DrawingContext context, const Rectangle& place) const {
     SetTextColor(context, colorReference(textColorOn(ground())));
     const HGDIOBJ before = SelectObject(context, buttonFont());
     InflateRect(&area, -buttonSize() / 2, 0);
-    const std::wstring title = wideProgramTitle();
-    DrawTextW(context, title.c_str(), static_cast<int>(title.size()), &area,
+    DrawTextW(context, wideProgramTitle, -1, &area,
               DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(context, before);
 }

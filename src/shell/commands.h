@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <functional>
 
-#include "format/format_dialog.h"
-#include "shell/about.h"
+#include "dialogs/about.h"
+#include "dialogs/format_dialog.h"
 #include "shell/file_commands.h"
 #include "shell/help.h"
 #include "shell/main_menu.h"

@@ -1,8 +1,6 @@
 // Titles and texts, each in one place.
 #include "shell/file_messages.h"
 
-#include <string_view>
-
 #include "values/program.h"
 
 namespace calquo {
@@ -19,13 +17,8 @@ constexpr RequestRow requestRows[] = {
     {Command::SaveAsFile, FileDialog::Save, L"Saving the Work Area Content"},
 };
 
-std::wstring caption() {
-    constexpr std::string_view name = programName;
-    return {name.begin(), name.end()};
-}
-
 BoxText failureBox(BoxKind kind, const std::wstring& whatFailed, const std::wstring& file, const FileFault& fault) {
-    return {kind, caption(), whatFailed + L"\n" + file + L"\n\n" + reasonOf(fault)};
+    return {kind, wideProgramName, whatFailed + L"\n" + file + L"\n\n" + reasonOf(fault)};
 }
 
 constexpr wchar_t cannotRead[] = L"The work area cannot be read from the file";
@@ -62,7 +55,7 @@ BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
 }
 
 BoxText replaceUnreadFileBox(const std::wstring& file) {
-    return {BoxKind::YesNoOrCancel, caption(),
+    return {BoxKind::YesNoOrCancel, wideProgramName,
             L"The work area is about to be saved to its default file\n" + file +
                 L"\n\nWhat is in that file has not been read. Is the work area to replace it?\n\n"
                 L"No ends Calquo without saving; Cancel keeps it open."};

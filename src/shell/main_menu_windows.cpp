@@ -5,13 +5,11 @@
 
 #include "shell/menu_tree.h"
 #include "values/errors.h"
+#include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
-
-/// The labels are plain ASCII.
-std::wstring wideLabel(std::string_view label) { return {label.begin(), label.end()}; }
 
 MenuOwner makeMenu(const std::vector<MenuEntry>& entries) {
     MenuOwner menu(CreatePopupMenu());
@@ -29,7 +27,7 @@ MenuOwner makeMenu(const std::vector<MenuEntry>& entries) {
             item.fType = entry.kind == MenuKind::Radio ? MFT_STRING | MFT_RADIOCHECK : MFT_STRING;
             item.wID = entry.identifier;
         }
-        std::wstring label = wideLabel(entry.label);
+        std::wstring label = wideText(entry.label);
         item.dwTypeData = label.data();
         MenuOwner submenu;
         if (entry.kind == MenuKind::Submenu) {

@@ -8,9 +8,8 @@
 #include "shell/command_ids.h"
 #include "shell/menu_marks.h"
 #include "shell/menu_tree.h"
-#include "shell/program_icon.h"
-#include "shell/program_title.h"
 #include "values/errors.h"
+#include "values/program.h"
 #include "widgets/kept_exception.h"
 #include "widgets/painting.h"
 #include "widgets/screens.h"
@@ -86,19 +85,19 @@ struct MainWindow::Procedure {
         owner->window_.reset(window);
     }
 
-    static void registerClass(const std::wstring& name) {
+    static void registerClass(const wchar_t* name) {
         const HINSTANCE program = GetModuleHandleW(nullptr);
         WNDCLASSEXW description{};
         description.cbSize = sizeof description;
         description.lpfnWndProc = receive;
         description.hInstance = program;
-        description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(iconResource));
+        description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(programIcon));
         description.hIconSm =
-            static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(iconResource), IMAGE_ICON,
+            static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(programIcon), IMAGE_ICON,
                                           GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_SCROLLBAR + 1);
-        description.lpszClassName = name.c_str();
+        description.lpszClassName = name;
         if (RegisterClassExW(&description) == 0) {
             raise(ErrorCode::InternalFault);
         }
@@ -145,18 +144,17 @@ const MainWindow::CaptionRow MainWindow::captionRows[] = {
 };
 
 MainWindow::MainWindow(Settings& settings, UserDialogs dialogs) : settings_(settings), dialogs_(std::move(dialogs)) {
-    const std::wstring title = wideProgramTitle();
-    Procedure::registerClass(title);
+    Procedure::registerClass(wideProgramTitle);
     constexpr int systemsChoice = CW_USEDEFAULT;
     Rectangle place{systemsChoice, systemsChoice, systemsChoice, systemsChoice};
     if (const auto stored = settings_.windowRect()) {
         place = {stored->left, stored->top, stored->right - stored->left, stored->bottom - stored->top};
     }
     const HWND window =
-        CreateWindowExW(windowStyle.extendedStyle, title.c_str(), title.c_str(), windowStyle.style, place.left,
+        CreateWindowExW(windowStyle.extendedStyle, wideProgramTitle, wideProgramTitle, windowStyle.style, place.left,
                         place.top, place.width, place.height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (window == nullptr) {
-        UnregisterClassW(title.c_str(), GetModuleHandleW(nullptr));
+        UnregisterClassW(wideProgramTitle, GetModuleHandleW(nullptr));
         rethrowKeptException();
         raise(ErrorCode::InternalFault);
     }
@@ -169,7 +167,7 @@ MainWindow::~MainWindow() {
     if (window_) {
         destroyWindow(handle());
     }
-    UnregisterClassW(wideProgramTitle().c_str(), GetModuleHandleW(nullptr));
+    UnregisterClassW(wideProgramTitle, GetModuleHandleW(nullptr));
 }
 
 std::optional<MessageAnswer> MainWindow::hear(const Message& message) {

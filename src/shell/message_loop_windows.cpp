@@ -1,7 +1,7 @@
 // The message loop, and its answer to exceptions.
 #include "shell/message_loop.h"
 
-#include "widgets/dialog_window.h"
+#include "dialogs/dialog_window.h"
 #include "widgets/kept_exception.h"
 #include "widgets/windows_api.h"
 

@@ -1,15 +1,14 @@
 // The mutex of the running program, and its window.
 #include "shell/single_instance.h"
 
-#include "shell/program_title.h"
+#include "values/program.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 
 RunningMark::RunningMark() {
-    const std::wstring title = wideProgramTitle();
     SetLastError(ERROR_SUCCESS);
-    mutex_ = CreateMutexW(nullptr, TRUE, title.c_str());
+    mutex_ = CreateMutexW(nullptr, TRUE, wideProgramTitle);
     // Any error at all, such as a mutex of another user, counts as another instance.
     first_ = GetLastError() == ERROR_SUCCESS;
 }
@@ -25,7 +24,7 @@ RunningMark::~RunningMark() {
 }
 
 bool bringRunningProgramForward() {
-    const HWND window = FindWindowW(wideProgramTitle().c_str(), nullptr);
+    const HWND window = FindWindowW(wideProgramTitle, nullptr);
     if (window == nullptr) {
         return false;
     }

@@ -1,4 +1,5 @@
-// The program's name, its version and its maker's site, and the title made of them. The build system holds them.
+// The program's name, its version and its maker's site, which the build system holds, the title made of them, and the
+// icon.
 #pragma once
 
 namespace calquo {
@@ -6,8 +7,13 @@ namespace calquo {
 inline constexpr char programName[] = CALQUO_NAME;
 inline constexpr char programVersion[] = CALQUO_VERSION;
 inline constexpr char makersSite[] = CALQUO_SITE;
+inline constexpr wchar_t wideProgramName[] = L"" CALQUO_NAME;
 
 /// "Calquo 2.0 - calquo.example": the main window's title and class, and the name of a running program's mutex.
 inline constexpr char programTitle[] = CALQUO_NAME " " CALQUO_VERSION " - " CALQUO_SITE;
+inline constexpr wchar_t wideProgramTitle[] = L"" CALQUO_NAME " " CALQUO_VERSION " - " CALQUO_SITE;
+
+/// The number of the icon among the program's resources.
+inline constexpr int programIcon = 101;
 
 }  // namespace calquo

@@ -1,7 +1,5 @@
-// Sizes and places on the screen, in pixels.
+// Points, sizes and rectangles on the screen, in pixels.
 #pragma once
-
-#include <algorithm>
 
 namespace calquo {
 
@@ -27,16 +25,6 @@ struct Rectangle {
 
     friend bool operator==(const Rectangle&, const Rectangle&) = default;
 };
-
-/// The place of a window of `size` in the middle of `around`, moved onto `screen` as far as it fits there.
-constexpr Rectangle centredPlace(Size size, const Rectangle& around, const Rectangle& screen) {
-    const auto placed = [](int length, int begin, int room, int screenBegin, int screenRoom) {
-        const int latest = std::max(screenBegin, screenBegin + screenRoom - length);
-        return std::clamp(begin + (room - length) / 2, screenBegin, latest);
-    };
-    return {placed(size.width, around.left, around.width, screen.left, screen.width),
-            placed(size.height, around.top, around.height, screen.top, screen.height), size.width, size.height};
-}
 
 /// The dots per inch at which lengths in the source are meant.
 inline constexpr int designDotsPerInch = 96;

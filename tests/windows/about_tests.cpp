@@ -1,5 +1,5 @@
 // The window about the program.
-#include "shell/about.h"
+#include "dialogs/about.h"
 
 #include <gtest/gtest.h>
 

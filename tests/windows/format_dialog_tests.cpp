@@ -1,5 +1,5 @@
 // The dialogs of the formats on the main window: their controls, the keyboard, and what becomes of what is typed.
-#include "format/format_dialog.h"
+#include "dialogs/format_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,10 @@
 #include <string>
 
 #include "dialog_keys.h"
+#include "dialogs/form_layout.h"
 #include "program.h"
 #include "resources.h"
+#include "widgets/screens.h"
 
 namespace calquo {
 namespace {
@@ -372,22 +374,14 @@ TEST(FormatDialog, GetsTheFocusBackUnlessTheWindowIsClicked) {
 }
 
 TEST(FormatDialog, StandsOverTheWorkAreaAndOnTheScreen) {
-    RECT screen{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-    for (const POINT corner : {POINT{200, 100}, {-250, -100}, {screen.right - 150, screen.bottom - 120}}) {
+    for (const LONG left : {200, -250, 900}) {
         MemoryStorage storage;
-        Settings(storage).setWindowRect({corner.x, corner.y, corner.x + 500, corner.y + 400});
+        Settings(storage).setWindowRect({left, 100, left + 500, 500});
         Program program(std::move(storage));
         open(program, modifyFractional);
-        const RECT place = placeOf(dialog()), around = placeOf(program.workArea());
-        RECT common{};
-        IntersectRect(&common, &place, &screen);
-        EXPECT_TRUE(EqualRect(&common, &place)) << corner.x;
-        EXPECT_TRUE(IntersectRect(&common, &place, &around)) << corner.x;
-        if (corner.x == 200) {
-            EXPECT_NEAR(place.left + place.right, around.left + around.right, 1);
-            EXPECT_NEAR(place.top + place.bottom, around.top + around.bottom, 1);
-        }
+        const Rectangle stands = windowRectangle(dialog());
+        EXPECT_EQ(stands, dialogRectangle({stands.width, stands.height}, windowRectangle(program.workArea()),
+                                          screenOf(program.handle()).usableArea));
     }
 }
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "held_key.h"
-#include "widgets/dialog_window.h"
+#include "dialogs/dialog_window.h"
 #include "widgets/kept_exception.h"
 
 namespace calquo {

@@ -1,6 +1,7 @@
 // The dialog's window class, its messages and its place.
-#include "widgets/dialog_window.h"
+#include "dialogs/dialog_window.h"
 
+#include "dialogs/form_layout.h"
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
 #include "widgets/screens.h"
@@ -88,7 +89,7 @@ void DialogWindow::create(const Creation& creation) {
 void DialogWindow::place(Size client, WindowHandle owner) {
     const Rectangle window = windowAround(client, windowStyle);
     const Rectangle place =
-        centredPlace({window.width, window.height}, windowRectangle(owner), screenOf(owner).usableArea);
+        dialogRectangle({window.width, window.height}, windowRectangle(owner), screenOf(owner).usableArea);
     MoveWindow(handle(), place.left, place.top, place.width, place.height, FALSE);
 }
 

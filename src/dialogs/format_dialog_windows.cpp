@@ -1,12 +1,12 @@
 // The format dialog's window: its controls, and what happens when its user has done with them.
-#include "format/format_dialog.h"
+#include "dialogs/format_dialog.h"
 
 #include <algorithm>
 #include <utility>
 
+#include "dialogs/form_layout.h"
 #include "values/errors.h"
 #include "widgets/fonts.h"
-#include "widgets/form_layout.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"

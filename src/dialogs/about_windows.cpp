@@ -1,11 +1,10 @@
 // The window about the program, and its picture, which is the program's icon.
-#include "shell/about.h"
+#include "dialogs/about.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "shell/program_icon.h"
 #include "values/program.h"
 #include "widgets/bitmap_image.h"
 #include "widgets/label.h"
@@ -28,7 +27,7 @@ BitmapOwner paintIcon(int side) {
     const auto load = [side](HINSTANCE program, LPCWSTR name) {
         return static_cast<HICON>(LoadImageW(program, name, IMAGE_ICON, side, side, LR_DEFAULTCOLOR));
     };
-    const HICON own = load(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(iconResource));
+    const HICON own = load(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(programIcon));
     const HICON icon = own != nullptr ? own : CopyIcon(LoadIconW(nullptr, IDI_APPLICATION));
     const HDC screen = GetDC(nullptr);
     BitmapOwner bitmap(CreateCompatibleBitmap(screen, side, side));

@@ -1,5 +1,5 @@
 // The arithmetic of a dialog's layout.
-#include "widgets/form_layout.h"
+#include "dialogs/form_layout.h"
 
 #include <algorithm>
 
@@ -44,6 +44,15 @@ Columns columnsOf(const FormParts& parts) {
 }
 
 }  // namespace
+
+Rectangle dialogRectangle(Size size, const Rectangle& around, const Rectangle& usableArea) {
+    const auto placed = [](int length, int begin, int room, int screenBegin, int screenRoom) {
+        const int latest = std::max(screenBegin, screenBegin + screenRoom - length);
+        return std::clamp(begin + (room - length) / 2, screenBegin, latest);
+    };
+    return {placed(size.width, around.left, around.width, usableArea.left, usableArea.width),
+            placed(size.height, around.top, around.height, usableArea.top, usableArea.height), size.width, size.height};
+}
 
 int formWidth(const FormParts& parts) {
     const auto scaled = [&](int pixels) { return scaledToScreen(pixels, parts.dotsPerInch); };

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "widgets/dialog_window.h"
+#include "dialogs/dialog_window.h"
 #include "widgets/panel.h"
 
 namespace calquo {

@@ -1,5 +1,5 @@
-// Places on a dialog, worked out from sizes alone, on screens of every resolution.
-#include "widgets/form_layout.h"
+// Where a dialog and its parts stand, worked out from sizes alone, on screens of every resolution.
+#include "dialogs/form_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +46,20 @@ TEST(FormLayout, KeepsEverythingApartAndWithinItsMargins) {
         EXPECT_EQ(layout.client.width - right, left);
         EXPECT_EQ(layout.client.height - bottom, left);
     }
+}
+
+TEST(DialogRectangle, IsInTheMiddleOfItsWindowAndOnTheScreen) {
+    constexpr Rectangle usableArea{100, 40, 1000, 800};
+    const std::pair<Rectangle, Point> rows[] = {
+        {{300, 200, 500, 400}, {400, 300}},  {{301, 201, 500, 400}, {401, 301}}, {{500, 300, 20, 10}, {360, 205}},
+        {{-500, -300, 300, 200}, {100, 40}}, {{900, 700, 500, 400}, {800, 640}}, {{0, 3000, 0, 0}, {100, 640}},
+    };
+    for (const auto& [around, corner] : rows) {
+        EXPECT_EQ(dialogRectangle({300, 200}, around, usableArea), (Rectangle{corner.left, corner.top, 300, 200}))
+            << around.left;
+    }
+    // What is larger than the screen begins in its corner.
+    EXPECT_EQ(dialogRectangle({1001, 900}, {300, 200, 500, 400}, usableArea), (Rectangle{100, 40, 1001, 900}));
 }
 
 }  // namespace

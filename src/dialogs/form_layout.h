@@ -1,4 +1,4 @@
-// Where the parts of a dialog stand: rows of labels and controls, room for a message, and a row of buttons.
+// Where a dialog stands, and its parts on it: rows of labels and controls, room for a message, and a row of buttons.
 #pragma once
 
 #include <vector>
@@ -6,6 +6,10 @@
 #include "widgets/geometry.h"
 
 namespace calquo {
+
+/// The rectangle of a dialog of `size` in the middle of `around`, moved into `usableArea`, a screen's, as far as it
+/// fits there; where it does not, its upper left corner is in view.
+Rectangle dialogRectangle(Size size, const Rectangle& around, const Rectangle& usableArea);
 
 /// A control with its label at the left of it. Without a label, a size of 0, it stands at the left edge.
 struct FormRow {

@@ -1,5 +1,5 @@
 // The working values of a format's dialog, and its words for faults.
-#include "format/attribute_controls.h"
+#include "dialogs/attribute_controls.h"
 
 #include <algorithm>
 #include <charconv>

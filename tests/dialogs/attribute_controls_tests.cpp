@@ -1,5 +1,5 @@
 // The dialogs of the formats without their windows: controls, numbers as they are typed, and what applying does.
-#include "format/attribute_controls.h"
+#include "dialogs/attribute_controls.h"
 
 #include <gtest/gtest.h>
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "format/attribute_controls.h"
+#include "dialogs/attribute_controls.h"
+#include "dialogs/dialog_window.h"
 #include "widgets/check_box.h"
-#include "widgets/dialog_window.h"
 #include "widgets/label.h"
 #include "widgets/number_field.h"
 #include "widgets/push_button.h"
