@@ -8,8 +8,10 @@
 #include <span>
 #include <vector>
 
+#include "engine/complex_literal.h"
 #include "engine/keywords.h"
 #include "engine/lexer.h"
+#include "engine/line_reader.h"
 #include "engine/number_literal.h"
 #include "numeric/checks.h"
 #include "numeric/complex_arithmetic.h"
@@ -22,19 +24,10 @@
 namespace calquo {
 namespace {
 
-std::int32_t position(std::size_t index) { return static_cast<std::int32_t>(index); }
-
-/// The binary operator that stands at an index, with the blanks around it skipped.
-struct Operator {
-    TokenClass kind = TokenClass::None;
-    std::size_t start = 0;  ///< its first character
-    std::size_t end = 0;    ///< where its right operand should begin
-};
-
 class Evaluator {
 public:
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the storage of the arguments needs no value.
-    Evaluator(std::string_view text, int limit) : line(text), nestingLimit(limit) {}
+    Evaluator(std::string_view text, int limit) : line_(text), nestingLimit_(limit) {}
 
     Evaluation evaluate();
 
@@ -42,18 +35,18 @@ private:
     /// Counts one level of nesting while it lives.
     class Nesting {
     public:
-        Nesting(Evaluator& evaluator, std::size_t index) : owner(evaluator) {
-            if (owner.nesting == owner.nestingLimit) {
+        Nesting(Evaluator& evaluator, std::size_t index) : owner_(evaluator) {
+            if (owner_.nesting_ == owner_.nestingLimit_) {
                 raiseAt(ErrorCode::LimitExceeded, index);
             }
-            ++owner.nesting;
+            ++owner_.nesting_;
         }
-        ~Nesting() { --owner.nesting; }
+        ~Nesting() { --owner_.nesting_; }
         Nesting(const Nesting&) = delete;
         Nesting& operator=(const Nesting&) = delete;
 
     private:
-        Evaluator& owner;
+        Evaluator& owner_;
     };
 
     // The levels, from the lowest precedence to the highest.
@@ -80,72 +73,42 @@ private:
     std::size_t group(std::size_t index, Value& value);
     std::size_t item(std::size_t index, Value& value);
     std::size_t argumentList(std::size_t index);
-    [[nodiscard]] bool isLiteralFrom(std::size_t index, const Value& value) const;
-    [[nodiscard]] Value complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im);
 
     /// Whether a name or a group begins at an index.
     [[nodiscard]] bool isBareOperandAt(std::size_t index) const {
-        return isLetter(at(index)) || isAt(TokenClass::ListOpen, index);
+        return isLetter(line_.at(index)) || line_.isAt(TokenClass::ListOpen, index);
     }
 
-    [[nodiscard]] char at(std::size_t index) const { return characterAt(line, index); }
-    [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const { return tokenLength(kind, line, index) != 0; }
-    // Many levels ask for the blanks and for the operator at the same index, one after the other.
-    /// Past the blanks at an index.
-    std::size_t skipBlanks(std::size_t index) {
-        if (index != blanksStart) {
-            blanksStart = index;
-            blanksEnd = index + blankLength(line, index);
-        }
-        return blanksEnd;
-    }
-    Operator readOperator(std::size_t index);
-
-    std::string_view line;
-    int nestingLimit;
-    int nesting = 0;
-    std::size_t blanksStart = std::string_view::npos;
-    std::size_t blanksEnd = 0;
-    std::size_t operatorIndex = std::string_view::npos;
-    Operator lastOperator;
+    LineReader line_;
+    int nestingLimit_;
+    int nesting_ = 0;
 
     // The arguments of the calls that are being read, innermost last. Short lists stay on the stack.
     static constexpr std::size_t argumentsOnStack = 16;
-    alignas(Value) std::array<std::byte, argumentsOnStack * sizeof(Value)> argumentStorage;
-    std::pmr::monotonic_buffer_resource argumentMemory{argumentStorage.data(), argumentStorage.size()};
-    std::pmr::vector<Value> arguments{&argumentMemory};
+    alignas(Value) std::array<std::byte, argumentsOnStack * sizeof(Value)> argumentStorage_;
+    std::pmr::monotonic_buffer_resource argumentMemory_{argumentStorage_.data(), argumentStorage_.size()};
+    std::pmr::vector<Value> arguments_{&argumentMemory_};
 };
-
-/// The binary operator at an index, its kind None when there is none.
-Operator Evaluator::readOperator(std::size_t index) {
-    if (index != operatorIndex) {
-        operatorIndex = index;
-        const std::size_t start = skipBlanks(index);
-        const OperatorToken found = readOperatorHere(line, start);
-        lastOperator = found.length == 0 ? Operator{} : Operator{found.kind, start, skipBlanks(start + found.length)};
-    }
-    return lastOperator;
-}
 
 /// line = [directive] expression [suffix]
 Evaluation Evaluator::evaluate() {
     setErrorPosition(0);
-    std::size_t index = skipBlanks(0);
-    const OutputBase directive = readOutputBaseDirective(line, index);
-    index = skipBlanks(index + directive.length);
+    std::size_t index = line_.skipBlanks(0);
+    const OutputBase directive = readOutputBaseDirective(line_.text(), index);
+    index = line_.skipBlanks(index + directive.length);
     Evaluation result;
     const std::size_t length = sum(index, result.value);
     if (length == 0) {
         raiseAt(ErrorCode::InvalidFormat, index);
     }
     index += length;
-    const OutputBase suffix = readOutputBaseSuffix(line, index);
+    const OutputBase suffix = readOutputBaseSuffix(line_.text(), index);
     if (suffix.length != 0 && directive.length != 0) {
-        raiseAt(ErrorCode::InvalidFormat, skipBlanks(index));
+        raiseAt(ErrorCode::InvalidFormat, line_.skipBlanks(index));
     }
-    index = skipBlanks(index + suffix.length);
-    if (index < line.size()) {
-        raiseAt(isAt(TokenClass::ListClose, index) ? ErrorCode::Parentheses : ErrorCode::InvalidFormat, index);
+    index = line_.skipBlanks(index + suffix.length);
+    if (index < line_.text().size()) {
+        raiseAt(line_.isAt(TokenClass::ListClose, index) ? ErrorCode::Parentheses : ErrorCode::InvalidFormat, index);
     }
     if (const std::uint32_t base = directive.base + suffix.base; base != 0) {
         result.outputBase = base;
@@ -155,9 +118,9 @@ Evaluation Evaluator::evaluate() {
 
 /// expression = blanks sum blanks
 std::size_t Evaluator::expression(std::size_t index, Value& value) {
-    const std::size_t start = skipBlanks(index);
+    const std::size_t start = line_.skipBlanks(index);
     const std::size_t length = sum(start, value);
-    return length == 0 ? 0 : skipBlanks(start + length) - index;
+    return length == 0 ? 0 : line_.skipBlanks(start + length) - index;
 }
 
 /// sum = product { ("+" | "-") product }
@@ -167,7 +130,7 @@ std::size_t Evaluator::sum(std::size_t index, Value& value) {
         return 0;
     }
     for (;;) {
-        const Operator found = readOperator(end);
+        const Operator found = line_.readOperator(end);
         if (found.kind != TokenClass::Plus && found.kind != TokenClass::Minus) {
             return end - index;
         }
@@ -186,7 +149,7 @@ std::size_t Evaluator::product(std::size_t index, Value& value) {
         return 0;
     }
     for (;;) {
-        const Operator found = readOperator(end);
+        const Operator found = line_.readOperator(end);
         if (found.kind == TokenClass::Times || found.kind == TokenClass::Divide) {
             Value right;
             const std::size_t length = rightOperand(&Evaluator::power, found, right);
@@ -217,13 +180,13 @@ std::size_t Evaluator::rightOperand(Level level, const Operator& found, Value& v
 
 /// A bare operand behind the value so far multiplies it, or is the source unit of the conversion that follows.
 std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
-    const std::size_t start = skipBlanks(index);
+    const std::size_t start = line_.skipBlanks(index);
     if (!isBareOperandAt(start)) {
         return 0;
     }
     Value right;
     const std::size_t end = start + bareOperand(start, right);
-    const Operator found = readOperator(end);
+    const Operator found = line_.readOperator(end);
     if (found.kind == TokenClass::Arrow) {
         const Value quantity = value;
         return found.end + conversion(found, quantity, right, value) - index;
@@ -238,7 +201,7 @@ std::size_t Evaluator::conversion(const Operator& arrow, const Value& quantity, 
     Operator last = arrow;
     Value target;
     std::size_t end = arrow.end;
-    for (Operator next = arrow; next.kind == TokenClass::Arrow; next = readOperator(end)) {
+    for (Operator next = arrow; next.kind == TokenClass::Arrow; next = line_.readOperator(end)) {
         last = next;
         end = next.end + rightOperand(&Evaluator::bareOperand, next, target);
     }
@@ -253,7 +216,7 @@ std::size_t Evaluator::power(std::size_t index, Value& value) {
     if (length == 0) {
         return 0;
     }
-    const Operator found = readOperator(index + length);
+    const Operator found = line_.readOperator(index + length);
     if (found.kind != TokenClass::Power) {
         return length;
     }
@@ -269,8 +232,9 @@ std::size_t Evaluator::power(std::size_t index, Value& value) {
 std::size_t Evaluator::signedOperand(std::size_t index, Value& value) {
     std::size_t start = index;
     bool negative = false;
-    for (; isAt(TokenClass::Plus, start) || isAt(TokenClass::Minus, start); start = skipBlanks(start + 1)) {
-        negative = negative != isAt(TokenClass::Minus, start);
+    for (; line_.isAt(TokenClass::Plus, start) || line_.isAt(TokenClass::Minus, start);
+         start = line_.skipBlanks(start + 1)) {
+        negative = negative != line_.isAt(TokenClass::Minus, start);
     }
     const std::size_t length = postfixOperand(start, value);
     if (length == 0) {
@@ -290,8 +254,8 @@ std::size_t Evaluator::postfixOperand(std::size_t index, Value& value) {
 }
 
 std::size_t Evaluator::postfix(std::size_t index, Value& value) {
-    const std::size_t start = skipBlanks(index);
-    const TokenClass kind = classOfCharacter(at(start));
+    const std::size_t start = line_.skipBlanks(index);
+    const TokenClass kind = classOfCharacter(line_.at(start));
     if (kind != TokenClass::Percent && kind != TokenClass::Factorial) {
         return 0;
     }
@@ -303,7 +267,7 @@ std::size_t Evaluator::postfix(std::size_t index, Value& value) {
 /// operand = name operand | group | literal
 std::size_t Evaluator::operand(std::size_t index, Value& value) {
     Real number = 0;
-    if (const std::size_t length = readNumber(line, index, number); length != 0) {
+    if (const std::size_t length = readNumber(line_.text(), index, number); length != 0) {
         const std::int32_t end = position(index + length);
         value = Value(number).at({position(index), end, -1, end});
         return length;
@@ -315,7 +279,7 @@ std::size_t Evaluator::nameOrGroup(std::size_t index, Value& value) {
     if (!isBareOperandAt(index)) {
         return 0;
     }
-    return isLetter(at(index)) ? nameOperand(index, value) : group(index, value);
+    return isLetter(line_.at(index)) ? nameOperand(index, value) : group(index, value);
 }
 
 /// bare operand = (name operand | group) [ "%" | "!" ]
@@ -326,9 +290,9 @@ std::size_t Evaluator::bareOperand(std::size_t index, Value& value) {
 
 /// A name, with its arguments if it is a function.
 std::size_t Evaluator::nameOperand(std::size_t index, Value& value) {
-    const std::size_t length = nameLength(line, index);
+    const std::size_t length = nameLength(line_.text(), index);
     const std::size_t nameEnd = index + length;
-    const std::size_t keyword = lookup(line.substr(index, length));
+    const std::size_t keyword = lookup(line_.text().substr(index, length));
     if (keyword == 0) {
         raiseAt(ErrorCode::UnknownName, nameEnd);
     }
@@ -352,21 +316,21 @@ std::size_t Evaluator::nameOperand(std::size_t index, Value& value) {
 /// With one argument in parentheses, the call of it; with two, the call of the complex number that they make, with at
 /// most one postfix operator; without parentheses right behind the name, the call of the signed operand that follows.
 std::size_t Evaluator::unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value) {
-    std::size_t end = skipBlanks(nameEnd);
+    std::size_t end = line_.skipBlanks(nameEnd);
     Value argument;
-    if (isAt(TokenClass::ListOpen, nameEnd)) {
-        const std::size_t first = arguments.size();
+    if (line_.isAt(TokenClass::ListOpen, nameEnd)) {
+        const std::size_t first = arguments_.size();
         end = nameEnd + argumentList(nameEnd);
-        const std::span<const Value> list = std::span(arguments).subspan(first);
+        const std::span<const Value> list = std::span(arguments_).subspan(first);
         if (list.size() == 2) {
-            argument = complexNumber(nameEnd, end, list[0], list[1]);
+            argument = complexNumber(line_, nameEnd, end, list[0], list[1]);
             end += postfix(end, argument);
         } else if (list.size() == 1) {
             argument = list[0];
         } else {
             raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
         }
-        arguments.resize(first);
+        arguments_.resize(first);
     } else {
         const std::size_t length = signedOperand(end, argument);
         if (length == 0) {
@@ -384,13 +348,13 @@ std::size_t Evaluator::listCall(std::size_t nameEnd, const Binding& binding, Val
     if (binding.as<ReservedName>() != nullptr) {
         raiseAt(ErrorCode::UnknownName, nameEnd);
     }
-    const std::size_t open = skipBlanks(nameEnd);
-    if (!isAt(TokenClass::ListOpen, open)) {
+    const std::size_t open = line_.skipBlanks(nameEnd);
+    if (!line_.isAt(TokenClass::ListOpen, open)) {
         raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
     }
-    const std::size_t first = arguments.size();
+    const std::size_t first = arguments_.size();
     const std::size_t end = open + argumentList(open);
-    const std::span<const Value> list = std::span(arguments).subspan(first);
+    const std::span<const Value> list = std::span(arguments_).subspan(first);
     const auto expect = [&](std::size_t least, std::size_t most) {
         if (list.size() < least || list.size() > most) {
             raiseAt(ErrorCode::WrongArgumentCount, nameEnd);
@@ -407,7 +371,7 @@ std::size_t Evaluator::listCall(std::size_t nameEnd, const Binding& binding, Val
         expect(function->least, function->most);
         value = function->call(list);
     }
-    arguments.resize(first);
+    arguments_.resize(first);
     return end - nameEnd;
 }
 
@@ -417,88 +381,54 @@ std::size_t Evaluator::group(std::size_t index, Value& value) {
     std::size_t end = index + 1;
     const std::size_t length = expression(end, value);
     if (length == 0) {
-        end = skipBlanks(end);
-        raiseAt(end < line.size() ? ErrorCode::InvalidFormat : ErrorCode::Parentheses, end);
+        end = line_.skipBlanks(end);
+        raiseAt(end < line_.text().size() ? ErrorCode::InvalidFormat : ErrorCode::Parentheses, end);
     }
     end += length;
-    if (isAt(TokenClass::ListClose, end)) {
+    if (line_.isAt(TokenClass::ListClose, end)) {
         return end + 1 - index;
     }
-    if (!isAt(TokenClass::ListSeparator, end)) {
+    if (!line_.isAt(TokenClass::ListSeparator, end)) {
         raiseAt(ErrorCode::Incomplete, end);
     }
     Value imaginary;
     end += 1 + item(end + 1, imaginary);
-    if (!isAt(TokenClass::ListClose, end)) {
-        raiseAt(isAt(TokenClass::ListSeparator, end) ? ErrorCode::InvalidFormat : ErrorCode::Incomplete, end);
+    if (!line_.isAt(TokenClass::ListClose, end)) {
+        raiseAt(line_.isAt(TokenClass::ListSeparator, end) ? ErrorCode::InvalidFormat : ErrorCode::Incomplete, end);
     }
     ++end;
-    value = complexNumber(index, end, value, imaginary);
+    value = complexNumber(line_, index, end, value, imaginary);
     return end - index;
 }
 
-/// The item that must follow a list separator.
+/// The item that must follow the beginning of a list or a separator.
 std::size_t Evaluator::item(std::size_t index, Value& value) {
     const std::size_t length = expression(index, value);
     if (length == 0) {
-        raiseAt(ErrorCode::Incomplete, skipBlanks(index));
+        raiseAt(ErrorCode::Incomplete, line_.skipBlanks(index));
     }
     return length;
 }
 
 /// argument list = "(" [ expression { ";" expression } ] ")"; the items are left on top of the arguments.
 std::size_t Evaluator::argumentList(std::size_t index) {
-    std::size_t end = skipBlanks(index + 1);
-    if (isAt(TokenClass::ListClose, end)) {
-        return end + 1 - index;
+    const std::size_t first = line_.skipBlanks(index + 1);
+    if (line_.isAt(TokenClass::ListClose, first)) {
+        return first + 1 - index;
+    }
+    if (arguments_.capacity() == 0) {
+        arguments_.reserve(argumentsOnStack);
     }
     Value value;
-    const std::size_t length = expression(end, value);
-    if (length == 0) {
-        raiseAt(ErrorCode::Incomplete, end);
-    }
-    end += length;
-    if (arguments.capacity() == 0) {
-        arguments.reserve(argumentsOnStack);
-    }
-    arguments.push_back(value);
-    while (isAt(TokenClass::ListSeparator, end)) {
+    std::size_t end = index;
+    do {
         end += 1 + item(end + 1, value);
-        arguments.push_back(value);
-    }
-    if (!isAt(TokenClass::ListClose, end)) {
+        arguments_.push_back(value);
+    } while (line_.isAt(TokenClass::ListSeparator, end));
+    if (!line_.isAt(TokenClass::ListClose, end)) {
         raiseAt(ErrorCode::Incomplete, end);
     }
     return end + 1 - index;
-}
-
-/// Whether a value is the literal, signs aside, with which the text from an index on begins.
-bool Evaluator::isLiteralFrom(std::size_t index, const Value& value) const {
-    while (isBlank(at(index)) || isAt(TokenClass::Plus, index) || isAt(TokenClass::Minus, index)) {
-        ++index;
-    }
-    return value.positions.literalStart == position(index) && value.positions.imaginaryPartEnd == -1;
-}
-
-/// The number re + i im of a list of two items that stands from start to end. Both must be real (11). Where both are
-/// literals, signs aside, the list is itself a literal and the number carries its place.
-Value Evaluator::complexNumber(std::size_t start, std::size_t end, const Value& re, const Value& im) {
-    setErrorPosition(position(start));
-    for (const Value& part : {re, im}) {
-        if (!(part.im == 0)) {
-            raise(ErrorCode::ComplexNotAllowed, part.positions.literalEnd);
-        }
-    }
-    const Value number(re.re, im.re);
-    if (!isLiteralFrom(start + 1, re)) {
-        return number;
-    }
-    const std::size_t separator = skipBlanks(static_cast<std::size_t>(re.positions.literalEnd));
-    if (!isAt(TokenClass::ListSeparator, separator) || !isLiteralFrom(separator + 1, im) ||
-        skipBlanks(static_cast<std::size_t>(im.positions.literalEnd)) + 1 != end) {
-        return number;
-    }
-    return number.at({position(start), re.positions.literalEnd, im.positions.literalEnd, position(end)});
 }
 
 }  // namespace
