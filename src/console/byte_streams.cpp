@@ -33,21 +33,19 @@ void keepBytes([[maybe_unused]] int file) {
 
 bool isTerminal(int file) { return ::isatty(file) != 0; }
 
-OutputStream::OutputStream(int outputFile) : file(outputFile), enough(isTerminal(outputFile) ? 0 : pieceSize) {
-    keepBytes(file);
-}
+OutputStream::OutputStream(int file) : file_(file), enough_(isTerminal(file) ? 0 : pieceSize) { keepBytes(file); }
 
 void OutputStream::lineEnded() {
-    if (pending.size() >= enough) {
+    if (pending_.size() >= enough_) {
         flush();
     }
 }
 
 void OutputStream::flush() {
     std::size_t written = 0;
-    while (written < pending.size()) {
-        const std::size_t count = std::min(pending.size() - written, pieceSize);
-        const auto result = ::write(file, pending.data() + written, static_cast<unsigned>(count));
+    while (written < pending_.size()) {
+        const std::size_t count = std::min(pending_.size() - written, pieceSize);
+        const auto result = ::write(file_, pending_.data() + written, static_cast<unsigned>(count));
         if (result < 0 && errno != EINTR) {
             fail("cannot write the answers");
         }
@@ -55,37 +53,37 @@ void OutputStream::flush() {
             written += static_cast<std::size_t>(result);
         }
     }
-    pending.clear();
+    pending_.clear();
 }
 
-LineReader::LineReader(int inputFile, std::string nameInMessages, OutputStream& flushedBeforeWaiting)
-    : file(inputFile), name(std::move(nameInMessages)), output(flushedBeforeWaiting), buffer(pieceSize) {
+LineReader::LineReader(int file, std::string name, OutputStream& output)
+    : file_(file), name_(std::move(name)), output_(output), buffer_(pieceSize) {
     keepBytes(file);
 }
 
 bool LineReader::readMore() {
-    if (start > 0) {
-        std::memmove(buffer.data(), buffer.data() + start, end - start);
-        end -= start;
-        start = 0;
+    if (start_ > 0) {
+        std::memmove(buffer_.data(), buffer_.data() + start_, end_ - start_);
+        end_ -= start_;
+        start_ = 0;
     }
-    if (end == buffer.size()) {
-        if (buffer.size() >= longestLine) {
-            throw StreamFault{"a line of " + name + " is longer than 64 MiB"};
+    if (end_ == buffer_.size()) {
+        if (buffer_.size() >= longestLine) {
+            throw StreamFault{"a line of " + name_ + " is longer than 64 MiB"};
         }
-        buffer.resize(2 * buffer.size());
+        buffer_.resize(2 * buffer_.size());
     }
-    output.flush();
+    output_.flush();
     for (;;) {
-        const std::size_t room = std::min(buffer.size() - end, pieceSize);
-        const auto result = ::read(file, buffer.data() + end, static_cast<unsigned>(room));
+        const std::size_t room = std::min(buffer_.size() - end_, pieceSize);
+        const auto result = ::read(file_, buffer_.data() + end_, static_cast<unsigned>(room));
         if (result < 0 && errno == EINTR) {
             continue;
         }
         if (result < 0) {
-            fail("cannot read " + name);
+            fail("cannot read " + name_);
         }
-        end += static_cast<std::size_t>(result);
+        end_ += static_cast<std::size_t>(result);
         return result > 0;
     }
 }
@@ -94,12 +92,12 @@ bool LineReader::next(std::string_view& line) {
     std::size_t length = 0;
     const char* lineEnd = nullptr;
     for (;;) {
-        const char* from = buffer.data() + start + length;
-        lineEnd = static_cast<const char*>(std::memchr(from, '\n', end - start - length));
+        const char* from = buffer_.data() + start_ + length;
+        lineEnd = static_cast<const char*>(std::memchr(from, '\n', end_ - start_ - length));
         if (lineEnd != nullptr) {
             break;
         }
-        length = end - start;
+        length = end_ - start_;
         if (!readMore()) {
             break;
         }
@@ -107,11 +105,11 @@ bool LineReader::next(std::string_view& line) {
     if (lineEnd == nullptr && length == 0) {
         return false;
     }
-    const char* lineStart = buffer.data() + start;
+    const char* lineStart = buffer_.data() + start_;
     if (lineEnd != nullptr) {
         length = static_cast<std::size_t>(lineEnd - lineStart);
     }
-    start += length + (lineEnd != nullptr ? 1 : 0);
+    start_ += length + (lineEnd != nullptr ? 1 : 0);
     if (length > 0 && lineStart[length - 1] == '\r') {
         --length;
     }
@@ -119,12 +117,12 @@ bool LineReader::next(std::string_view& line) {
     return true;
 }
 
-InputFile::InputFile(const std::string& path) : file(::open(path.c_str(), O_RDONLY)) {
-    if (file < 0) {
+InputFile::InputFile(const std::string& path) : file_(::open(path.c_str(), O_RDONLY)) {
+    if (file_ < 0) {
         fail("cannot open " + path);
     }
 }
 
-InputFile::~InputFile() { ::close(file); }
+InputFile::~InputFile() { ::close(file_); }
 
 }  // namespace calquo

@@ -25,7 +25,7 @@ public:
     explicit OutputStream(int file);
 
     /// What is written next; append to it, then call `lineEnded`.
-    std::string& text() { return pending; }
+    std::string& text() { return pending_; }
 
     /// Writes when it is time to. Throws StreamFault.
     void lineEnded();
@@ -34,9 +34,9 @@ public:
     void flush();
 
 private:
-    int file;
-    std::size_t enough;
-    std::string pending;
+    int file_;
+    std::size_t enough_;
+    std::string pending_;
 };
 
 /// The lines of a file. Memory grows to the longest line, of at most 64 MiB, and no further.
@@ -53,12 +53,12 @@ public:
 private:
     bool readMore();
 
-    int file;
-    std::string name;
-    OutputStream& output;
-    std::vector<char> buffer;
-    std::size_t start = 0;  // of what has been read and not yet given out
-    std::size_t end = 0;    // of what has been read
+    int file_;
+    std::string name_;
+    OutputStream& output_;
+    std::vector<char> buffer_;
+    std::size_t start_ = 0;  // of what has been read and not yet given out
+    std::size_t end_ = 0;    // of what has been read
 };
 
 /// A file opened for reading, closed with its owner.
@@ -70,10 +70,10 @@ public:
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    int descriptor() const { return file; }
+    int descriptor() const { return file_; }
 
 private:
-    int file;
+    int file_;
 };
 
 }  // namespace calquo

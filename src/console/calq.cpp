@@ -154,37 +154,37 @@ int runWith(const Options& options, OutputStream& output) {
 }  // namespace
 
 LineAnswerer::LineAnswerer(const Options& options)
-    : format(options.format()),
-      writesRecords(options.record),
-      place(options.position ? ErrorPlace::Shown : ErrorPlace::Hidden) {}
+    : format_(options.format()),
+      writesRecords_(options.record),
+      place_(options.position ? ErrorPlace::Shown : ErrorPlace::Hidden) {}
 
 bool LineAnswerer::answer(std::string_view line, std::string& output) {
     const std::string_view expression = expressionOf(line);
-    latest.failed = false;
+    latest_.failed = false;
     if (expression.empty()) {
         // The work area leaves such a line as it is, and so does its record.
-        if (writesRecords) {
+        if (writesRecords_) {
             output += line;
         }
     } else {
-        evaluateInto(latest, expression, format);
-        if (writesRecords) {
-            appendRecord(output, expression, latest, place);
+        evaluateInto(latest_, expression, format_);
+        if (writesRecords_) {
+            appendRecord(output, expression, latest_, place_);
         } else {
-            appendAnswer(output, latest, place);
+            appendAnswer(output, latest_, place_);
         }
     }
     output += '\n';
-    return !latest.failed;
+    return !latest_.failed;
 }
 
 const std::string& LineAnswerer::answerText(ErrorPlace shownOrHidden) {
-    text.clear();
-    appendAnswer(text, latest, shownOrHidden);
-    return text;
+    text_.clear();
+    appendAnswer(text_, latest_, shownOrHidden);
+    return text_;
 }
 
-bool LineAnswerer::check(std::string_view line, std::string_view recordPlace, std::string& output) {
+bool LineAnswerer::check(std::string_view line, std::string_view place, std::string& output) {
     const std::size_t equals = line.find('=');
     const std::string_view expression = expressionOf(line);
     if (equals == std::string_view::npos || expression.empty()) {
@@ -192,12 +192,12 @@ bool LineAnswerer::check(std::string_view line, std::string_view recordPlace, st
     }
     const std::string_view saved = withoutBlanksAround(line.substr(equals + 1));
 
-    evaluateInto(latest, expression, format);
+    evaluateInto(latest_, expression, format_);
     if (saved == answerText(ErrorPlace::Hidden) || saved == answerText(ErrorPlace::Shown)) {
         return true;
     }
-    output.append(recordPlace).append(": ").append(expression).append(" = ").append(saved);
-    output.append(" (now ").append(answerText(place)).append(")\n");
+    output.append(place).append(": ").append(expression).append(" = ").append(saved);
+    output.append(" (now ").append(answerText(place_)).append(")\n");
     return false;
 }
 

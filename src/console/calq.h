@@ -26,17 +26,17 @@ public:
     bool check(std::string_view line, std::string_view place, std::string& output);
 
     /// Where the error of the line that `answer` was last given lies, in characters from the line's start.
-    std::size_t errorPlace() const { return latest.position; }
+    std::size_t errorPlace() const { return latest_.position; }
 
 private:
     /// The latest answer as text.
     const std::string& answerText(ErrorPlace shownOrHidden);
 
-    NumericFormat format;
-    bool writesRecords;
-    ErrorPlace place;
-    Answer latest;
-    std::string text;
+    NumericFormat format_;
+    bool writesRecords_;
+    ErrorPlace place_;
+    Answer latest_;
+    std::string text_;
 };
 
 /// `line`, and below it a caret under the character `position` characters after its start, for a terminal.

@@ -7,7 +7,7 @@ namespace calquo {
 namespace {
 
 /// Whether a value is the literal, signs aside, with which the text from an index on begins.
-bool isLiteralFrom(const LineReader& line, std::size_t index, const Value& value) {
+bool isLiteralFrom(const LineTokens& line, std::size_t index, const Value& value) {
     while (isBlank(line.at(index)) || line.isAt(TokenClass::Plus, index) || line.isAt(TokenClass::Minus, index)) {
         ++index;
     }
@@ -16,7 +16,7 @@ bool isLiteralFrom(const LineReader& line, std::size_t index, const Value& value
 
 }  // namespace
 
-Value complexNumber(LineReader& line, std::size_t start, std::size_t end, const Value& re, const Value& im) {
+Value complexNumber(LineTokens& line, std::size_t start, std::size_t end, const Value& re, const Value& im) {
     setErrorPosition(position(start));
     for (const Value& part : {re, im}) {
         if (!(part.im == 0)) {

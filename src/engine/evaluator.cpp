@@ -11,7 +11,7 @@
 #include "engine/complex_literal.h"
 #include "engine/keywords.h"
 #include "engine/lexer.h"
-#include "engine/line_reader.h"
+#include "engine/line_tokens.h"
 #include "engine/number_literal.h"
 #include "numeric/checks.h"
 #include "numeric/complex_arithmetic.h"
@@ -79,7 +79,7 @@ private:
         return isLetter(line_.at(index)) || line_.isAt(TokenClass::ListOpen, index);
     }
 
-    LineReader line_;
+    LineTokens line_;
     int nestingLimit_;
     int nesting_ = 0;
 

@@ -9,14 +9,14 @@ namespace calquo {
 class FullPrecision {
 public:
     FullPrecision() {
-        asm volatile("fnstcw %0" : "=m"(before));
-        if ((before & controlled) != extendedToNearest) {
-            load(static_cast<std::uint16_t>((before & ~controlled) | extendedToNearest));
+        asm volatile("fnstcw %0" : "=m"(before_));
+        if ((before_ & controlled) != extendedToNearest) {
+            load(static_cast<std::uint16_t>((before_ & ~controlled) | extendedToNearest));
         }
     }
     ~FullPrecision() {
-        if ((before & controlled) != extendedToNearest) {
-            load(before);
+        if ((before_ & controlled) != extendedToNearest) {
+            load(before_);
         }
     }
     FullPrecision(const FullPrecision&) = delete;
@@ -29,7 +29,7 @@ private:
 
     static void load(std::uint16_t word) { asm volatile("fldcw %0" : : "m"(word)); }
 
-    std::uint16_t before = 0;
+    std::uint16_t before_ = 0;
 };
 
 }  // namespace calquo

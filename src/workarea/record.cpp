@@ -35,24 +35,36 @@ std::size_t placeInside(std::string_view expression, std::int32_t position) {
     return position < 0 ? expression.size() : std::min(static_cast<std::size_t>(position), expression.size());
 }
 
-/// The edit that writes the error message behind the expression, which takes the first `length` characters of `line`.
-LineEdit editForError(std::string_view line, std::size_t length, const Answer& answer) {
-    StyledText message{std::string(equalsJoint), TextStyle::Result};
-    appendAnswer(message.text, answer, ErrorPlace::Hidden);
-    return {true, length, line.size(), {std::move(message)}, answer.position};
-}
-
-/// The edit that writes the result behind the expression and carries it on to a new line.
-LineEdit editForResult(std::string_view line, std::size_t length, const Answer& answer) {
-    StyledText result{std::string(equalsJoint) + answer.text, TextStyle::Result};
-    StyledText carried{"\n\n" + answer.text, TextStyle::Normal};
-    const std::size_t caret = length + result.text.size() + carried.text.size();
-    return {true, length, line.size(), {std::move(result), std::move(carried)}, caret};
+/// The edit that writes the result after the expression, which takes the first `length` characters of `line`, and
+/// carries it on to a new line.
+LineEdit editForResult(std::string_view line, std::size_t length, const std::string& result) {
+    StyledText written{std::string(equalsJoint) + result, TextStyle::Result};
+    StyledText carried{"\n\n" + result, TextStyle::Normal};
+    const std::size_t caret = length + written.text.size() + carried.text.size();
+    return {true, length, line.size(), {std::move(written), std::move(carried)}, caret};
 }
 
 /// The edit that ends the line after its first `length` characters and goes on below.
 LineEdit editForNewLine(std::string_view line, std::size_t length) {
     return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1};
+}
+
+/// The edit of a line that is evaluated: its error message after the expression, or what `editFor` makes of the
+/// expression and its result. None for a line without an expression.
+template <typename EditFor>
+LineEdit editForAnswer(std::string_view line, NumericFormat format, const EditFor& editFor) {
+    const std::string_view expression = expressionOf(line);
+    if (expression.empty()) {
+        return {};
+    }
+    Answer answer;
+    evaluateInto(answer, expression, format);
+    if (!answer.failed) {
+        return editFor(expression, answer.text);
+    }
+    std::string message(equalsJoint);
+    appendAnswer(message, answer, ErrorPlace::Hidden);
+    return {true, expression.size(), line.size(), {{std::move(message), TextStyle::Result}}, answer.position};
 }
 
 }  // namespace
@@ -109,33 +121,16 @@ LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
     if (line.empty()) {
         return editForNewLine(line, 0);
     }
-    const std::string_view expression = expressionOf(line);
-    if (expression.empty()) {
-        return {};
-    }
-    Answer answer;
-    evaluateInto(answer, expression, format);
-    if (answer.failed) {
-        return editForError(line, expression.size(), answer);
-    }
-    if (answer.text == expression) {
-        return editForNewLine(line, expression.size());
-    }
-    return editForResult(line, expression.size(), answer);
+    return editForAnswer(line, format, [&](std::string_view expression, const std::string& result) {
+        return result == expression ? editForNewLine(line, expression.size())
+                                    : editForResult(line, expression.size(), result);
+    });
 }
 
 LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format) {
-    const std::string_view expression = expressionOf(line);
-    if (expression.empty()) {
-        return {};
-    }
-    Answer answer;
-    evaluateInto(answer, expression, format);
-    if (answer.failed) {
-        return editForError(line, expression.size(), answer);
-    }
-    const std::size_t caret = begin + answer.text.size();
-    return {true, begin, end, {{std::move(answer.text), TextStyle::Normal}}, caret};
+    return editForAnswer(line, format, [&](std::string_view, const std::string& result) {
+        return LineEdit{true, begin, end, {{result, TextStyle::Normal}}, begin + result.size()};
+    });
 }
 
 }  // namespace calquo

@@ -21,9 +21,9 @@ struct Operator {
 
 /// Keeps the latest blanks and operator: many levels of the grammar ask for them at the same index, one after the
 /// other.
-class LineReader {
+class LineTokens {
 public:
-    explicit LineReader(std::string_view text) : text_(text) {}
+    explicit LineTokens(std::string_view text) : text_(text) {}
 
     [[nodiscard]] std::string_view text() const { return text_; }
     [[nodiscard]] bool isAt(TokenClass kind, std::size_t index) const { return tokenLength(kind, text_, index) != 0; }
