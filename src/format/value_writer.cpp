@@ -312,9 +312,11 @@ void NumberWriter::writeFraction(Real magnitude, bool negative) {
     appendWholeNumber(fraction.denominator, style_.has('F'));
 }
 
-bool zeroedOut(Real x, NumericFormat word) {
-    // The one flag that counts in every kind.
-    return (word & field::zeroOut) != 0 && std::fabs(x) < insignificant;
+/// Whether a value is written as its real part alone. In the kinds without the flag I, too, the trace of an imaginary
+/// part that powers of negative numbers leave beside a real part counts as zero.
+bool isWrittenAsReal(const Value& value, const Style& style) {
+    const bool dropsTraces = (style.word & field::zeroOut) != 0 || (value.re != 0 && !style.knows('I'));
+    return value.im == 0 || (dropsTraces && std::fabs(value.im) < insignificant);
 }
 
 }  // namespace
@@ -325,7 +327,8 @@ void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::strin
         text += bits.infinite() ? (bits.negative() ? "-inf" : "+inf") : (bits.quiet() ? "qNaN" : "sNaN");
         return;
     }
-    if (zeroedOut(x, word)) {
+    // The one flag that counts in every kind.
+    if ((word & field::zeroOut) != 0 && std::fabs(x) < insignificant) {
         x = 0;
     }
     if (kindOf(word) == FormatKind::Integer) {
@@ -337,7 +340,7 @@ void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::strin
 void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text) {
     const FullPrecision precision;
     const std::uint32_t base = outputBase == 0 ? 10 : static_cast<std::uint32_t>(outputBase);
-    if (value.im == 0 || zeroedOut(value.im, word)) {
+    if (isWrittenAsReal(value, Style(word, base))) {
         FormatReal(value.re, word, base, text);
         return;
     }
