@@ -1,6 +1,7 @@
 // Any word, base and value: what is written is what is closest, and can be read.
 #include <cmath>
 
+#include "engine/characters.h"
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
@@ -51,6 +52,7 @@ void check(FuzzInput input) {
     const NumericFormat word = wordFrom(reader);
     const std::uint32_t base = reader.between(2, 36);
     const Value value(realFrom(reader), reader.byte() % 4 == 0 ? realFrom(reader) : 0);
+    setGroupLengths(getField(word, field::groupSize), getField(word, field::groupSize));
     const std::string text = FormatValue(value, word, base);
     require(!text.empty(), "nothing is written");
     if (!isWrittenWithoutLoss(value)) {

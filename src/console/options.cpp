@@ -175,6 +175,13 @@ std::string helpText() {
 void applyToEngine(const Options& options) {
     setMarks(options.decimalMark.value_or(markCharacter(TokenClass::DecimalMark)),
              options.groupMark.value_or(markCharacter(TokenClass::GroupMark)));
+    if (options.check) {
+        // A sheet does not say under which format its results were written.
+        setGroupLengths(shortestGroup, longestGroup);
+    } else {
+        const std::uint32_t length = getField(options.format(), field::groupSize);
+        setGroupLengths(length, length);
+    }
     if (options.seed) {
         seedRandom(*options.seed);
     } else {

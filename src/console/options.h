@@ -44,9 +44,10 @@ Options parseOptions(std::span<const char* const> arguments);
 /// What --help prints.
 std::string helpText();
 
-/// Puts the marks of the options into the character table and seeds the random generator, from the clock unless the
-/// options give a seed. A mark whose character is taken leaves the table as it was; given together, the marks may
-/// exchange their characters.
+/// Puts the marks of the options and the lengths of groups that their format writes into the character table, and seeds
+/// the random generator, from the clock unless the options give a seed. A mark whose character is taken leaves the
+/// table as it was; given together, the marks may exchange their characters. Checking allows every length that people
+/// may choose.
 void applyToEngine(const Options& options);
 
 }  // namespace calquo

@@ -46,4 +46,9 @@ void setMarks(char decimalMark, char groupMark) {
     characterTable.setMark(TokenClass::GroupMark, group);
 }
 
+void setGroupLengths(std::uint32_t shortest, std::uint32_t longest) {
+    characterTable.shortestGroup_ = shortest;
+    characterTable.longestGroup_ = longest;
+}
+
 }  // namespace calquo

@@ -31,7 +31,13 @@ enum class TokenClass : std::uint8_t {
     Arrow,  ///< "->"; the character of its row is not used for matching
 };
 
-/// The characters of the language, and the class of each. There is one table, and only setMarks changes it.
+/// The digits between two group marks: what everybody writes, and what people may choose for results.
+constexpr std::uint32_t thousandsGroup = 3;
+constexpr std::uint32_t shortestGroup = 2;
+constexpr std::uint32_t longestGroup = 8;
+
+/// The characters of the language, the class of each, and the lengths of the groups that the group mark makes. There is
+/// one table: only setMarks changes its characters, and only setGroupLengths the lengths.
 class CharacterTable {
 public:
     consteval CharacterTable();
@@ -44,9 +50,15 @@ public:
     [[nodiscard]] TokenClass classOf(char character) const { return classes_[static_cast<unsigned char>(character)]; }
     /// Whether a character may become one of the two marks: no other use of the language for it stands in the table.
     [[nodiscard]] bool isFreeForMarks(char character) const;
+    /// Whether so many digits may stand between two group marks of a literal.
+    [[nodiscard]] bool allowsGroup(std::size_t length, bool hasBasePrefix) const {
+        return length == thousandsGroup || (length >= shortestGroup_ && length <= longestGroup_) ||
+               (hasBasePrefix && length >= shortestGroup && length <= longestGroup);
+    }
 
 private:
     friend void setMarks(char decimalMark, char groupMark);
+    friend void setGroupLengths(std::uint32_t shortest, std::uint32_t longest);
 
     /// After the 62 digits of both cases and the underscore.
     static constexpr std::size_t firstClass = 63;
@@ -57,6 +69,8 @@ private:
 
     std::array<char, 83> characters_{};  // the digits by their values, "_", a character for each class, ">"
     std::array<TokenClass, 256> classes_{};
+    std::uint32_t shortestGroup_ = thousandsGroup;
+    std::uint32_t longestGroup_ = thousandsGroup;
 };
 
 extern constinit CharacterTable characterTable;
@@ -71,6 +85,10 @@ inline TokenClass classOfCharacter(char character) { return characterTable.class
 /// does the group mark when it is to be the same as the decimal mark, and both do when the decimal mark has taken its
 /// character.
 void setMarks(char decimalMark, char groupMark);
+
+/// Lets literals have groups of any length from the shortest to the longest, beside those of 3 digits. After a base
+/// prefix, groups of any length that people may choose are read in any case.
+void setGroupLengths(std::uint32_t shortest, std::uint32_t longest);
 
 constexpr bool isBlank(char character) { return character == ' ' || character == '\t'; }
 

@@ -1,6 +1,8 @@
 // The scanner of numeric literals.
 #include "engine/number_literal.h"
 
+#include <algorithm>
+
 #include "engine/characters.h"
 #include "engine/keywords.h"
 #include "engine/lexer.h"
@@ -35,9 +37,12 @@ public:
         scanDigits();
         if (at(TokenClass::DecimalMark)) {
             ++index_;
-            scanFraction();
+            const std::int64_t wholeDigits = literal_.count;
+            scanDigits();
+            literal_.exponent = wholeDigits - literal_.count;
         }
         literal_.text = line_.substr(start, index_ - start);
+        checkDigits();
         if (at(TokenClass::ExponentMark)) {
             ++index_;
             literal_.exponent += scanExponent();
@@ -56,21 +61,24 @@ private:
     [[nodiscard]] char here() const { return characterAt(line_, index_); }
     /// Where "e" is a digit it has been read as one.
     [[nodiscard]] bool at(TokenClass mark) const { return tokenLength(mark, line_, index_) != 0; }
-    [[nodiscard]] bool digitAt(std::size_t index) const {
-        return digitValue(characterAt(line_, index)) < literal_.base;
-    }
-    [[nodiscard]] bool digitHere() const { return digitAt(index_); }
+    [[nodiscard]] bool digitHere() const { return digitValue(here()) < literal_.base; }
 
+    /// Takes digits, and the group marks among and around them.
     void scanDigits() {
-        while (digitHere()) {
-            takeDigit();
-            if (at(TokenClass::GroupMark)) {
-                if (!digitAt(index_ + 1)) {
-                    raiseAt(ErrorCode::MisplacedGroupMark, index_);
-                }
-                ++index_;
+        do {
+            while (digitHere()) {
+                takeDigit();
             }
+        } while (takeGroupMark());
+    }
+
+    bool takeGroupMark() {
+        if (!at(TokenClass::GroupMark)) {
+            return false;
         }
+        firstGroupMark_ = std::min(firstGroupMark_, index_);
+        ++index_;
+        return true;
     }
 
     void takeDigit() {
@@ -83,19 +91,42 @@ private:
         ++index_;
     }
 
-    void scanFraction() {
-        if (at(TokenClass::GroupMark)) {
-            raiseAt(ErrorCode::MisplacedGroupMark, index_);
+    void checkDigits() const {
+        if (firstGroupMark_ != noGroupMark && !marksMakeGroups()) {
+            raiseAt(ErrorCode::MisplacedGroupMark, firstGroupMark_);
         }
-        const std::int64_t wholeDigits = literal_.count;
-        scanDigits();
         if (literal_.count == 0) {
             raiseAt(ErrorCode::Incomplete, index_);
         }
         if (at(TokenClass::DecimalMark)) {
             raiseAt(ErrorCode::InvalidFormat, index_);
         }
-        literal_.exponent = wholeDigits - literal_.count;
+    }
+
+    /// Whether the groups, counted from the decimal mark outwards, all have one length that the table allows, but for
+    /// the outermost, which may be shorter. A part without group marks may stand beside one with them.
+    [[nodiscard]] bool marksMakeGroups() const {
+        const std::string_view text = literal_.text;
+        const char groupMark = markCharacter(TokenClass::GroupMark);
+        const std::size_t decimalMark = std::min(text.find(markCharacter(TokenClass::DecimalMark)), text.size());
+        const auto distance = [&](std::size_t index) {
+            return index < decimalMark ? decimalMark - index : index - decimalMark;
+        };
+        const std::size_t lastInWhole = text.substr(0, decimalMark).rfind(groupMark);
+        const std::size_t firstInFraction = text.find(groupMark, decimalMark);
+        const bool groupsWhole = lastInWhole != std::string_view::npos;
+        const std::size_t step = distance(groupsWhole ? lastInWhole : firstInFraction);
+        const auto areGroups = [&](std::size_t begin, std::size_t end) {
+            for (std::size_t index = begin; index < end; ++index) {
+                if ((text[index] == groupMark) != (distance(index) % step == 0)) {
+                    return false;
+                }
+            }
+            return true;
+        };
+        return characterTable.allowsGroup(step - 1, prefixed_) && text.back() != groupMark &&
+               (!groupsWhole || (text.front() != '0' && areGroups(0, decimalMark))) &&
+               (firstInFraction == std::string_view::npos || areGroups(decimalMark + 1, text.size()));
     }
 
     std::int64_t scanExponent() {
@@ -112,18 +143,22 @@ private:
         return sign.factor * exponent;
     }
 
-    void checkEnd() const {
-        if (at(TokenClass::GroupMark)) {
-            raiseAt(ErrorCode::MisplacedGroupMark, index_);
+    void checkEnd() {
+        if (takeGroupMark()) {
+            raiseAt(ErrorCode::MisplacedGroupMark, firstGroupMark_);
         }
-        if (isNameCharacter(here()) && (prefixed_ || !keywordAt(line_, index_))) {
+        // After the exponent an "e" begins no name either.
+        if (isNameCharacter(here()) && (prefixed_ || at(TokenClass::ExponentMark) || !keywordAt(line_, index_))) {
             raiseAt(ErrorCode::InvalidDigit, index_ + 1);
         }
     }
 
+    static constexpr std::size_t noGroupMark = std::string_view::npos;
+
     std::string_view line_;
     std::size_t index_;
     bool prefixed_ = false;
+    std::size_t firstGroupMark_ = noGroupMark;
     LiteralDigits literal_;
 };
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "engine/characters.h"
 #include "format/numeric_format.h"
 
 namespace calquo {
@@ -36,7 +37,11 @@ struct Attribute {
 };
 
 inline constexpr std::array attributes = std::to_array<Attribute>({
-    {'G', field::groupSize, AttributeControl::NumberField, "&Number of digits in a group", {2, 8}},
+    {'G',
+     field::groupSize,
+     AttributeControl::NumberField,
+     "&Number of digits in a group",
+     {shortestGroup, longestGroup}},
     {'D', field::digits, AttributeControl::NumberField, "Maximum &fractional digits", {0, 15}},
     {'D', field::digits, AttributeControl::NumberField, "Maximum &denominator digits", {1, 15}, true},
     {'S', field::significantDigits, AttributeControl::NumberField, "Maximum &significant digits", {1, 64}},

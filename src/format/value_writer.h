@@ -15,8 +15,8 @@ namespace calquo {
 void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::string& text);
 
 /// Appends a value: a real number, or "(re; im)" with the characters that the lexer reads. Whatever a kind writes
-/// without loss reads back as the same value, but for -inf, which the language refuses to negate, and mixed numbers ("2
-/// 3/4").
+/// without loss reads back as the same value while the groups of its word are allowed, but for -inf, which the language
+/// refuses to negate, and mixed numbers ("2 3/4").
 /// @param outputBase 2 to 36; 0 stands for 10
 void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text);
 

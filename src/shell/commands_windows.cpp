@@ -105,6 +105,7 @@ void Commands::chooseFile(std::uint16_t identifier) {
 
 void Commands::selectFormat(std::uint16_t identifier) {
     targets_.settings.selectFormat(formatOf(selectFormatCommands, identifier));
+    applyToEngine(targets_.settings);
     for (std::uint16_t entry = selectFormatCommands.first; entry <= selectFormatCommands.last; ++entry) {
         targets_.menu.setChecked(entry, entry == identifier);
     }
@@ -114,11 +115,17 @@ void Commands::modifyFormat(std::uint16_t identifier) {
     const FormatKind kind = formatOf(modifyFormatCommands, identifier);
     Settings& settings = targets_.settings;
     const FormatPlace place{[&settings, kind] { return settings.format(kind); },
-                            [&settings, kind](NumericFormat word) { settings.setFormat(kind, word); }};
+                            [&settings, kind](NumericFormat word) {
+                                settings.setFormat(kind, word);
+                                applyToEngine(settings);
+                            }};
     targets_.keepFocusIn(formatDialog_.open(targets_.workArea.handle(), place));
 }
 
-void Commands::resetFormats(std::uint16_t) { targets_.settings.resetFormats(); }
+void Commands::resetFormats(std::uint16_t) {
+    targets_.settings.resetFormats();
+    applyToEngine(targets_.settings);
+}
 
 // --- Help and exit --------------------------------------------------------------------------------------------------
 

@@ -1,7 +1,6 @@
 // Calquo.exe: one instance, its settings, one main window and the message loop.
 #include <optional>
 
-#include "engine/characters.h"
 #include "shell/main_window.h"
 #include "shell/message_loop.h"
 #include "shell/registry_storage.h"
@@ -24,8 +23,7 @@ int runProgram(int showCommand) {
     RegistryStorage registry;
     Settings settings(registry);
     settings.loadAll();
-    const Marks marks = settings.marks();
-    setMarks(marks.decimal, marks.group);
+    applyToEngine(settings);
     MainWindow window(settings);
     ShowWindow(window.handle(), showCommand);
     // Painted at once, in front of everything that waits in the queue by now.

@@ -253,4 +253,11 @@ Marks Settings::marks() const {
     return marks;
 }
 
+void applyToEngine(const Settings& settings) {
+    const Marks marks = settings.marks();
+    setMarks(marks.decimal, marks.group);
+    const std::uint32_t length = getField(settings.format(settings.selectedFormat()), field::groupSize);
+    setGroupLengths(length, length);
+}
+
 }  // namespace calquo

@@ -124,4 +124,8 @@ private:
     std::vector<SettingValue> values_;  // one for each item
 };
 
+/// Puts the marks, and the length of the groups that the selected format writes, into the character table of the
+/// language. To be called again whenever one of them has changed.
+void applyToEngine(const Settings& settings);
+
 }  // namespace calquo

@@ -72,9 +72,9 @@ constexpr ProgramRow rows[] = {
     {"$CALQ $'1+1\\n1+2\\n'", 0, "2\n3\n"},
     {"$CALQ --nonsense 2>&1", 2,
      "calq: there is no option --nonsense; put -- before a line that begins with it\nTry calq --help.\n"},
-    {"$CALQ --decimal-mark , 1,5 2>&1", 0,
-     "calq: \",\" is the other mark (give both to exchange them); the decimal mark stays \".\"\n15\n"},
-    {"$CALQ --group-mark _ 1,5 2>&1", 0, "calq: \"_\" has a meaning of its own; the group mark stays \",\"\n15\n"},
+    {"$CALQ --decimal-mark , 1,500 2>&1", 0,
+     "calq: \",\" is the other mark (give both to exchange them); the decimal mark stays \".\"\n1,500\n"},
+    {"$CALQ --group-mark _ 1,500 2>&1", 0, "calq: \"_\" has a meaning of its own; the group mark stays \",\"\n1,500\n"},
     {"$CALQ --names | sed -n '1p; /^furlong/p; /^root/p; $p'", 0,
      "abs(x)                  Absolute value (magnitude)\nfurlong                 Furlong\n"
      "root(value; degree)     Root x of a value\nzetta                   1 000 000 000 000 000 000 000\n"},
@@ -96,6 +96,9 @@ constexpr ProgramRow rows[] = {
     {"script -qec \"$CALQ '12+'\" /dev/null | tr -d '\\r'", 0, "Error (invalid format)\n12+\n   ^\n"},
 
     {R"(printf '2+3 = 5\n5\n\n2+3 = 6\n=7\n' | $CALQ --check)", 1, "standard input:4: 2+3 = 6 (now 5)\n"},
+    // A sheet may hold results of any format.
+    {R"(printf '12,34 = 1,234\n1,23456789 = 123,456,790\n1,2 = Error (misplaced group mark)\n' | $CALQ --check)", 0,
+     ""},
     {R"(printf '2+ = Error (invalid format)\n2+ = Error (invalid format) at 2\r\n' | $CALQ --check)", 0, ""},
     {R"(printf '2+ = Error (invalid format) at 1\n' | $CALQ --check --position)", 1,
      "standard input:1: 2+ = Error (invalid format) at 1 (now Error (invalid format) at 2)\n"},
