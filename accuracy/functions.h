@@ -1,36 +1,39 @@
-// The functions whose accuracy is measured, where, and what their exact values are.
+// The functions and operators whose accuracy is measured, where, and what their exact values are.
 #pragma once
 
 #include <functional>
 #include <span>
-#include <string_view>
+#include <string>
+#include <vector>
 
-#include "support/big_float.h"
+#include "arguments.h"
+#include "exact.h"
 
 namespace calquo {
 
-enum class Sign { Either, Positive, Negative };
+using Arguments = std::span<const std::complex<Real>>;
 
-/// Arguments of a sign, 2^low to 2^high, and so far from the offset.
-struct Range {
-    int low;
-    int high;
-    Sign sign = Sign::Either;
-    int offset = 0;
+/// What a function is held against.
+enum class Reference {
+    Exact,   ///< The exact value of its formula: 1 unit in the last place for a real one, 2 for a complex one.
+    Steps,   ///< A sequence of steps that are rounded one by one: the very same number.
+    Series,  ///< A series of which each step is rounded; its error is shown, and not bounded.
 };
 
 struct MeasuredFunction {
-    std::string_view name;
-    Range range;
-    std::function<void(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr y)> exact;
-    Range second{0, 0};  ///< Of the second argument, where there is one.
-    bool hasTwoArguments = false;
+    std::string name;             ///< As in the table of keywords, or an operator.
+    std::string line;             ///< With # for each argument, or #... for a list.
+    std::vector<Region> regions;  ///< Of each argument; of a list's items.
+    std::function<Exact(Arguments)> exact;
+    Reference reference = Reference::Exact;
+    /// Makes arguments out of random ones where not all combinations make sense.
+    std::function<void(std::vector<std::complex<Real>>&)> adjust = {};
 };
 
-/// Where the functions' formulas are good.
+/// Every function and operator, with a row for each region.
 std::span<const MeasuredFunction> measuredFunctions();
 
-/// Where they cancel.
-std::span<const MeasuredFunction> cancellingFunctions();
+/// The names of functions that have no row, because no value of theirs is right or wrong.
+std::span<const std::string_view> unmeasuredFunctions();
 
 }  // namespace calquo

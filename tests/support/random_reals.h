@@ -12,6 +12,8 @@ class RandomReals {
 public:
     static constexpr std::uint64_t seed = 20260117;
 
+    explicit RandomReals(std::uint64_t otherSeed = seed) : generator(otherSeed) {}
+
     std::uint64_t word() { return generator(); }
 
     /// Uniform from low to high.
@@ -34,7 +36,7 @@ public:
     }
 
 private:
-    std::mt19937_64 generator{seed};
+    std::mt19937_64 generator;
 };
 
 }  // namespace calquo

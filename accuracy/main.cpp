@@ -1,0 +1,81 @@
+// accuracy functions|reading|writing [OPTION]... NAME=COMMAND...: asks builds of calq random lines, holds the answers
+// against exact values, and prints a table in Markdown. A command reads lines and answers each. The exit status is 1
+// when something is wrong; what, is told on the other stream.
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <string_view>
+
+#include "builds.h"
+#include "support/random_reals.h"
+
+namespace {
+
+using namespace calquo;
+
+constexpr const char* usage =
+    "usage: accuracy functions|reading|writing [OPTION]... NAME=COMMAND...\n"
+    "  --count N      random arguments for each row (100)\n"
+    "  --seed N       of the random numbers\n"
+    "  --only NAME    only this function or operator\n"
+    "  --folder PATH  for lines and answers (a temporary one)\n";
+
+struct Section {
+    std::string_view name;
+    bool (*measure)(const Session&);
+};
+
+constexpr Section sections[] = {
+    {"functions", measureFunctions}, {"reading", measureReading}, {"writing", measureWriting}};
+
+bool readArguments(int count, char** arguments, Session& session) {
+    for (int i = 2; i < count; ++i) {
+        const std::string argument = arguments[i];
+        const std::size_t equals = argument.find('=');
+        if (!argument.starts_with("--") && equals != std::string::npos) {
+            session.builds.push_back({argument.substr(0, equals), argument.substr(equals + 1)});
+        } else if (const char* value = i + 1 < count ? arguments[++i] : nullptr; value == nullptr) {
+            return false;
+        } else if (argument == "--count") {
+            session.count = std::atoi(value);
+        } else if (argument == "--seed") {
+            session.seed = std::strtoull(value, nullptr, 10);
+        } else if (argument == "--only") {
+            session.only = value;
+        } else if (argument == "--folder") {
+            session.folder = value;
+        } else {
+            return false;
+        }
+    }
+    return session.count > 0 && !session.builds.empty();
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    constexpr int usualCount = 100;
+    const auto* const section = std::find_if(std::begin(sections), std::end(sections),
+                                             [&](const Section& one) { return count > 1 && one.name == arguments[1]; });
+    try {
+        Session session{usualCount, RandomReals::seed, "", {}, {}};
+        if (section == std::end(sections) || !readArguments(count, arguments, session)) {
+            std::fputs(usage, stderr);
+            return 2;
+        }
+        const bool isTemporary = session.folder.empty();
+        if (isTemporary) {
+            std::string name = std::filesystem::temp_directory_path() / "accuracy-XXXXXX";
+            session.folder = mkdtemp(name.data());
+        }
+        const bool isWell = section->measure(session);
+        if (isTemporary) {
+            std::filesystem::remove_all(session.folder);
+        }
+        return isWell ? 0 : 1;
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "accuracy: %s\n", fault.what());
+        return 2;
+    }
+}
