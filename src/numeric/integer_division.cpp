@@ -1,28 +1,39 @@
 // Quotient and remainder of whole numbers.
 #include "numeric/integer_division.h"
 
+#include <cmath>
+
 #include "numeric/checked_real.h"
 #include "numeric/checks.h"
 #include "numeric/complex_arithmetic.h"
-#include "numeric/rounding.h"
+#include "numeric/signed_wide.h"
 
 namespace calquo {
 namespace {
 
-Real quotient(const Value& a, const Value& b) {
+struct Division {
+    Real quotient;
+    Real remainder;
+};
+
+Division divideWhole(const Value& a, const Value& b) {
     requireReal(a, CheckFlags::Report | CheckFlags::NoFraction);
     requireReal(b, CheckFlags::Report | CheckFlags::NoFraction);
     pointAt(b);
-    return divReal(a.re, b.re);
+    const Real quotient = divReal(a.re, b.re);
+    // Exact; adding 0 leaves no negative zero.
+    const Real remainder = std::fmod(a.re, b.re) + 0;
+    // Below 2^63 a fraction of the quotient is too far from the next whole number to be rounded to it.
+    if (std::fabs(a.re) < 0x1p63L || std::isnan(quotient)) {
+        return {std::trunc(quotient), remainder};
+    }
+    return {toReal((SignedWide(a.re) - remainder) / b.re), remainder};
 }
 
 }  // namespace
 
-Value mod(const Value& a, const Value& b) { return Value(whole(quotient(a, b))).at(b.positions); }
+Value mod(const Value& a, const Value& b) { return Value(divideWhole(a, b).quotient).at(b.positions); }
 
-Value rem(const Value& a, const Value& b) {
-    // The rounding takes away the error of the quotient's fraction.
-    return Value(round(mulReal(fraction(quotient(a, b)), b.re))).at(b.positions);
-}
+Value rem(const Value& a, const Value& b) { return Value(divideWhole(a, b).remainder).at(b.positions); }
 
 }  // namespace calquo

@@ -2,11 +2,13 @@
 #include "numeric/statistics.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
 #include "numeric/complex_arithmetic.h"
 #include "numeric/exponential.h"
+#include "numeric/signed_wide.h"
 #include "values/extended.h"
 
 namespace calquo {
@@ -60,12 +62,75 @@ Value extreme(std::span<const Value> items, Value best, int wanted) {
     return best;
 }
 
-/// The sum of squared deviations from the mean, divided by `divisor`.
-Value variance(std::span<const Value> items, const Value& divisor) {
+enum class Spread { Variance, Deviation };
+
+/// Whether no step of the variance can leave the range. Not with a NaN among the parts.
+bool staysInRange(std::span<const Value> items) {
+    constexpr Real limit = 0x1p8000L;
+    return std::ranges::all_of(
+        items, [](const Value& item) { return std::fabs(item.re) < limit && std::fabs(item.im) < limit; });
+}
+
+/// The square root of re + i im, taken of numbers in the middle of the range.
+Value squareRoot(SignedWide re, SignedWide im) {
+    const SignedWide& larger = re.zero || (!im.zero && im.magnitude.exponent > re.magnitude.exponent) ? im : re;
+    const int scale = larger.zero ? 0 : (larger.magnitude.exponent + 127) / 2;
+    re.magnitude.exponent -= 2 * scale;
+    im.magnitude.exponent -= 2 * scale;
+    const Value root = sqrt(Value(toReal(re), toReal(im)));
+    return {std::ldexp(root.re, scale), std::ldexp(root.im, scale)};
+}
+
+/// A part of each item.
+using Part = Real Value::*;
+
+/// n sum(ab) - sum(a) sum(b) for two parts a and b of the items. It is the same with those of the first item taken from
+/// each, after which there is little left to cancel: for a = b the difference is at least the sum of the squares.
+template <typename Number>
+Number scatterIn(std::span<const Value> items, Part a, Part b) {
+    Number sumOfA = 0, sumOfB = 0, products = 0;
+    for (const Value& item : items) {
+        const Number distance = Number(item.*a) - items.front().*a;
+        const Number other = a == b ? distance : Number(item.*b) - items.front().*b;
+        sumOfA = sumOfA + distance;
+        sumOfB = a == b ? sumOfA : sumOfB + other;
+        products = products + distance * other;
+    }
+    return products * size(items).re - sumOfA * sumOfB;
+}
+
+/// The same within (n + 8) 2^-126 of the sum of the products; of few small whole numbers exactly and by the short road.
+SignedWide scatter(std::span<const Value> items, Part a, Part b) {
+    // All sums are whole and below 2^64.
+    constexpr std::size_t few = 2048;
+    const auto small = [](Real x) { return std::fabs(x) < 0x1p20L && x == static_cast<Real>(static_cast<int>(x)); };
+    const bool exact = items.size() <= few && std::ranges::all_of(items, [&](const Value& item) {
+                           return small(item.*a) && (a == b || small(item.*b));
+                       });
+    return exact ? scatterIn<Real>(items, a, b) : scatterIn<SignedWide>(items, a, b);
+}
+
+/// (sum2 - sum^2 / n) / divisor, or its root.
+Value spread(std::span<const Value> items, Real divisor, Spread wanted) {
     if (items.empty()) {
         return Value(0);
     }
-    return div(sub(sum2(items), div(sqr(sum(items)), size(items))), divisor);
+    if (divisor == 0 || !staysInRange(items)) {
+        // The steps of the formula, for their errors and for NaNs.
+        const Value steps = div(sub(sum2(items), div(sqr(sum(items)), size(items))), divisor);
+        if (std::isnan(steps.re) || std::isnan(steps.im)) {
+            return wanted == Spread::Variance ? steps : sqrt(steps);
+        }
+    }
+    const Real totalDivisor = size(items).re * divisor;
+    SignedWide re = scatter(items, &Value::re, &Value::re);
+    SignedWide im;
+    if (std::ranges::any_of(items, [](const Value& item) { return item.im != 0; })) {
+        re = re - scatter(items, &Value::im, &Value::im);
+        im = 2 * scatter(items, &Value::re, &Value::im) / totalDivisor;
+    }
+    re = re / totalDivisor;
+    return wanted == Spread::Variance ? Value(toReal(re), toReal(im)) : squareRoot(re, im);
 }
 
 }  // namespace
@@ -134,12 +199,12 @@ Value max(std::span<const Value> items) { return extreme(items, Value(-largestFi
 
 Value min(std::span<const Value> items) { return extreme(items, Value(largestFinite), -1); }
 
-Value varP(std::span<const Value> items) { return variance(items, size(items)); }
+Value varP(std::span<const Value> items) { return spread(items, size(items).re, Spread::Variance); }
 
-Value var(std::span<const Value> items) { return variance(items, size(items).re - 1); }
+Value var(std::span<const Value> items) { return spread(items, size(items).re - 1, Spread::Variance); }
 
-Value sdP(std::span<const Value> items) { return sqrt(varP(items)); }
+Value sdP(std::span<const Value> items) { return spread(items, size(items).re, Spread::Deviation); }
 
-Value sd(std::span<const Value> items) { return sqrt(var(items)); }
+Value sd(std::span<const Value> items) { return spread(items, size(items).re - 1, Spread::Deviation); }
 
 }  // namespace calquo

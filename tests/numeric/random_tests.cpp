@@ -23,6 +23,8 @@ TEST(Random, SeedDeterminesTheSequenceAndItsOrder) {
     EXPECT_EQ(rndR(Value(10), Value(18)).re, 10 + 8 * uniform[2]);
     seedRandom(42);
     const Value normal = rndCG();
+    // Both parts are stretched alike, the first draw's and the second's.
+    EXPECT_NEAR(static_cast<double>(normal.im / normal.re * (2 * uniform[0] - 1) - (2 * uniform[1] - 1)), 0, 1e-15);
     seedRandom(42);
     EXPECT_EQ(rndG().re, normal.re);
     seedRandom(43);
@@ -41,6 +43,8 @@ TEST(Random, WordIsSixDrawsThatOverlapByTwoBits) {
     }
     seedRandom(7);
     EXPECT_EQ(randomWord(), wanted);
+    seedRandom(7);
+    EXPECT_EQ(rnd().re, static_cast<Real>(wanted) / 18446744073709551615.0L);
 }
 
 /// Mean and variance of a number of draws.

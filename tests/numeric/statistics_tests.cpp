@@ -1,4 +1,4 @@
-// Lists: the median whatever the order.
+// Lists: the median whatever the order, and the extremes of infinities.
 #include "numeric/statistics.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +7,8 @@
 #include <cmath>
 #include <random>
 #include <vector>
+
+#include "values/extended.h"
 
 namespace calquo {
 namespace {
@@ -29,6 +31,13 @@ TEST(Statistics, MedianStandsInTheMiddleOfEveryShuffle) {
         EXPECT_EQ(middle.re, (std::floor(low / 8) + std::floor(high / 8)) / 2) << size;
         EXPECT_EQ(middle.im, (std::fmod(low, 8) + std::fmod(high, 8)) / 2) << size;
     }
+}
+
+TEST(Statistics, ExtremesAreFinite) {
+    // No line can write a negative infinity.
+    const std::vector<Value> items(2, Value(-positiveInfinity));
+    EXPECT_EQ(max(items).re, -largestFinite);
+    EXPECT_EQ(min(items).re, -positiveInfinity);
 }
 
 }  // namespace
