@@ -241,7 +241,7 @@ private:
 /// Throws std::runtime_error for a function or an operator of the language without a row, and for a row without one.
 void checkCompleteness() {
     std::map<std::string, bool, std::less<>> isMeasured;
-    for (std::size_t keyword = 1; keyword <= keywordCount; ++keyword) {
+    for (std::size_t keyword = 1; keyword <= keywordCount(); ++keyword) {
         if (classOf(keyword) != ArgumentClass::None) {
             isMeasured.emplace(nameOf(keyword), false);
         }
