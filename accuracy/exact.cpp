@@ -1,6 +1,7 @@
 // The formulas. Real steps whose results may leave the range are checked one by one, as the language asks.
 #include "exact.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "values/extended.h"
@@ -31,17 +32,16 @@ void checkExponent(const Tracked& x) {
     }
 }
 
-/// Whether x lies within 2 units in its last place of an odd multiple of pi / 2. Where those units are no small part of
-/// pi, no number is.
-bool isAtPole(const Tracked& x) {
-    constexpr long largestExponent = 56;
-    if (x.exponent() > largestExponent) {
+/// Whether both parts lie within 2 units in the last place of x of an odd multiple of pi / 2; from 2^31 on, where units
+/// are larger, within 2^-32.
+bool isAtPole(const Exact& z) {
+    const long vicinity = std::min(z.re.exponent() - 63, -32L);
+    if (z.re.isZero() || z.im.exponent() > vicinity + 1) {
         return false;
     }
-    const Tracked pi = Tracked::pi();
-    const Tracked distance = x - (someWholeNextTo(x / pi - Real(0.5)) + Real(0.5)) * pi;
-    const Tracked twoUnits = std::ldexp(Real(2), static_cast<int>(x.exponent()) - 64);
-    return !(abs(distance) > twoUnits);
+    const Tracked pi = Tracked::pi(), largest = std::ldexp(Real(1), static_cast<int>(vicinity));
+    const Tracked distance = z.re - (someWholeNextTo(z.re / pi - Real(0.5)) + Real(0.5)) * pi;
+    return !(abs(distance) > largest) && !(abs(z.im) > largest);
 }
 
 bool isWhole(const Tracked& x) { return x.isExact() && mpfr_integer_p(x.get()) != 0; }
@@ -131,12 +131,12 @@ Exact pow(const Exact& z, const Exact& w) {
     if (z.isReal() && z.re.isZero()) {
         return Real(0);
     }
-    Exact logarithm = ln(z);
+    const Exact power = exp(ln(z) * w);
     if (z.isReal() && z.re.sign() < 0 && w.isReal() && isWhole(w.re)) {
-        // The angle keeps what its rounding leaves of it.
-        logarithm.im = pi;
+        // The imaginary part keeps what rounding leaves of k pi.
+        return {power.re, abs(power.re) * sin(Tracked(pi * mpfr_get_ld(w.re.get(), MPFR_RNDN)))};
     }
-    return exp(logarithm * w);
+    return power;
 }
 
 Exact root(const Exact& z, const Exact& degree) { return pow(z, inv(degree)); }
@@ -168,7 +168,7 @@ Exact cos(const Exact& z) {
 }
 
 Exact tan(const Exact& z) {
-    if (z.isReal() && isAtPole(z.re)) {
+    if (isAtPole(z)) {
         refuse(ErrorCode::DivisionByZero);
     }
     const Tracked x2 = inRange(2 * z.re), y2 = inRange(2 * z.im);

@@ -131,8 +131,8 @@ Complex sum(Arguments list) {
 
 Complex sumOfSquares(Arguments list) {
     return steps(list, 0, [](const Complex& all, const Complex& z) {
-        const auto [x, y] = std::pair(z.real(), z.imag());
-        return all + Complex(x * x - y * y, 2 * (x * y));
+        const Exact square = sqr(Exact(z));
+        return all + Complex(mpfr_get_ld(square.re.get(), MPFR_RNDN), mpfr_get_ld(square.im.get(), MPFR_RNDN));
     });
 }
 
