@@ -56,26 +56,19 @@ inline constexpr std::array attributes = std::to_array<Attribute>({
     {'+', field::plusSign, AttributeControl::CheckBox, "Show + for &positive values", offOrOn},
 });
 
-/// The row of a letter in a kind of format; the number of rows for a letter that stands for none.
-constexpr std::size_t rowOfAttribute(FormatKind kind, char letter) {
-    const bool writesFractions = kind == FormatKind::Rational || kind == FormatKind::Fractional;
-    const auto applies = [&](const Attribute& attribute) {
-        return attribute.letter == letter && (letter != 'D' || attribute.ofDenominators == writesFractions);
-    };
-    const auto found = std::find_if(attributes.begin(), attributes.end(), applies);
-    return static_cast<std::size_t>(found - attributes.begin());
-}
-
 /// The attribute of a letter in a kind of format; null for a letter that stands for none.
 constexpr const Attribute* attributeOf(FormatKind kind, char letter) {
-    const std::size_t row = rowOfAttribute(kind, letter);
-    return row == attributes.size() ? nullptr : &attributes[row];
+    const bool writesFractions = kind == FormatKind::Rational || kind == FormatKind::Fractional;
+    const auto* const found = std::ranges::find_if(attributes, [&](const Attribute& attribute) {
+        return attribute.letter == letter && (letter != 'D' || attribute.ofDenominators == writesFractions);
+    });
+    return found == attributes.end() ? nullptr : found;
 }
 
 /// The field that a letter stands for in every kind; 0 for a letter that stands for none.
 constexpr NumericFormat fieldOfLetter(char letter) {
-    const std::size_t row = rowOfAttribute(FormatKind::Automatic, letter);
-    return row == attributes.size() ? 0 : attributes[row].field;
+    const Attribute* const attribute = attributeOf(FormatKind::Automatic, letter);
+    return attribute == nullptr ? 0 : attribute->field;
 }
 
 /// Whether a word is one of the given kind, with its reserved bits 0 and every attribute of the kind in its range.
@@ -84,15 +77,10 @@ constexpr bool isWellFormed(NumericFormat word, FormatKind kind) {
     if (getField(word, field::kind) != static_cast<std::uint32_t>(kind) || (word & reserved) != 0) {
         return false;
     }
-    const std::string_view letters = formatKinds[static_cast<std::size_t>(kind)].letters;
-    return std::all_of(letters.begin(), letters.end(), [&](char letter) {
-        const std::size_t row = rowOfAttribute(kind, letter);
-        if (row == attributes.size()) {
-            return false;
-        }
-        const AttributeRange range = attributes[row].range;
-        const std::uint32_t value = getField(word, attributes[row].field);
-        return value >= range.smallest && value <= range.largest;
+    return std::ranges::all_of(formatKinds[static_cast<std::size_t>(kind)].letters, [&](char letter) {
+        const Attribute* const attribute = attributeOf(kind, letter);
+        const std::uint32_t value = attribute == nullptr ? 0 : getField(word, attribute->field);
+        return attribute != nullptr && value >= attribute->range.smallest && value <= attribute->range.largest;
     });
 }
 

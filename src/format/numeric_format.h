@@ -2,6 +2,7 @@
 // access to the fields.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -55,16 +56,12 @@ inline constexpr std::array formatKinds = std::to_array<FormatKindRow>({
     {"fractional", "Frac&tional", "Fractional Format", "GDWF+", 0x63180004},
 });
 
-constexpr std::array<NumericFormat, formatKinds.size()> collectDefaultFormats() {
-    std::array<NumericFormat, formatKinds.size()> words{};
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        words[i] = formatKinds[i].defaultWord;
-    }
-    return words;
-}
-
 /// The default words, indexed by kind: what "reset all formats" restores.
-inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = collectDefaultFormats();
+inline constexpr std::array<NumericFormat, formatKinds.size()> defaultFormats = [] {
+    std::array<NumericFormat, formatKinds.size()> words{};
+    std::ranges::transform(formatKinds, words.begin(), &FormatKindRow::defaultWord);
+    return words;
+}();
 
 /// The value of a field of the word.
 constexpr std::uint32_t getField(NumericFormat word, NumericFormat mask) {
