@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <set>
-#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -92,124 +91,97 @@ private:
     const Drawing& line_;
 };
 
-std::string press(std::uint16_t panel, const PanelButton& button, const Drawing& line,
-                  AngleOption angle = AngleOption::None) {
+std::string press(std::uint16_t panel, const PanelButton& button, const Drawing& line, AngleOption angle = {}) {
     return std::visit(Pressed(line), actionOf(panel, button, {line.text, line.begin, line.end}, angle));
 }
 
 struct ActionRow {
     std::uint16_t panel;
     std::string_view button, line, after;
+    AngleOption angle = AngleOption::None;
 };
 
-void expect(std::span<const ActionRow> rows) {
-    for (const ActionRow& row : rows) {
-        EXPECT_EQ(press(row.panel, buttonOf(row.panel, row.button), row.line), row.after)
+using enum AngleOption;
+
+const ActionRow actionRows[] = {
+    // Keypads type.
+    {0xA110, "7", "|", "7|"},
+    {0xA110, "7", "1[23]4", "17|4"},
+    {0xA112, "F", "16'|", "16'F|"},
+    // Functions go around the selection.
+    {0xA331, "sqrt", "[2]", "sqrt(2|)"},
+    {0xA331, "sqrt", "|", "sqrt(|)"},
+    {0xA331, "sqrt", "2+[3]*4", "2+ sqrt(3|) *4"},
+    {0xA331, "sqrt", "2+ [3] *4", "2+ sqrt(3|) *4"},
+    {0xA331, "sqrt", "2\t[3]\t*4", "2\tsqrt(3|)\t*4"},
+    {0xA331, "sqrt", "2|3", "2 sqrt(|) 3"},
+    {0xA331, "sqrt", "[2+\x7F]\xE9", "sqrt(2+\x7F|) \xE9"},
+    {0xA331, "pow", "[2]", "pow(2|; )"},
+    {0xA331, "logB", "|", "logB(|; )"},
+    {0xA331, "logB", "[81]", "logB(|; 81)"},
+    {0xA331, "root", "2+[27]+3", "2+ root(|; 27) +3"},
+    {0xA361, "rnd", "2*|", "2* rnd|"},
+    {0xA181, "bAnd", "[12]", "bAnd(12|; )"},
+    {0xA182, "bNot", "[12]", "bNot(12|)"},
+    {0xA411, "max", "[1; 2]", "max(1; 2|)"},
+    {0xA211, "fv", "[100]", "fv(100|; 1 year; 5%; month; 0; month)"},
+    {0xA211, "pv", "[100]", "pv(100|; 1 year; 5%; month; 0; month)"},
+    {0xA211, "pmt", "|", "pmt(|; ; 1 year; 5%; month; month)"},
+    {0xA211, "dur", "|", "dur(|; ; 5%; month; 0; month) -> yr"},
+    {0xA211, "rate", "|", "rate(|; ; 1 year; month; 0; month)"},
+    // Those of angles add the unit that is chosen, and no others do.
+    {0xA010, "sin", "[30]", "sin(30|)"},
+    {0xA010, "sin", "[30]", "sin(30| deg)", Degree},
+    {0xA010, "cot", "[30]", "cot(30| grad)", Gradient},
+    {0xA011, "acos", "[30]", "acos(30|) -> grad", Gradient},
+    {0xA011, "atan", "[30]", "atan(30|) -> rad", Radian},
+    {0xA020, "sinh", "[30]", "sinh(30| rad)", Radian},
+    {0xA021, "asinh", "[30]", "asinh(30|) -> deg", Degree},
+    {0xA311, "abs", "[30]", "abs(30|)", Degree},
+    {0xA421, "avg", "[30]", "avg(30|)", Degree},
+    // Units stand apart from their neighbours.
+    {0xA550, "km", "5|", "5 km|"},
+    {0xA550, "km", "5 |", "5 km|"},
+    {0xA550, "km", "  5|", "  5 km|"},
+    {0xA550, "km", "|", "km|"},
+    {0xA550, "km", "|5", "km| 5"},
+    {0xA550, "km", "5|+3", "5 km| +3"},
+    {0xA550, "km", "5| + 3", "5 km| + 3"},
+    {0xA550, "km", "5+[3]*2", "5+ km 3| *2"},
+    {0xA550, "km", "5 [ 3] ", "5 km 3| "},
+    {0xA590, "kilo", "[m]", "kilo m|"},
+    {0xA5B0, "inHg", "3|", "3 inchHg|"},
+    {0xA580, "pi", "2\xE9|", "2\xE9 pi|"},
+    // An output base is asked for once.
+    {0xA113, "2'", "3+|4", "3+2'|4"},
+    {0xA113, "16'", "[255]", "16'|"},
+    {0xA113, "'", "2|", "2'|"},
+    {0xA113, "'16", "255|", "255| '16"},
+    {0xA113, "'16", "255| '16", "255| '16"},
+    {0xA113, "'8", "255 \t '16 |", "255| '8"},
+    {0xA113, "'8", "[255] '99", "255| '8"},
+    {0xA113, "'2", "| '2", "| '2"},
+    {0xA113, "'2", "255|  ", "255|   '2"},
+    {0xA113, "'2", "'16 255|", "'16 255| '2"},
+    {0xA113, "'16", "2+\x7F '8|\xE9", "2+\x7F '8|\xE9 '16"},
+    {0xA113, "10", "255 '16|", "255|"},
+    {0xA113, "10", "255|", "nothing"},
+    {0xA113, "10", "'16 255|", "nothing"},
+    // The result behind an expression is not asked.
+    {0xA113, "'16", "255| = 255", "255| '16 = 255"},
+    {0xA113, "'16", "255 = 255|", "255 '16 = 255|"},
+    {0xA113, "'8", "255 '16 = 16'FF|", "255 '8 = 16'FF|"},
+    {0xA113, "'8", "255 '1|6 = \xE9", "255| '8 = \xE9"},
+    {0xA113, "10", "255 '16 = 16'F[F]", "255 = 16'FF|"},
+    {0xA113, "10", "255 = 255 '16|", "nothing"},
+    // No expression stands in these.
+    {0xA113, "'16", "5=9|", "5=9| '16"},
+};
+
+TEST(ButtonAction, ChangesTheLine) {
+    for (const ActionRow& row : actionRows) {
+        EXPECT_EQ(press(row.panel, buttonOf(row.panel, row.button), row.line, row.angle), row.after)
             << row.button << " on " << row.line;
-    }
-}
-
-TEST(ButtonAction, KeypadsTypeAndEdit) {
-    const ActionRow rows[] = {
-        {0xA110, "7", "|", "7|"},
-        {0xA110, "7", "1[23]4", "17|4"},
-        {0xA112, "F", "16'|", "16'F|"},
-    };
-    expect(rows);
-}
-
-TEST(ButtonAction, FunctionsGoAroundTheSelection) {
-    const ActionRow rows[] = {
-        {0xA331, "sqrt", "[2]", "sqrt(2|)"},
-        {0xA331, "sqrt", "|", "sqrt(|)"},
-        {0xA331, "sqrt", "2+[3]*4", "2+ sqrt(3|) *4"},
-        {0xA331, "sqrt", "2+ [3] *4", "2+ sqrt(3|) *4"},
-        {0xA331, "sqrt", "2\t[3]\t*4", "2\tsqrt(3|)\t*4"},
-        {0xA331, "sqrt", "2|3", "2 sqrt(|) 3"},
-        {0xA331, "sqrt", "[2+\x7F]\xE9", "sqrt(2+\x7F|) \xE9"},
-        {0xA331, "pow", "[2]", "pow(2|; )"},
-        {0xA331, "logB", "|", "logB(|; )"},
-        {0xA331, "logB", "[81]", "logB(|; 81)"},
-        {0xA331, "root", "2+[27]+3", "2+ root(|; 27) +3"},
-        {0xA361, "rnd", "2*|", "2* rnd|"},
-        {0xA181, "bAnd", "[12]", "bAnd(12|; )"},
-        {0xA182, "bShift", "|", "bShift(|; )"},
-        {0xA182, "bNot", "[12]", "bNot(12|)"},
-        {0xA411, "max", "[1; 2]", "max(1; 2|)"},
-        {0xA421, "sd", "|", "sd(|)"},
-        {0xA211, "fv", "[100]", "fv(100|; 1 year; 5%; month; 0; month)"},
-        {0xA211, "pv", "[100]", "pv(100|; 1 year; 5%; month; 0; month)"},
-        {0xA211, "pmt", "|", "pmt(|; ; 1 year; 5%; month; month)"},
-        {0xA211, "dur", "|", "dur(|; ; 5%; month; 0; month) -> yr"},
-        {0xA211, "rate", "|", "rate(|; ; 1 year; month; 0; month)"},
-    };
-    expect(rows);
-}
-
-TEST(ButtonAction, UnitsStandApartFromTheirNeighbours) {
-    const ActionRow rows[] = {
-        {0xA550, "km", "5|", "5 km|"},         {0xA550, "km", "5 |", "5 km|"},
-        {0xA550, "km", "  5|", "  5 km|"},     {0xA550, "km", "|", "km|"},
-        {0xA550, "km", "|5", "km| 5"},         {0xA550, "km", "5|+3", "5 km| +3"},
-        {0xA550, "km", "5| + 3", "5 km| + 3"}, {0xA550, "km", "5+[3]*2", "5+ km 3| *2"},
-        {0xA550, "km", "5 [ 3] ", "5 km 3| "}, {0xA590, "kilo", "[m]", "kilo m|"},
-        {0xA5B0, "inHg", "3|", "3 inchHg|"},   {0xA580, "pi", "2\xE9|", "2\xE9 pi|"},
-    };
-    expect(rows);
-}
-
-TEST(ButtonAction, OutputBaseIsAskedForOnce) {
-    const ActionRow rows[] = {
-        {0xA113, "2'", "3+|4", "3+2'|4"},
-        {0xA113, "16'", "[255]", "16'|"},
-        {0xA113, "'", "2|", "2'|"},
-        {0xA113, "'16", "255|", "255| '16"},
-        {0xA113, "'16", "255| '16", "255| '16"},
-        {0xA113, "'8", "255 \t '16 |", "255| '8"},
-        {0xA113, "'8", "[255] '99", "255| '8"},
-        {0xA113, "'2", "| '2", "| '2"},
-        {0xA113, "'2", "255|  ", "255|   '2"},
-        {0xA113, "'2", "'16 255|", "'16 255| '2"},
-        {0xA113, "'16", "2+\x7F '8|\xE9", "2+\x7F '8|\xE9 '16"},
-        {0xA113, "10", "255 '16|", "255|"},
-        {0xA113, "10", "255|", "nothing"},
-        {0xA113, "10", "'16 255|", "nothing"},
-        // The result behind an expression is not asked.
-        {0xA113, "'16", "255| = 255", "255| '16 = 255"},
-        {0xA113, "'16", "255 = 255|", "255 '16 = 255|"},
-        {0xA113, "'8", "255 '16 = 16'FF|", "255 '8 = 16'FF|"},
-        {0xA113, "'8", "255 '1|6 = \xE9", "255| '8 = \xE9"},
-        {0xA113, "10", "255 '16 = 16'F[F]", "255 = 16'FF|"},
-        {0xA113, "10", "255 = 255 '16|", "nothing"},
-        // No expression stands in these.
-        {0xA113, "'16", "5=9|", "5=9| '16"},
-    };
-    expect(rows);
-}
-
-TEST(ButtonAction, AngleFunctionsAddTheChosenUnit) {
-    struct Row {
-        std::uint16_t panel;
-        std::string_view button;
-        AngleOption angle;
-        std::string_view after;
-    };
-    using enum AngleOption;
-    const Row rows[] = {
-        {0xA010, "sin", None, "sin(30|)"},
-        {0xA010, "sin", Degree, "sin(30| deg)"},
-        {0xA010, "cot", Gradient, "cot(30| grad)"},
-        {0xA011, "asin", None, "asin(30|)"},
-        {0xA011, "acos", Gradient, "acos(30|) -> grad"},
-        {0xA011, "atan", Radian, "atan(30|) -> rad"},
-        {0xA020, "sinh", Radian, "sinh(30| rad)"},
-        {0xA021, "asinh", Degree, "asinh(30|) -> deg"},
-        // Only functions of angles hear of the option.
-        {0xA311, "abs", Degree, "abs(30|)"},
-        {0xA421, "avg", Degree, "avg(30|)"},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(press(row.panel, buttonOf(row.panel, row.button), Drawing("[30]"), row.angle), row.after);
     }
 }
 
@@ -264,8 +236,7 @@ TEST(EveryButton, OfANameMakesALineThatEvaluates) {
         const bool takesNumber = classOf(lookup(button.insertion)) != ArgumentClass::None;
         // A list long enough to have a deviation.
         const std::string_view numbers = panel.group == PanelGroup::Statistics ? "[2; 3]" : "[2]";
-        for (const AngleOption angle :
-             {AngleOption::None, AngleOption::Degree, AngleOption::Gradient, AngleOption::Radian}) {
+        for (const AngleOption angle : {None, Degree, Gradient, Radian}) {
             const std::string line = press(panel.identifier, button, takesNumber ? numbers : "2|", angle);
             EXPECT_TRUE(evaluates(filled(line)));
         }
@@ -312,7 +283,7 @@ TEST(EveryButton, OfAKeypadTypesATokenOrEdits) {
         if (panel.group != PanelGroup::Keypads) {
             return;
         }
-        const ButtonAction action = actionOf(panel.identifier, button, {"255 '2", 1, 1}, AngleOption::None);
+        const ButtonAction action = actionOf(panel.identifier, button, {"255 '2", 1, 1}, None);
         if (const auto* const typing = std::get_if<TypeCharacters>(&action)) {
             EXPECT_TRUE(isToken(typing->characters));
             EXPECT_EQ(button.label, button.symbol == Symbol::Space ? "" : typing->characters);
