@@ -13,7 +13,7 @@
 namespace calquo {
 namespace {
 
-/// The bits of 2/pi behind its binary point, highest first.
+/// The bits of 2/pi after its binary point, highest first.
 constexpr std::array<std::uint64_t, 260> twoOverPi = {
     0xA2F9836E4E441529, 0xFC2757D1F534DDC0, 0xDB6295993C439041, 0xFE5163ABDEBBC561, 0xB7246E3A424DD2E0,
     0x06492EEA09D1921C, 0xFE1DEB1CB129A73E, 0xE88235F52EBB4484, 0xE99C7026B45F7E41, 0x3991D639835339F4,
@@ -68,10 +68,7 @@ constexpr std::array<std::uint64_t, 260> twoOverPi = {
     0x7E32B90F8EF5A7E7, 0x561408F1212A9DB5, 0x4D7E6F5119A5ABF9, 0xB5D6DF8261DD9602, 0x36169F3AC4A1A283,
     0x6DED727A8D39A9B8, 0x825C326B5B2746ED, 0x34007700D255F4FC, 0x4D59018071E0E13F, 0x89B295F364A8F1AE};
 
-/// pi/2 to 128 bits.
-constexpr WideFloat halfPi = {{0xC90FDAA22168C234, 0xC4C6628B80DC1CD1}, -127};
-
-/// 64 bits of 2/pi from a place behind the binary point on; those in front of the point are 0.
+/// 64 bits of 2/pi from a place after the binary point on; those before the point are 0.
 std::uint64_t bitsFrom(int place) {
     const auto word = [](int index) {
         return index >= 0 && index < static_cast<int>(twoOverPi.size()) ? twoOverPi[static_cast<std::size_t>(index)]
@@ -82,7 +79,7 @@ std::uint64_t bitsFrom(int place) {
     return shift == 0 ? word(index) : word(index) << shift | word(index + 1) >> (64 - shift);
 }
 
-/// A fraction of 2^128, with 128 more bits behind it.
+/// A fraction of 2^128, with 128 more bits after it.
 struct Fraction256 {
     UInt128 high;
     UInt128 low;
@@ -99,9 +96,10 @@ Fraction256 productModulo(std::uint64_t mantissa, int place) {
 }  // namespace
 
 ReducedAngle reduceAngle(Real x) {
-    if (x <= pi / 4) {
-        return {0, x, 0};
+    if (std::fabs(x) <= pi / 4) {
+        return {0, x};
     }
+    const bool negative = x < 0;
     const ExtendedBits bits = bitsOf(x);
     // Bits of 2/pi up to this place make multiples of 4 with the mantissa's lowest bit: whole turns.
     Fraction256 product = productModulo(bits.mantissa, bits.exponent() - 2);
@@ -120,12 +118,41 @@ ReducedAngle reduceAngle(Real x) {
     // No extended number comes closer than 2^-90 to a multiple of pi/2, so that the fraction is never 0.
     const int zeros = leadingZeros(product.high);
     const UInt128 leading = shiftLeft(product.high, zeros) + shiftRight(product.low, 128 - zeros);
-    const Truncation cut = truncate(multiply({leading, -126 - zeros}, halfPi));
-    const bool up = cut.rest > cut.half;
-    const Real angle = toReal(cut, up);
-    const Real unit = std::ldexp(Real{1}, cut.exponent);
-    const Real rest = (static_cast<Real>(cut.rest.low) * 0x1p-64L - (up ? 1 : 0)) * unit;
-    return {quadrant & 3, above ? -angle : angle, above ? -rest : rest};
+    const SignedWide angle(multiply({leading, -126 - zeros}, wideHalfPi.magnitude), above != negative);
+    return {(negative ? 0 - quadrant : quadrant) & 3, angle};
+}
+
+ReducedAngle reduceAngle(const SignedWide& x) {
+    constexpr Real quarterTurn = 1.57079632679489661923132169163975144L;
+    // Beyond 2^63 quarter turns no bit of the angle is left anyway.
+    const Real turns = std::rint(std::fmax(std::fmin(toReal(x) / quarterTurn, 0x1p62L), -0x1p62L));
+    return {static_cast<unsigned>(static_cast<std::int64_t>(turns)) & 3, x - wideHalfPi * turns};
+}
+
+ReducedAngle reduceHalfTurns(const SignedWide& x) {
+    if (x.zero) {
+        return {0, x};
+    }
+    // Quarter turns modulo 4, in units of 2^-126: a shift to the left drops whole turns.
+    const int shift = x.magnitude.exponent + 1 + 126;
+    const UInt128 turns =
+        shift >= 0 ? shiftLeft(x.magnitude.mantissa, shift) : shiftRight(x.magnitude.mantissa, -shift);
+    auto quadrant = static_cast<unsigned>(turns.high >> 62);
+    UInt128 fraction = {turns.high & ~std::uint64_t{0} >> 2, turns.low};
+    const bool above = fraction.high >> 61 != 0;
+    if (above) {
+        ++quadrant;
+        fraction = UInt128{std::uint64_t{1} << 62, 0} - fraction;
+    }
+    quadrant = (x.negative ? 0 - quadrant : quadrant) & 3;
+    if (shift < 0 && quadrant == 0 && !above) {
+        // A small angle keeps all its bits.
+        return {0, x * widePi};
+    }
+    if (fraction == UInt128{}) {
+        return {quadrant, {}};
+    }
+    return {quadrant, SignedWide(multiply(normalized(fraction, -126), wideHalfPi.magnitude), above != x.negative)};
 }
 
 }  // namespace calquo

@@ -1,22 +1,31 @@
-// Angles of any size taken back to an eighth of a circle, so that sine and cosine are right for every number, whatever
-// the mathematics library does with large ones.
+// Angles of any size taken back to an eighth of a circle, so that the circular functions are right for every number.
 #pragma once
 
-#include "values/value.h"
+#include "numeric/signed_wide.h"
 
 namespace calquo {
 
-/// An angle in radians as quadrant * pi/2 + angle + rest.
+/// pi and half of it to 128 bits.
+inline constexpr SignedWide widePi = WideFloat{{0xC90FDAA22168C234, 0xC4C6628B80DC1CD1}, -126};
+inline constexpr SignedWide wideHalfPi = WideFloat{widePi.magnitude.mantissa, widePi.magnitude.exponent - 1};
+
+/// An angle in radians as quadrant * pi/2 + angle.
 struct ReducedAngle {
     unsigned quadrant = 0;  ///< modulo 4
-    Real angle = 0;         ///< at most pi/4 in magnitude
-    Real rest = 0;          ///< at most half a unit in the last place of the angle
+    SignedWide angle;       ///< at most pi/4 in magnitude
 };
 
-/// Reduces a finite x of 0 or more. The sum of angle and rest is within 2^-100 of itself.
+/// Reduces a finite x. The angle is within 2^-100 of itself.
 ///
 /// Method: Payne and Hanek, Radian Reduction for Trigonometric Functions, 1983: x times those 256 bits of 2/pi that can
 /// reach the last two bits of the whole part or its fraction.
 ReducedAngle reduceAngle(Real x);
+
+/// Reduces a wide angle, losing one bit for each one in front of the binary point of its quarter turns.
+ReducedAngle reduceAngle(const SignedWide& x);
+
+/// Reduces x half turns, |x| below 2^127, exactly but for the last multiplication by pi; whole quarter turns have an
+/// angle of 0.
+ReducedAngle reduceHalfTurns(const SignedWide& x);
 
 }  // namespace calquo

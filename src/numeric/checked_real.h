@@ -50,12 +50,6 @@ inline Real recipReal(Real a) { return divReal(1, a); }
 /// -1, 0 or 1 as a is below, equal to or above 0; 0 for a NaN; 6 when a is out of range.
 Real signReal(Real a);
 
-/// The functions of the mathematics library; a in radians for sine and cosine. 6 when the result is out of range.
-Real sinReal(Real a);
-Real cosReal(Real a);
-Real sinhReal(Real a);
-Real coshReal(Real a);
-
 /// Exponents that expReal takes, deliberately on both sides: a very negative exponent is refused, not flushed to 0.
 constexpr Real lowestExponent = -11358.65226L;
 constexpr Real highestExponent = 11356.5234L;

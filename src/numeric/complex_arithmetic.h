@@ -1,5 +1,7 @@
 // The four operations, small powers and the parts of complex numbers, and the rule by which results carry positions.
-// z = x + iy, w = u + iv. Every real step is checked: an overflow raises 6 ("domain range") at the literal that fed it.
+// z = x + iy, w = u + iv. Every real step of the formulas is checked: an overflow raises 6 ("domain range") at the
+// literal that fed it. Sums and products are what the steps leave; everything else is the exact value of its formula,
+// rounded once.
 #pragma once
 
 #include "values/value.h"
@@ -10,7 +12,7 @@ namespace calquo {
 constexpr Value imaginaryUnit{0, 1};
 
 /// Makes errors point at a value's literal from now on; a value without one leaves the error position as it is.
-void pointAt(const Value& v);
+void reportErrorsAt(const Value& v);
 
 /// z + w, z - w. The result carries w's positions.
 Value add(const Value& z, const Value& w);
@@ -19,8 +21,8 @@ Value sub(const Value& z, const Value& w);
 /// z w = (xu - yv) + i(yu + xv), always by four products. The result carries w's positions.
 Value mul(const Value& z, const Value& w);
 
-/// z / w by the plain formula over |w|^2, deliberately without scaling: 22 when |w|^2 is or underflows to 0, 6 when it
-/// overflows. The result carries w's positions.
+/// z / w. The steps of the plain formula over |w|^2 limit it, deliberately without scaling: 22 when |w|^2 is or
+/// underflows to 0, 6 when it or a product of parts overflows. The result carries w's positions.
 Value div(const Value& z, const Value& w);
 
 /// The one-operand operations below carry their operand's positions.
@@ -32,7 +34,7 @@ Value conj(const Value& z);
 /// z / 100.
 Value pct(const Value& z);
 
-/// 1 / z; 22 for 0.
+/// 1 / z; 22 for 0, and errors over |z|^2 like div's unless z is real.
 Value inv(const Value& z);
 
 /// z^2 = (x^2 - y^2) + 2ixy and z^3 = (x^3 - 3xy^2) + i(3x^2y - y^3).
@@ -46,7 +48,7 @@ Value imag(const Value& z);
 /// |z|^2 = x^2 + y^2.
 Value norm2(const Value& z);
 
-/// |z|; exact where one part is 0.
+/// |z|; exact where one part is 0, else 6 when |z|^2 overflows.
 Value abs(const Value& z);
 
 /// The principal angle of z in radians, in (-pi, pi]; 0 for 0, and a negative zero counts as zero. 6 for an infinite

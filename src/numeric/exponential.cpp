@@ -1,11 +1,14 @@
-// Exponential, logarithms, powers and roots.
+// Exponential, logarithms, powers and roots: the steps of their formulas are checked, their values are rounded once.
 #include "numeric/exponential.h"
 
 #include <cmath>
 
 #include "numeric/checked_real.h"
+#include "numeric/checks.h"
 #include "numeric/complex_arithmetic.h"
+#include "numeric/wide_complex.h"
 #include "numeric/wide_logarithm.h"
+#include "numeric/wide_trigonometric.h"
 
 namespace calquo {
 namespace {
@@ -14,90 +17,95 @@ bool positiveReal(const Value& z) { return z.im == 0 && z.re > 0 && !outOfRange(
 
 bool finiteReal(const Value& z) { return z.im == 0 && z.re >= -largestFinite && z.re <= largestFinite; }
 
-/// Refuses an exponent of e as the product and expReal would: 6 when it overflows, 9 beyond the limits.
-void checkExponent(Real exponent) {
-    inRange(exponent);
-    if (exponent < lowestExponent || exponent > highestExponent) {
+/// e^a with the limits of expReal.
+SignedWide limitedExponential(const SignedWide& a) {
+    const Real rounded = toReal(a);
+    if (rounded < lowestExponent || rounded > highestExponent) {
         raise(ErrorCode::LimitExceeded);
     }
+    return wideExponential(a);
 }
 
-/// The nearest number to the power whose exponent of e is factor ln x, or ln x / factor; factor is not 0.
-template <bool divide>
-Real positivePower(Real x, Real factor) {
-    SignedWide logarithm = wideLogarithm(x);
-    const Real estimate = divide ? toReal(logarithm) / factor : toReal(logarithm) * factor;
-    checkExponent(estimate);
-    if (logarithm.zero || estimate == 0) {
-        return 1;
+/// The nearest number to x^exponent; 6 when the product with ln x is out of range.
+Real positivePower(Real x, const SignedWide& exponent) {
+    const SignedWide product = wideLogarithm(x) * exponent;
+    inRange(toReal(product));
+    return toReal(limitedExponential(product));
+}
+
+/// ln |z| for finite parts, not both 0. Next to the unit circle, where it is small, it keeps its relative precision:
+/// |z|^2 - 1 is exact but for the rounding of its last sum.
+SignedWide logarithmOfModulus(const Value& z) {
+    const Real larger = std::fmax(std::fabs(z.re), std::fabs(z.im));
+    const Real smaller = std::fmin(std::fabs(z.re), std::fabs(z.im));
+    const SignedWide x = larger;
+    const SignedWide y = smaller;
+    if (larger < 0.5L || larger > 2) {
+        return scaled(wideLogarithm(x * x + y * y), -1);
     }
-    const WideFloat scale = wideFloat(std::fabs(factor));
-    logarithm.magnitude = multiply(logarithm.magnitude, divide ? reciprocal(scale) : scale);
-    logarithm.negative = logarithm.negative != (factor < 0);
-    return toReal(wideExponential(logarithm));
+    // The square of y by way of two halves of y, so that no sum with x^2 - 1 drops a bit of it before the last one.
+    const Real upper = std::rint(smaller * 0x1p32L) * 0x1p-32L;
+    const SignedWide lower = smaller - upper;
+    const SignedWide excess = (x * x - 1) + SignedWide(upper) * upper + lower * (y + upper);
+    return scaled(wideLogarithmOfOnePlus(excess), -1);
 }
 
-/// A sum of two wide numbers, and the part of its last unit that did not fit, as a fraction.
-struct WideSum {
-    WideFloat leading;
-    UInt128 trailing;
-};
+/// The logarithm of a finite z other than 0. The angle of the negative real axis is pi.
+WideComplex logarithmOf(const Value& z) {
+    return {z.im == 0 ? wideLogarithm(std::fabs(z.re)) : logarithmOfModulus(z), wideArcTangent(z.im, z.re)};
+}
 
-/// a + b for a not below b.
-WideSum sum(const WideFloat& a, const WideFloat& b) {
-    const int shift = a.exponent - b.exponent;
-    const UInt128 mantissa = a.mantissa + shiftRight(b.mantissa, shift);
-    const UInt128 trailing = shift == 0 ? UInt128{} : shiftLeft(b.mantissa, 128 - shift);
-    if (mantissa >= a.mantissa) {
-        return {{mantissa, a.exponent}, trailing};
+/// The angle of a finite z other than 0 in eighths of a turn, where it is a whole number of them; else 0, as of
+/// positive numbers. No other angle is a rational part of a turn, since z has rational parts.
+int eighthsOfTurn(const Value& z) {
+    if (z.re == 0) {
+        return z.im < 0 ? -2 : 2;
     }
-    // Carried out of the top.
-    return {{shiftRight(mantissa, 1) + UInt128{std::uint64_t{1} << 63, 0}, a.exponent + 1},
-            shiftRight(trailing, 1) + shiftLeft(mantissa, 127)};
-}
-
-/// ln |x + iy| for finite parts, not both 0. Next to the unit circle, where it is small, it keeps its relative
-/// precision: x^2 + y^2 is summed exactly, and what its rounding to an extended number takes away is put back.
-Real logarithmOfModulus(Real x, Real y) {
-    const Real larger = std::fmax(std::fabs(x), std::fabs(y));
-    const Real ratio = std::fmin(std::fabs(x), std::fabs(y)) / larger;
-    if (ratio * ratio < 0x1p-64L) {
-        return toReal(wideLogarithm(larger)) + ratio * ratio / 2;
+    if (z.im == 0) {
+        return z.re < 0 ? 4 : 0;
     }
-    // The squares of numbers far from 1 would leave the range.
-    const int scale = std::fabs(larger - 1) < 1 ? 0 : std::ilogb(larger);
-    const WideFloat a = wideFloat(std::ldexp(larger, -scale));
-    const WideFloat b = wideFloat(std::ldexp(std::fmin(std::fabs(x), std::fabs(y)), -scale));
-    const auto [leading, trailing] = sum(multiply(a, a), multiply(b, b));
-    const Truncation squares = truncate(leading);
-    const bool up = squares.rest > squares.half;
-    const Real rest = up ? -static_cast<Real>(0 - squares.rest.low) : static_cast<Real>(squares.rest.low);
-    const Real lost = (rest + static_cast<Real>(trailing.high) * 0x1p-64L) * 0x1p-64L / static_cast<Real>(squares.kept);
-    constexpr Real lnTwo = 0.693147180559945309417232121458176568L;
-    return (toReal(wideLogarithm(toReal(squares, up))) + lost) / 2 + static_cast<Real>(scale) * lnTwo;
-}
-
-/// ln z / ln b for positive reals other than b = 1.
-Real positiveLogarithm(Real z, Real base) {
-    SignedWide numerator = wideLogarithm(z);
-    const SignedWide denominator = wideLogarithm(base);
-    if (numerator.zero) {
+    if (std::fabs(z.re) != std::fabs(z.im)) {
         return 0;
     }
-    numerator.magnitude = multiply(numerator.magnitude, reciprocal(denominator.magnitude));
-    numerator.negative = numerator.negative != denominator.negative;
-    return toReal(numerator);
+    const int size = z.re < 0 ? 3 : 1;
+    return z.im < 0 ? -size : size;
+}
+
+/// z^w for finite z other than 0 and finite w, whose real part may be known better than it is rounded.
+Value power(const Value& z, const Value& w, const SignedWide& realExponent) {
+    const WideComplex logarithm = logarithmOf(z);
+    // The product of logarithm and exponent as a step, for its errors, and to the last bit.
+    const Value product = mul(rounded(logarithm), w);
+    const WideComplex exponent = logarithm * WideComplex{realExponent, w.im};
+    const SignedWide modulus = limitedExponential(exponent.re);
+    const int eighths = eighthsOfTurn(z);
+    SineCosine circle;
+    if (eighths != 0 && (w.im == 0 || logarithm.re.zero)) {
+        circle = wideSineCosine(reduceHalfTurns(scaled(eighths * realExponent, -2)));
+        if (eighths == 4 && z.im == 0 && w.im == 0 && !hasFraction(w.re)) {
+            // Whole powers of negative numbers deliberately keep the residue of k pi.
+            circle.sine = wideSineCosine(product.im).sine;
+        }
+    } else {
+        circle = wideSineCosine(reduceAngle(exponent.im));
+    }
+    return rounded({modulus * circle.cosine, modulus * circle.sine}).at(w.positions);
 }
 
 }  // namespace
 
 Value exp(const Value& z) {
-    pointAt(z);
+    reportErrorsAt(z);
     const Real modulus = expReal(z.re);
     if (z.im == 0) {
         return Value(modulus).at(z.positions);
     }
-    return Value(mulReal(modulus, cosReal(z.im)), mulReal(modulus, sinReal(z.im))).at(z.positions);
+    if (!isFinite(z)) {
+        return notANumber(z);
+    }
+    const SignedWide wide = wideExponential(z.re);
+    const SineCosine circle = wideSineCosine(z.im);
+    return rounded({wide * circle.cosine, wide * circle.sine}).at(z.positions);
 }
 
 Value ln(const Value& z) {
@@ -105,21 +113,19 @@ Value ln(const Value& z) {
     if (positiveReal(z)) {
         return Value(toReal(wideLogarithm(z.re))).at(z.positions);
     }
-    if (z.im == 0 && z.re < 0) {
-        return Value(toReal(wideLogarithm(-z.re)), pi).at(z.positions);
-    }
-    // checkValue has refused infinities; a NaN in one part makes both parts one.
-    const Real modulus = std::isunordered(z.re, z.im) ? z.re + z.im : logarithmOfModulus(z.re, z.im);
-    return Value(modulus, std::atan2(z.im, z.re)).at(z.positions);
+    return isFinite(z) ? rounded(logarithmOf(z)).at(z.positions) : notANumber(z);
 }
 
 Value logB(const Value& z, const Value& base) {
     checkValue(z, CheckFlags::Report | CheckFlags::NoZero);
     checkValue(base, CheckFlags::Report | CheckFlags::NoZero | CheckFlags::NoOne);
     if (positiveReal(z) && positiveReal(base)) {
-        return Value(positiveLogarithm(z.re, base.re)).at(base.positions);
+        return Value(toReal(wideLogarithm(z.re) / wideLogarithm(base.re))).at(base.positions);
     }
-    return div(ln(z), ln(base));
+    if (!isFinite(z) || !isFinite(base)) {
+        return notANumber(base);
+    }
+    return rounded(logarithmOf(z) / logarithmOf(base)).at(base.positions);
 }
 
 Value log10(const Value& z) { return logB(z, Value(10)).at(z.positions); }
@@ -131,26 +137,36 @@ Value pow(const Value& z, const Value& w) {
         return Value(0);
     }
     if (positiveReal(z) && finiteReal(w)) {
-        pointAt(w);
-        return Value(w.re == 0 ? 1 : positivePower<false>(z.re, w.re)).at(w.positions);
+        reportErrorsAt(w);
+        return Value(positivePower(z.re, w.re)).at(w.positions);
     }
-    return exp(mul(ln(z), w));
+    if (!isFinite(z) || !isFinite(w)) {
+        return exp(mul(ln(z), w));
+    }
+    return power(z, w, w.re);
 }
 
 Value root(const Value& z, const Value& degree) {
     const Value exponent = inv(degree);
-    if (positiveReal(z) && finiteReal(degree)) {
-        pointAt(degree);
-        return Value(positivePower<true>(z.re, degree.re)).at(degree.positions);
+    if (degree.im != 0 || !isFinite(degree) || !isFinite(z) || (z.re == 0 && z.im == 0)) {
+        return pow(z, exponent);
     }
-    return pow(z, exponent);
+    reportErrorsAt(degree);
+    const SignedWide exact = reciprocal(SignedWide(degree.re));
+    return positiveReal(z) ? Value(positivePower(z.re, exact)).at(degree.positions) : power(z, exponent, exact);
 }
 
 Value sqrt(const Value& z) {
     if (positiveReal(z)) {
         return Value(std::sqrt(z.re)).at(z.positions);
     }
-    return root(z, Value(2)).at(z.positions);
+    if (!isFinite(z)) {
+        return root(z, Value(2)).at(z.positions);
+    }
+    if (z.im == 0) {
+        return Value(0, std::sqrt(-z.re)).at(z.positions);
+    }
+    return rounded(squareRoot(wideComplex(z))).at(z.positions);
 }
 
 Value cbrt(const Value& z) { return root(z, Value(3)).at(z.positions); }

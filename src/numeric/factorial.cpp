@@ -29,7 +29,7 @@ Real gammaLanczos(Real x) {
 Value fact(const Value& n) {
     requireReal(n, CheckFlags::Report);
     const Value argument = fromWord(toUnsignedWord(n));
-    pointAt(n);
+    reportErrorsAt(n);
     return Value(round(gammaLanczos(argument.re + 1))).at(n.positions);
 }
 

@@ -19,7 +19,7 @@ struct Division {
 Division divideWhole(const Value& a, const Value& b) {
     requireReal(a, CheckFlags::Report | CheckFlags::NoFraction);
     requireReal(b, CheckFlags::Report | CheckFlags::NoFraction);
-    pointAt(b);
+    reportErrorsAt(b);
     const Real quotient = divReal(a.re, b.re);
     // Exact; adding 0 leaves no negative zero.
     const Real remainder = std::fmod(a.re, b.re) + 0;

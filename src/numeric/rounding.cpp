@@ -14,7 +14,7 @@ namespace {
 bool isNaN(Real x) { return std::isunordered(x, x); }
 
 Value partByPart(const Value& z, Real (*operation)(Real)) {
-    pointAt(z);
+    reportErrorsAt(z);
     const Real re = operation(z.re);
     return Value(re, operation(z.im)).at(z.positions);
 }

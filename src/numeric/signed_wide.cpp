@@ -9,9 +9,8 @@ namespace {
 
 /// |a| + |b| for |a| not below |b|.
 WideFloat sum(const WideFloat& a, const WideFloat& b) {
-    const UInt128 addend = shiftRight(b.mantissa, a.exponent - b.exponent);
-    const UInt128 mantissa = a.mantissa + addend;
-    if (mantissa >= addend) {
+    const UInt128 mantissa = a.mantissa + shiftRight(b.mantissa, a.exponent - b.exponent);
+    if (mantissa >= a.mantissa) {
         return {mantissa, a.exponent};
     }
     // Carried out of the top.
@@ -20,7 +19,7 @@ WideFloat sum(const WideFloat& a, const WideFloat& b) {
 
 }  // namespace
 
-SignedWide::SignedWide(Real x) : negative(x < 0), zero(x == 0) {
+SignedWide::SignedWide(Real x) : negative(std::signbit(x)), zero(x == 0) {
     if (!zero) {
         magnitude = wideFloat(std::fabs(x));
     }
@@ -34,7 +33,8 @@ SignedWide operator-(const SignedWide& a) {
 
 SignedWide operator+(const SignedWide& a, const SignedWide& b) {
     if (a.zero || b.zero) {
-        return a.zero ? b : a;
+        const SignedWide& other = a.zero ? b : a;
+        return other.zero && a.negative != b.negative ? SignedWide() : other;
     }
     const bool descending =
         std::tie(a.magnitude.exponent, a.magnitude.mantissa) >= std::tie(b.magnitude.exponent, b.magnitude.mantissa);
@@ -51,11 +51,25 @@ SignedWide operator+(const SignedWide& a, const SignedWide& b) {
 SignedWide operator-(const SignedWide& a, const SignedWide& b) { return a + -b; }
 
 SignedWide operator*(const SignedWide& a, const SignedWide& b) {
-    return a.zero || b.zero ? SignedWide() : SignedWide(multiply(a.magnitude, b.magnitude), a.negative != b.negative);
+    const bool negative = a.negative != b.negative;
+    if (a.zero || b.zero) {
+        SignedWide zero;
+        zero.negative = negative;
+        return zero;
+    }
+    return {multiply(a.magnitude, b.magnitude), negative};
 }
 
 SignedWide operator/(const SignedWide& a, const SignedWide& b) {
     return a * SignedWide(reciprocal(b.magnitude), b.negative);
+}
+
+SignedWide squareRoot(const SignedWide& a) { return a.zero ? a : squareRoot(a.magnitude); }
+
+SignedWide scaled(const SignedWide& a, int exponent) {
+    SignedWide result = a;
+    result.magnitude.exponent += exponent;
+    return result;
 }
 
 int signOf(const SignedWide& a) { return a.zero ? 0 : a.negative ? -1 : 1; }
@@ -63,10 +77,7 @@ int signOf(const SignedWide& a) { return a.zero ? 0 : a.negative ? -1 : 1; }
 SignedWide absolute(const SignedWide& a) { return a.negative ? -a : a; }
 
 Real toReal(const SignedWide& a) {
-    if (a.zero) {
-        return 0;
-    }
-    const Real magnitude = toReal(a.magnitude);
+    const Real magnitude = a.zero ? 0 : toReal(a.magnitude);
     return a.negative ? -magnitude : magnitude;
 }
 

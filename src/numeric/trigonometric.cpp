@@ -1,104 +1,216 @@
-// Circular, hyperbolic and inverse functions by their complex formulas.
+// Circular and hyperbolic functions: the steps of their complex formulas are checked, their values are rounded once.
 #include "numeric/trigonometric.h"
+
+#include <cmath>
 
 #include "numeric/checked_real.h"
 #include "numeric/complex_arithmetic.h"
-#include "numeric/exponential.h"
+#include "numeric/wide_complex.h"
+#include "numeric/wide_trigonometric.h"
+#include "values/extended.h"
 
 namespace calquo {
 namespace {
 
-/// A constant of a formula, carrying the operand's positions so that an error of its step points at the operand.
-Value constant(Real number, const Value& z) { return Value(number).at(z.positions); }
+// Everything below is made of s = sin, c = cos of one part of z and S = sinh, C = cosh of the other one. Of the squared
+// moduli that divide, only sums of squares are left, in which nothing cancels: c^2 + S^2 = |cos z|^2,
+// s^2 + S^2 = |sin z|^2.
 
-/// i z, with z's positions.
-Value timesI(const Value& z) { return mul(imaginaryUnit, z); }
+/// Refuses a hyperbolic sine or cosine beyond the range.
+void refuseOverflow(Real x) {
+    if (std::fabs(x) > highestExponent && (std::fabs(x) > 12000 || std::isinf(toReal(wideHyperbolic(x).cosine)))) {
+        raiseOutOfRange();
+    }
+}
 
-Value half(const Value& z) { return div(z, constant(2, z)); }
+/// The parts of a finite z = x + iy from which sin z and cos z are made.
+struct CircularParts {
+    SignedWide s, c, S, C;
 
-/// ln(z + sqrt(z^2 + shift)): the inverse hyperbolic sine for shift 1, cosine for shift -1.
-Value logarithmWithRoot(const Value& z, Real shift) { return ln(add(z, sqrt(add(sqr(z), constant(shift, z))))); }
+    explicit CircularParts(const Value& z) {
+        const SineCosine circular = wideSineCosine(z.re);
+        const SineCosine hyperbolic = wideHyperbolic(z.im);
+        s = circular.sine;
+        c = circular.cosine;
+        S = hyperbolic.sine;
+        C = hyperbolic.cosine;
+    }
+
+    [[nodiscard]] WideComplex sine() const { return {s * C, c * S}; }
+    [[nodiscard]] WideComplex cosine() const { return {c * C, -(s * S)}; }
+    [[nodiscard]] SignedWide squaredSine() const { return s * s + S * S; }
+    [[nodiscard]] SignedWide squaredCosine() const { return c * c + S * S; }
+};
+
+/// The same from which sinh z and cosh z are made.
+struct HyperbolicParts : CircularParts {
+    explicit HyperbolicParts(const Value& z) : CircularParts(Value(z.im, z.re)) {}
+
+    [[nodiscard]] WideComplex sine() const { return {S * c, C * s}; }
+    [[nodiscard]] WideComplex cosine() const { return {C * c, S * s}; }
+};
+
+Value checkedValue(const WideComplex& w, const Value& z) {
+    const Value result = rounded(w);
+    return Value(inRange(result.re), inRange(result.im)).at(z.positions);
+}
+
+/// 1 / w by the steps of inv, for a w with a given squared modulus that comes from an operand z.
+Value inverse(const WideComplex& w, const SignedWide& squaredModulus, const Value& z) {
+    if (toReal(w.im) == 0) {
+        if (toReal(w.re) == 0) {
+            raise(ErrorCode::DivisionByZero);
+        }
+        return Value(inRange(toReal(reciprocal(w.re)))).at(z.positions);
+    }
+    if (inRange(toReal(squaredModulus)) == 0) {
+        raise(ErrorCode::DivisionByZero);
+    }
+    return checkedValue(conjugate(w) * reciprocal(squaredModulus), z);
+}
+
+/// Refuses, for sine and cosine, an imaginary part that is too large. False for a NaN.
+bool startsCircular(const Value& z) {
+    reportErrorsAt(z);
+    refuseOverflow(z.im);
+    return isFinite(z);
+}
+
+/// Refuses what the steps of tan refuse: parts whose double leaves the range or the limits of cosh, and numbers that
+/// cannot be told from a pole, within 2 units in the last place of it. False for a NaN.
+bool startsTangent(const Value& z) {
+    reportErrorsAt(z);
+    mulReal(2, z.re);
+    refuseOverflow(mulReal(2, z.im));
+    if (!isFinite(z)) {
+        return false;
+    }
+    const ReducedAngle reduced = reduceAngle(z.re);
+    if (reduced.quadrant % 2 != 0) {
+        // Every number from 2^31 on is closer to a pole than that: the formula's denominator is 0 from 2^-32 on.
+        const Real vicinity = std::fmin(std::ldexp(Real{1}, bitsOf(z.re).exponent() + 1), 0x1p-32L);
+        if (toReal(absolute(reduced.angle)) <= vicinity && std::fabs(z.im) <= vicinity) {
+            raise(ErrorCode::DivisionByZero);
+        }
+    }
+    return true;
+}
+
+void refuseSteep(const Value& z) {
+    reportErrorsAt(z);
+    if (std::fabs(z.re) > highestExponent) {
+        raise(ErrorCode::LimitExceeded);
+    }
+}
+
+/// Refuses what e^z and e^-z refuse. False for a NaN.
+bool startsExponentials(const Value& z) {
+    neg(z);
+    refuseSteep(z);
+    return isFinite(z);
+}
+
+/// Refuses a sum or difference of e^z and e^-z whose double, a step in halving it, leaves the range.
+WideComplex halved(const WideComplex& half) {
+    inRange(toReal(scaled(half.re, 2)));
+    inRange(toReal(scaled(half.im, 2)));
+    return half;
+}
+
+/// Refuses what the steps of tanh refuse: |e^z + e^-z|^2 beyond the range, too. False for a NaN.
+bool startsHyperbolicTangent(const Value& z) {
+    refuseSteep(z);
+    neg(z);
+    reportErrorsAt(z);
+    if (!isFinite(z)) {
+        return false;
+    }
+    if (2 * std::fabs(z.re) > highestExponent) {
+        inRange(toReal(scaled(HyperbolicParts(z).squaredCosine(), 2)));
+    }
+    return true;
+}
 
 }  // namespace
 
-Value sin(const Value& z) {
-    pointAt(z);
-    const Real re = mulReal(sinReal(z.re), coshReal(z.im));
-    return Value(re, mulReal(cosReal(z.re), sinhReal(z.im))).at(z.positions);
+Value sin(const Value& z) { return startsCircular(z) ? checkedValue(CircularParts(z).sine(), z) : notANumber(z); }
+
+Value cos(const Value& z) { return startsCircular(z) ? checkedValue(CircularParts(z).cosine(), z) : notANumber(z); }
+
+Value sec(const Value& z) {
+    if (!startsCircular(z)) {
+        return notANumber(z);
+    }
+    const CircularParts parts(z);
+    return inverse(parts.cosine(), parts.squaredCosine(), z);
 }
 
-Value cos(const Value& z) {
-    pointAt(z);
-    const Real re = mulReal(cosReal(z.re), coshReal(z.im));
-    return Value(re, negReal(mulReal(sinReal(z.re), sinhReal(z.im)))).at(z.positions);
+Value csc(const Value& z) {
+    if (!startsCircular(z)) {
+        return notANumber(z);
+    }
+    const CircularParts parts(z);
+    return inverse(parts.sine(), parts.squaredSine(), z);
 }
 
 Value tan(const Value& z) {
-    pointAt(z);
-    const Real x2 = mulReal(2, z.re);
-    const Real y2 = mulReal(2, z.im);
-    const Real denominator = addReal(cosReal(x2), coshReal(y2));
-    const Real re = divReal(sinReal(x2), denominator);
-    return Value(re, divReal(sinhReal(y2), denominator)).at(z.positions);
+    if (!startsTangent(z)) {
+        return notANumber(z);
+    }
+    // (sin 2x + i sinh 2y) / (cos 2x + cosh 2y) = (s c + i S C) / (c^2 + S^2)
+    const CircularParts parts(z);
+    return checkedValue(WideComplex{parts.s * parts.c, parts.S * parts.C} * reciprocal(parts.squaredCosine()), z);
 }
 
-Value cot(const Value& z) { return inv(tan(z)); }
+Value cot(const Value& z) {
+    if (!startsTangent(z)) {
+        return notANumber(z);
+    }
+    const CircularParts parts(z);
+    const SignedWide scale = reciprocal(parts.squaredCosine());
+    return inverse(WideComplex{parts.s * parts.c, parts.S * parts.C} * scale, parts.squaredSine() * scale, z);
+}
 
-Value sec(const Value& z) { return inv(cos(z)); }
+Value sinH(const Value& z) {
+    return startsExponentials(z) ? checkedValue(halved(HyperbolicParts(z).sine()), z) : notANumber(z);
+}
 
-Value csc(const Value& z) { return inv(sin(z)); }
+Value cosH(const Value& z) {
+    return startsExponentials(z) ? checkedValue(halved(HyperbolicParts(z).cosine()), z) : notANumber(z);
+}
 
-Value sinH(const Value& z) { return half(sub(exp(z), exp(neg(z)))); }
+Value secH(const Value& z) {
+    if (!startsExponentials(z)) {
+        return notANumber(z);
+    }
+    const HyperbolicParts parts(z);
+    return inverse(halved(parts.cosine()), parts.squaredCosine(), z);
+}
 
-Value cosH(const Value& z) { return half(add(exp(z), exp(neg(z)))); }
+Value cscH(const Value& z) {
+    if (!startsExponentials(z)) {
+        return notANumber(z);
+    }
+    const HyperbolicParts parts(z);
+    return inverse(halved(parts.sine()), parts.squaredSine(), z);
+}
 
 Value tanH(const Value& z) {
-    const Value rising = exp(z);
-    const Value falling = exp(neg(z));
-    return div(sub(rising, falling), add(rising, falling));
+    if (!startsHyperbolicTangent(z)) {
+        return notANumber(z);
+    }
+    // sinh z conj(cosh z) / |cosh z|^2 = (S C + i s c) / (c^2 + S^2)
+    const HyperbolicParts parts(z);
+    return checkedValue(WideComplex{parts.S * parts.C, parts.s * parts.c} * reciprocal(parts.squaredCosine()), z);
 }
 
-Value cotH(const Value& z) { return inv(tanH(z)); }
-
-Value secH(const Value& z) { return inv(cosH(z)); }
-
-Value cscH(const Value& z) { return inv(sinH(z)); }
-
-Value aSin(const Value& z) {
-    const Value opposite = sqrt(sub(constant(1, z), sqr(z)));
-    return neg(timesI(ln(add(timesI(z), opposite))));
+Value cotH(const Value& z) {
+    if (!startsHyperbolicTangent(z)) {
+        return notANumber(z);
+    }
+    const HyperbolicParts parts(z);
+    const SignedWide scale = reciprocal(parts.squaredCosine());
+    return inverse(WideComplex{parts.S * parts.C, parts.s * parts.c} * scale, parts.squaredSine() * scale, z);
 }
-
-Value aCos(const Value& z) { return sub(Value(pi / 2), aSin(z)); }
-
-Value aTan(const Value& z) {
-    const Value iz = timesI(z);
-    const Value one = constant(1, z);
-    return div(sub(ln(add(one, iz)), ln(sub(one, iz))), Value(0, 2).at(z.positions));
-}
-
-Value aCot(const Value& z) { return aTan(inv(z)); }
-
-Value aSec(const Value& z) { return aCos(inv(z)); }
-
-Value aCsc(const Value& z) { return aSin(inv(z)); }
-
-Value aSinH(const Value& z) { return logarithmWithRoot(z, 1); }
-
-Value aCosH(const Value& z) { return logarithmWithRoot(z, -1); }
-
-Value aTanH(const Value& z) {
-    const Value one = constant(1, z);
-    return half(ln(div(add(one, z), sub(one, z))));
-}
-
-Value aCotH(const Value& z) {
-    const Value one = constant(1, z);
-    return half(ln(div(add(z, one), sub(z, one))));
-}
-
-Value aSecH(const Value& z) { return aCosH(inv(z)); }
-
-Value aCscH(const Value& z) { return aSinH(inv(z)); }
 
 }  // namespace calquo

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "numeric/wide_series.h"
 #include "values/extended.h"
 
 namespace calquo {
@@ -11,13 +12,6 @@ namespace {
 
 // Fractions of 1 are held as multiples of 2^-128; sums that may reach 2^14 as multiples of 2^-112, in two's complement.
 constexpr int sumFractionBits = 112;
-
-/// numerator / denominator below 1, as a fraction, too small by at most numerator units.
-constexpr UInt128 fractionOf(std::uint32_t numerator, std::uint32_t denominator) {
-    UInt128 unit = ~UInt128{};
-    divideInPlace(unit, denominator);
-    return UInt128{unit.high * numerator, 0} + multiply(unit.low, numerator);
-}
 
 /// atanh z = z + z^3/3 + z^5/5 + ... for a fraction z of at most 1/3.
 constexpr UInt128 inverseHyperbolicTangent(UInt128 z) {
@@ -150,8 +144,6 @@ UInt128 timesCount(UInt128 a, int count) {
 /// Up to here the functions that vanish at 0 are summed as series, for the sake of their relative precision.
 constexpr Real nextToZero = 0x1p-7L;
 
-constexpr WideFloat asWide(UInt128 fraction) { return normalized(fraction, -128); }
-
 /// ln 2 with all its bits, from atanh(1/3).
 constexpr WideFloat wideLnTwo = normalized(inverseHyperbolicTangent(fractionOf(1, 3)), -127);
 
@@ -235,7 +227,7 @@ SignedWide wideLogarithm(const SignedWide& a) {
     const UInt128 mantissa = a.magnitude.mantissa;
     const Real leading = static_cast<Real>(mantissa.high) * 0x1p-63L;
     const Real growth = static_cast<Real>(mantissa.low) * 0x1p-64L / static_cast<Real>(mantissa.high);
-    return wideLogarithm(leading) + wideLogarithmOfOnePlus(growth) +
+    return wideLogarithm(leading) + (growth - growth * growth / 2) +
            wideLnTwo * static_cast<Real>(a.magnitude.exponent + 127);
 }
 

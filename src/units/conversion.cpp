@@ -11,9 +11,9 @@ Value convert(const Value& x, const Value& from, const Value& to) {
     if (!(x.im == 0)) {
         raise(ErrorCode::ComplexNotAllowed, x.positions.literalEnd);
     }
-    pointAt(from);
+    reportErrorsAt(from);
     Real number = subReal(x.re, from.im);
-    pointAt(to);
+    reportErrorsAt(to);
     number = divReal(number, to.re);
     number = mulReal(from.re, number);
     return {addReal(to.im, number)};

@@ -2,6 +2,7 @@
 #include "values/wide_float.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "values/extended.h"
 
@@ -23,6 +24,24 @@ WideFloat reciprocal(const WideFloat& a) {
     const UInt128 corrected = product > one ? y - multiplyHigh(y, shiftLeft(product - one, 2))
                                             : y + multiplyHigh(y, shiftLeft(one - product, 2));
     return normalized(corrected, -254 - a.exponent);
+}
+
+WideFloat squareRoot(const WideFloat& a) {
+    // a = fraction * 2^exponent with an even exponent and a fraction from 1/4 to 1.
+    const bool odd = (a.exponent & 1) != 0;
+    const int exponent = a.exponent + 128 + (odd ? 1 : 0);
+    const UInt128 fraction = shiftRight(a.mantissa, odd ? 1 : 0);
+    // The root of the leading bits, and one step of Newton: s + (fraction - s^2) / 2s.
+    const auto root = static_cast<std::uint64_t>(std::sqrt(static_cast<Real>(fraction.high) * 0x1p-64L) * 0x1p64L);
+    const UInt128 square = multiply(root, root);
+    const bool below = square > fraction;
+    const UInt128 rest = below ? square - fraction : fraction - square;
+    const Real difference = static_cast<Real>(rest.high) * 0x1p64L + static_cast<Real>(rest.low);
+    // In units of 2^-127, since it may reach 2^-63.
+    const auto correction = static_cast<std::uint64_t>(difference / static_cast<Real>(root) * 0x1p62L);
+    const UInt128 step = shiftLeft({0, correction}, 1);
+    const UInt128 start = {root, 0};
+    return normalized(below ? start - step : start + step, exponent / 2 - 128);
 }
 
 WideFloat power(std::uint32_t base, int exponent) {

@@ -35,6 +35,9 @@ constexpr WideFloat multiply(const WideFloat& a, const WideFloat& b) {
 /// 1 / a within 2^-123 of itself.
 WideFloat reciprocal(const WideFloat& a);
 
+/// The root of a within 2^-125 of itself; exact where it has 64 bits.
+WideFloat squareRoot(const WideFloat& a);
+
 /// base^exponent for a base of 2 to 36, within (|exponent| + 1) 2^-122 of itself.
 WideFloat power(std::uint32_t base, int exponent);
 

@@ -20,10 +20,11 @@ Value valueOf(const std::string& text) {
     return Value(re, std::strtold(end + 1, nullptr)).at({1, 2, 3, 4});
 }
 
-/// The number to four digits, NaNs without their sign.
+/// The number to four digits, NaNs and zeros without their sign, which nothing shows or asks for.
 std::string textOf(Real number) {
     char text[32];
-    std::snprintf(text, sizeof text, "%.4g", static_cast<double>(std::isnan(number) ? std::fabs(number) : number));
+    const bool isUnsigned = std::isnan(number) || number == 0;
+    std::snprintf(text, sizeof text, "%.4g", static_cast<double>(isUnsigned ? std::fabs(number) : number));
     return text;
 }
 
