@@ -51,9 +51,9 @@ Neighbours neighboursOfInverse(const Value& z) {
         const SignedWide inverse = reciprocal(x);
         return {{inverse, 0}, {(x - 1) * inverse, 0}, {(x + 1) * inverse, 0}};
     }
-    const WideComplex wide = {x, y};
-    const WideComplex inverse = conjugate(wide) * reciprocal(squaredModulus(wide));
-    return {inverse, WideComplex{x - 1, y} * inverse, WideComplex{x + 1, y} * inverse};
+    const SignedWide scale = reciprocal(x * x + y * y);
+    const SignedWide im = -y * scale;
+    return {{x * scale, im}, {(x * (x - 1) + y * y) * scale, -im}, {(x * (x + 1) + y * y) * scale, im}};
 }
 
 /// -i w, so that asinh z = i asin(-i z).
