@@ -37,9 +37,11 @@ std::string Range::text() const {
     }
     std::string text = isWhole ? "whole " : "";
     if (centre != 0) {
-        text += (multiples > 1 ? "k " : "") + std::string(centreSign == Signs::Either ? "±" : "") + centreName + " + ";
+        text += multiples > 1 ? "k " : centreSign == Signs::Either ? "±" : "";
+        text += std::string(centreName) + (sign == Signs::Either ? " ± " : " + ");
+    } else {
+        text += sign == Signs::Either ? "±" : sign == Signs::Negative ? "-" : "";
     }
-    text += sign == Signs::Either ? "±" : sign == Signs::Negative ? "-" : "";
     return text + "2^" + std::to_string(low) + " to 2^" + std::to_string(high);
 }
 

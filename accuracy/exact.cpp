@@ -17,7 +17,10 @@ const std::complex<Real> imaginaryUnit{0, 1};
 Tracked divisor(const Exact& w) {
     constexpr long belowDenormals = ExtendedBits::smallestExponent - 1;
     const Tracked n = inRange(inRange(w.re * w.re) + inRange(w.im * w.im));
-    if (n.isZero() || n.exponent() <= belowDenormals) {
+    if (n.exponent() <= belowDenormals) {
+        if (n.error() > belowDenormals) {
+            throw Undecided();
+        }
         refuse(ErrorCode::DivisionByZero);
     }
     return n;
@@ -120,11 +123,12 @@ Exact ln(const Exact& z) {
 }
 
 Exact logB(const Exact& z, const Exact& base) {
-    const Exact numerator = ln(z);
-    if (base.isReal() && (base.re - 1).isZero()) {
+    const Exact numerator = ln(z), denominator = ln(base);
+    // Each part of a complex base is checked.
+    if ((base.re - 1).isZero() || (base.im - 1).isZero()) {
         refuse(ErrorCode::CannotBeOne);
     }
-    return numerator / ln(base);
+    return numerator / denominator;
 }
 
 Exact pow(const Exact& z, const Exact& w) {

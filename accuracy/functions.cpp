@@ -21,6 +21,7 @@ using Function = std::function<Exact(Arguments)>;
 
 constexpr Range zero{};
 constexpr Range wide{-8000, 8000};
+constexpr Range extreme{-16382, 16384};
 constexpr Range positive{-8000, 8000, Signs::Positive};
 constexpr Range everyday{-4, 7};
 constexpr Range everydayPositive{-4, 7, Signs::Positive};
@@ -37,10 +38,12 @@ constexpr Range largeWholes{0, 8000, Signs::Either, true};
 
 /// The axes, the neighbourhood of branch points and of cuts, and everywhere.
 const std::vector<Region> plane = {
+    extreme,
     wide,
     everyday,
     nearOne,
     {everyday, everyday},
+    {extreme, extreme},
     {wide, wide},
     {nearZero, nearZero},
     {nearOne, nearZero},
@@ -62,7 +65,7 @@ const std::vector<Region> angles =
 const std::vector<Region> hyperbolicAngles =
     planeAnd({exponents, {exponents, everyday}, {nearZero, nearMultiples}, {zero, nearMultiples}});
 const std::vector<Region> some = {everyday, {everyday, everyday}};
-const std::vector<Region> anywhere = {wide, everyday, {everyday, everyday}, {wide, wide}};
+const std::vector<Region> anywhere = {extreme, wide, everyday, {everyday, everyday}, {wide, wide}, {extreme, extreme}};
 const std::vector<Region> roundable = {{{-4, 66}},
                                        wide,
                                        {{-70, -1, Signs::Either, false, 0.5, "1/2", Signs::Either, 2000}},
