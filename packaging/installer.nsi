@@ -72,6 +72,8 @@ Section "Uninstall"
     Delete "$INSTDIR\calq.exe"
     Delete "$INSTDIR\${NAME}2.chm"
     Delete "$INSTDIR\README.txt"
+    Delete "$INSTDIR\LICENSE.txt"
+    Delete "$INSTDIR\THIRD_PARTY.txt"
     Delete "$INSTDIR\Uninstall.exe"
     RMDir "$INSTDIR"
     RMDir "$LOCALAPPDATA\Programs" ; where nothing else stands in it

@@ -1,0 +1,34 @@
+# Calquo for Windows: a zip and a setup.
+find_program(MAKENSIS makensis REQUIRED DOC "Makes installers; Debian's package nsis")
+string(TOLOWER ${PROJECT_NAME}-${PROJECT_VERSION}-${CALQUO_WINDOWS} package_name)
+
+set(processors_win64 "Windows of 64 bits on x86-64 processors")
+set(processors_win32 "Windows of 32 or 64 bits on x86 and x86-64 processors")
+set(processors "${processors_${CALQUO_WINDOWS}}")
+# What Notepad shows, with the ends of lines that the older ones need.
+set(texts ${CMAKE_CURRENT_BINARY_DIR}/texts)
+configure_file(README.txt ${texts}/README.txt @ONLY NEWLINE_STYLE CRLF)
+configure_file(THIRD_PARTY.txt ${texts}/THIRD_PARTY.txt @ONLY NEWLINE_STYLE CRLF)
+configure_file(${PROJECT_SOURCE_DIR}/LICENSE ${texts}/LICENSE.txt @ONLY NEWLINE_STYLE CRLF)
+
+# The installer's own width: a 64-bit Windows without its 32-bit half could not start a 32-bit one.
+set(installer_target_win64 amd64-unicode)
+set(installer_target_win32 x86-unicode)
+
+add_custom_target(package
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/pack_windows ${packages} ${package_name} ${CMAKE_STRIP} $<TARGET_FILE:Calquo>
+            $<TARGET_FILE:calq> ${CMAKE_BINARY_DIR}/Calquo2.chm ${texts}/README.txt ${texts}/LICENSE.txt ${texts}/THIRD_PARTY.txt
+    COMMAND ${MAKENSIS} -V2 -DNAME=${PROJECT_NAME} -DVERSION=${PROJECT_VERSION} -DSITE=${CALQUO_SITE}
+            -DFILES=${packages}/${package_name} -DOUTPUT=${packages}/${package_name}-setup.exe
+            -DTARGET=${installer_target_${CALQUO_WINDOWS}} -DICON=${PROJECT_SOURCE_DIR}/resources/calquo.ico
+            ${CMAKE_CURRENT_SOURCE_DIR}/installer.nsi
+    COMMAND ${CMAKE_COMMAND} -E chdir ${packages} ${CMAKE_COMMAND} -E sha256sum ${package_name}.zip
+            ${package_name}-setup.exe > ${packages}/${package_name}.sha256
+    COMMENT "Packing ${packages}"
+    VERBATIM)
+add_dependencies(package Calquo calq help_file)
+
+# Packs, installs silently, starts, uninstalls.
+add_test(NAME installer
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/windows/installer ${CALQUO_WINDOWS} ${CMAKE_BINARY_DIR})
+set_tests_properties(installer PROPERTIES LABELS windows TIMEOUT 300 RUN_SERIAL ON)
