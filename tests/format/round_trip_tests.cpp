@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 
+#include "engine/characters.h"
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "support/random_reals.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr NumericFormat widest = field::significantDigits | field::digits;
 
 NumericFormat widestWord(FormatKind kind, NumericFormat flags = 0) {
-    return static_cast<NumericFormat>(kind) << 28 | 3U << 24 | widest | flags;
+    return static_cast<NumericFormat>(kind) << 28 | widest | flags;
 }
 
 /// The sign of a zero is not written: a part that is 0 reads back as 0 or, negated, as -0.
@@ -30,9 +31,15 @@ bool sameNumber(Real a, Real b) {
     return left.mantissa == right.mantissa && left.signExponent == right.signExponent;
 }
 
+/// With groups of the length whose turn it is, while the language allows that length as it does for a selected format.
 void expectRoundTrip(const Value& value, NumericFormat word, std::uint32_t base) {
+    static std::uint32_t turn = 0;
+    const std::uint32_t length = shortestGroup + turn++ % (longestGroup - shortestGroup + 1);
+    setField(word, field::groupSize, length);
+    setGroupLengths(length, length);
     const std::string text = FormatValue(value, word, base);
     const Value back = evaluateLine(text).value;
+    setGroupLengths(thousandsGroup, thousandsGroup);
     EXPECT_TRUE(sameNumber(back.re, value.re) && sameNumber(back.im, value.im))
         << text << " under word " << std::hex << word << ", seed " << std::dec << RandomReals::seed;
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <sstream>
 
+#include "engine/characters.h"
 #include "support/memory_storage.h"
 
 namespace calquo {
@@ -248,6 +249,23 @@ TEST(Settings, OnlyCharactersWithoutAnotherUseBecomeMarks) {
         }
     }
     EXPECT_EQ(free, "\"#$&,.<?[]`{|}~");
+}
+
+TEST(Settings, TheLanguageReadsTheMarksAndGroupsThatResultsHave) {
+    MemoryStorage storage;
+    const Settings defaults(storage);
+    Settings settings(storage);
+    settings.setText(TextSetting::DecimalMark, L",");
+    settings.setText(TextSetting::GroupMark, L".");
+    for (const FormatKind kind : {FormatKind::Integer, FormatKind::Automatic}) {
+        settings.selectFormat(kind);
+        applyToEngine(settings);
+        // Only Integer has groups of four digits.
+        EXPECT_EQ(characterTable.allowsGroup(4, false), kind == FormatKind::Integer);
+        EXPECT_EQ(markCharacter(TokenClass::DecimalMark), ',');
+        EXPECT_EQ(markCharacter(TokenClass::GroupMark), '.');
+    }
+    applyToEngine(defaults);
 }
 
 }  // namespace
