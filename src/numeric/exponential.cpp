@@ -71,17 +71,17 @@ int eighthsOfTurn(const Value& z) {
     return z.im < 0 ? -size : size;
 }
 
-/// z^w for finite z other than 0 and finite w, whose real part may be known better than it is rounded.
-Value power(const Value& z, const Value& w, const SignedWide& realExponent) {
+/// z^w for finite z other than 0 and a finite w that is given rounded and as exactly as it is known.
+Value power(const Value& z, const Value& w, const WideComplex& wide) {
     const WideComplex logarithm = logarithmOf(z);
     // The product of logarithm and exponent as a step, for its errors, and to the last bit.
     const Value product = mul(rounded(logarithm), w);
-    const WideComplex exponent = logarithm * WideComplex{realExponent, w.im};
+    const WideComplex exponent = logarithm * wide;
     const SignedWide modulus = limitedExponential(exponent.re);
     const int eighths = eighthsOfTurn(z);
     SineCosine circle;
     if (eighths != 0 && (w.im == 0 || logarithm.re.zero)) {
-        circle = wideSineCosine(reduceHalfTurns(scaled(eighths * realExponent, -2)));
+        circle = wideSineCosine(reduceHalfTurns(scaled(eighths * wide.re, -2)));
         if (eighths == 4 && z.im == 0 && w.im == 0 && !hasFraction(w.re)) {
             // Whole powers of negative numbers deliberately keep the residue of k pi.
             circle.sine = wideSineCosine(product.im).sine;
@@ -143,17 +143,19 @@ Value pow(const Value& z, const Value& w) {
     if (!isFinite(z) || !isFinite(w)) {
         return exp(mul(ln(z), w));
     }
-    return power(z, w, w.re);
+    return power(z, w, wideComplex(w));
 }
 
 Value root(const Value& z, const Value& degree) {
     const Value exponent = inv(degree);
-    if (degree.im != 0 || !isFinite(degree) || !isFinite(z) || (z.re == 0 && z.im == 0)) {
+    if (!isFinite(degree) || !isFinite(z) || (z.re == 0 && z.im == 0)) {
         return pow(z, exponent);
     }
     reportErrorsAt(degree);
-    const SignedWide exact = reciprocal(SignedWide(degree.re));
-    return positiveReal(z) ? Value(positivePower(z.re, exact)).at(degree.positions) : power(z, exponent, exact);
+    const WideComplex wide = wideComplex(degree);
+    const WideComplex exact = wide.im.zero ? WideComplex{reciprocal(wide.re), 0} : WideComplex{1, 0} / wide;
+    return positiveReal(z) && degree.im == 0 ? Value(positivePower(z.re, exact.re)).at(degree.positions)
+                                             : power(z, exponent, exact);
 }
 
 Value sqrt(const Value& z) {

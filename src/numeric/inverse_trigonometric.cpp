@@ -56,9 +56,6 @@ Neighbours neighboursOfInverse(const Value& z) {
     return {{x * scale, im}, {(x * (x - 1) + y * y) * scale, -im}, {(x * (x + 1) + y * y) * scale, im}};
 }
 
-/// -i w, so that asinh z = i asin(-i z).
-Neighbours turnedBack(const WideComplex& w) { return {{w.im, -w.re}, {1 - w.im, w.re}, {1 + w.im, -w.re}}; }
-
 WideComplex arcSine(const Neighbours& w) {
     if (w.real()) {
         if (signOf(w.lessSquare()) >= 0) {
@@ -91,12 +88,12 @@ WideComplex arcCosine(const Neighbours& w) {
             -wideInverseSine((conjugate(rootBelow) * rootAbove).im)};
 }
 
-/// asinh w, from w turned back.
-WideComplex areaSine(const Neighbours& turned) {
-    if (turned.number.re.zero) {
-        return {wideInverseSine(-turned.number.im), 0};
+/// asinh w = i asin(-i w).
+WideComplex areaSine(const WideComplex& w) {
+    if (w.im.zero) {
+        return {wideInverseSine(w.re), 0};
     }
-    const WideComplex angle = arcSine(turned);
+    const WideComplex angle = arcSine({{w.im, -w.re}, {1 - w.im, w.re}, {1 + w.im, -w.re}});
     return {-angle.im, angle.re};
 }
 
@@ -166,16 +163,14 @@ Value aCsc(const Value& z) { return ofInverse(z, arcSine); }
 
 Value aSecH(const Value& z) { return ofInverse(z, areaCosine); }
 
-Value aSinH(const Value& z) {
-    return startsWithSquare(z) ? valueOf(areaSine(turnedBack(wideComplex(z))), z) : notANumber(z);
-}
+Value aSinH(const Value& z) { return startsWithSquare(z) ? valueOf(areaSine(wideComplex(z)), z) : notANumber(z); }
 
 Value aCscH(const Value& z) {
     const Value inverse = inv(z);
     if (!startsWithSquare(inverse)) {
         return notANumber(z);
     }
-    return valueOf(areaSine(turnedBack(isFinite(z) ? neighboursOfInverse(z).number : wideComplex(inverse))), z);
+    return valueOf(areaSine(isFinite(z) ? neighboursOfInverse(z).number : wideComplex(inverse)), z);
 }
 
 Value aTan(const Value& z) {

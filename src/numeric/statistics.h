@@ -41,8 +41,8 @@ Value min(std::span<const Value> items);
 
 /// Variance of a population, (sum2 - sum^2 / n) / n, and of a sample, divided by n - 1 instead (22 for a single item);
 /// complex items are squared, too. The standard deviations are their principal square roots. Every step of the formula
-/// may raise its error, but the result is its exact value, rounded once: within 1 unit in the last place for real items,
-/// which never have an imaginary or negative result, and within 2 units of the larger part for complex ones.
+/// may raise its error, but the result is its exact value, rounded once: within 1 unit in the last place for real
+/// items, which never have an imaginary or negative result, and within 2 units of the larger part for complex ones.
 Value varP(std::span<const Value> items);
 Value var(std::span<const Value> items);
 Value sdP(std::span<const Value> items);

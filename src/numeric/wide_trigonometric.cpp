@@ -237,7 +237,9 @@ SignedWide wideArcTangent(const SignedWide& y, const SignedWide& x) {
 SignedWide wideInverseSine(const SignedWide& x) {
     const SignedWide size = absolute(x);
     const SignedWide square = size * size;
-    SignedWide result = wideLogarithmOfOnePlus(size + square / (1 + squareRoot(1 + square)));
+    const SignedWide root = squareRoot(1 + square);
+    const bool small = size.zero || size.magnitude.exponent + 128 < -4;
+    SignedWide result = small ? wideLogarithmOfOnePlus(size + square / (1 + root)) : wideLogarithm(size + root);
     result.negative = x.negative;
     return result;
 }

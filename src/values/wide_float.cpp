@@ -41,7 +41,9 @@ WideFloat squareRoot(const WideFloat& a) {
     const auto correction = static_cast<std::uint64_t>(difference / static_cast<Real>(root) * 0x1p62L);
     const UInt128 step = shiftLeft({0, correction}, 1);
     const UInt128 start = {root, 0};
-    return normalized(below ? start - step : start + step, exponent / 2 - 128);
+    // Next to 1 the sum may round up to it.
+    const UInt128 sum = below ? start - step : start + step;
+    return normalized(!below && sum < start ? ~UInt128{} : sum, exponent / 2 - 128);
 }
 
 WideFloat power(std::uint32_t base, int exponent) {
