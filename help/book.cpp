@@ -118,7 +118,7 @@ void Book::write(const std::filesystem::path& folder) const {
 }
 
 std::string Book::pageHtml(std::size_t chapter) const {
-    const auto& [depth, page] = chapters_[chapter];
+    const Page& page = chapters_[chapter].page;
     std::string html =
         "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01//EN\" \"http://www.w3.org/TR/html4/strict.dtd\">\n"
         "<html lang=\"en\">\n<head>\n"
@@ -128,16 +128,7 @@ std::string Book::pageHtml(std::size_t chapter) const {
     html += escaped(page.title);
     html += "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"style.css\">\n</head>\n<body>\n";
 
-    // The way from the first page to this one.
-    std::string way;
-    std::size_t below = depth;
-    for (std::size_t before = chapter; before-- > 0;) {
-        if (chapters_[before].depth < below || before == 0) {
-            way.insert(0, linkTo(chapters_[before].page) + " &rsaquo; ");
-            below = chapters_[before].depth;
-        }
-    }
-    if (!way.empty()) {
+    if (const std::string way = wayTo(chapter); !way.empty()) {
         html += "<div class=\"way\">" + way + escaped(page.title) + "</div>\n";
     }
 
@@ -159,6 +150,19 @@ std::string Book::pageHtml(std::size_t chapter) const {
         html += linkTo(chapters_[chapter + 1].page) + " &rsaquo;";
     }
     return html + "</div>\n</body>\n</html>\n";
+}
+
+/// Links from the first page down to the one above a chapter's.
+std::string Book::wayTo(std::size_t chapter) const {
+    std::string way;
+    std::size_t below = chapters_[chapter].depth;
+    for (std::size_t before = chapter; before-- > 0;) {
+        if (chapters_[before].depth < below || before == 0) {
+            way.insert(0, linkTo(chapters_[before].page) + " &rsaquo; ");
+            below = chapters_[before].depth;
+        }
+    }
+    return way;
 }
 
 std::string Book::contentsHtml() const {

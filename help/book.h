@@ -30,6 +30,7 @@ public:
 
 private:
     std::string pageHtml(std::size_t chapter) const;
+    std::string wayTo(std::size_t chapter) const;
     std::string contentsHtml() const;
     std::string projectText() const;
     std::string siteMapOfContents() const;

@@ -7,6 +7,7 @@
 #include <cctype>
 #include <exception>
 #include <functional>
+#include <iterator>
 #include <stdexcept>
 
 #include "html.h"
@@ -58,7 +59,9 @@ public:
     void read() {
         MD_PARSER parser{};
         parser.flags = MD_FLAG_TABLES | MD_FLAG_NOHTMLSPANS | MD_FLAG_NOINDENTEDCODEBLOCKS;
-        parser.enter_block = [](MD_BLOCKTYPE, void*, void* self) { return call(self, &PageReader::open); };
+        parser.enter_block = [](MD_BLOCKTYPE type, void*, void* self) {
+            return call(self, &PageReader::openBlock, type);
+        };
         parser.enter_span = [](MD_SPANTYPE, void*, void* self) { return call(self, &PageReader::open); };
         parser.leave_block = [](MD_BLOCKTYPE type, void* detail, void* self) {
             return call(self, &PageReader::closeBlock, type, detail);
@@ -106,6 +109,15 @@ private:
 
     void open() { open_.emplace_back(); }
 
+    void openBlock(MD_BLOCKTYPE type) {
+        open();
+        if (type == MD_BLOCK_TABLE) {
+            head_.clear();
+        } else if (type == MD_BLOCK_TR) {
+            column_ = 0;
+        }
+    }
+
     Piece takeLast() {
         Piece piece = std::move(open_.back());
         open_.pop_back();
@@ -125,18 +137,6 @@ private:
             case MD_BLOCK_H:
                 addHeading(static_cast<const MD_BLOCK_H_DETAIL*>(detail)->level, plain, html);
                 break;
-            case MD_BLOCK_P:
-                append(element("p", html));
-                break;
-            case MD_BLOCK_UL:
-                append(element("ul", "\n" + html));
-                break;
-            case MD_BLOCK_OL:
-                append(element("ol", "\n" + html));
-                break;
-            case MD_BLOCK_LI:
-                append(element("li", html));
-                break;
             case MD_BLOCK_CODE:
                 addFenced(viewOf(static_cast<const MD_BLOCK_CODE_DETAIL*>(detail)->info), plain);
                 break;
@@ -144,14 +144,6 @@ private:
                 for (const std::string_view comment : split(trimmed(plain), '\n')) {
                     addComment(comment);
                 }
-                break;
-            case MD_BLOCK_TABLE:
-                append(element("table", "\n" + html));
-                head_.clear();
-                break;
-            case MD_BLOCK_TR:
-                append(element("tr", html));
-                column_ = 0;
                 break;
             case MD_BLOCK_TH:
                 head_.push_back(plain);
@@ -161,8 +153,26 @@ private:
                 addCell(html);
                 break;
             default:
-                throw std::invalid_argument("the help has no quotations and no rules");
+                addElement(type, html);
         }
+    }
+
+    /// A block that is an element of HTML, with nothing of ours.
+    void addElement(MD_BLOCKTYPE type, const std::string& html) {
+        struct Row {
+            MD_BLOCKTYPE type;
+            std::string_view tag;
+            bool holdsBlocks;
+        };
+        constexpr Row rows[] = {
+            {MD_BLOCK_P, "p", false},   {MD_BLOCK_UL, "ul", true},       {MD_BLOCK_OL, "ol", true},
+            {MD_BLOCK_LI, "li", false}, {MD_BLOCK_TABLE, "table", true}, {MD_BLOCK_TR, "tr", false},
+        };
+        const auto* const row = std::ranges::find(rows, type, &Row::type);
+        if (row == std::end(rows)) {
+            throw std::invalid_argument("the help has no quotations and no rules");
+        }
+        append(element(row->tag, (row->holdsBlocks ? "\n" : "") + html));
     }
 
     void closeSpan(MD_SPANTYPE type, const void* detail) {
