@@ -26,8 +26,9 @@ constexpr MarkRow markRows[] = {
 
 constexpr char16_t byteOrderMark = 0xFEFF;
 
-/// The characters 80 to 9F of Windows-1252; all others have their own number in Unicode.
-constexpr std::size_t firstOwn = 0x80;
+/// The characters that Windows-1252 has in place of the C1 controls, 80 to 9F; all others have their own number in
+/// Unicode.
+constexpr std::size_t firstC1 = 0x80;
 constexpr std::array<char16_t, 32> windows1252 = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -79,8 +80,8 @@ std::u16string unitsOf(std::string_view bytes, TextEncoding encoding) {
     } else if (encoding == TextEncoding::Windows1252) {
         for (const char byte : bytes) {
             const auto code = static_cast<unsigned char>(byte);
-            const bool isOwn = code >= firstOwn && code < firstOwn + windows1252.size();
-            units += isOwn ? windows1252[code - firstOwn] : char16_t{code};
+            const bool isOwn = code >= firstC1 && code < firstC1 + windows1252.size();
+            units += isOwn ? windows1252[code - firstC1] : char16_t{code};
         }
     } else {
         while (!bytes.empty()) {
@@ -188,8 +189,8 @@ bool appendAsWindows1252(std::string& bytes, std::u16string_view units) {
     for (const char16_t unit : units) {
         const auto own = std::find(windows1252.begin(), windows1252.end(), unit);
         if (own != windows1252.end()) {
-            bytes += static_cast<char>(firstOwn + static_cast<std::size_t>(own - windows1252.begin()));
-        } else if (unit < firstOwn || (unit >= firstOwn + windows1252.size() && unit <= 0xFF)) {
+            bytes += static_cast<char>(firstC1 + static_cast<std::size_t>(own - windows1252.begin()));
+        } else if (unit < firstC1 || (unit >= firstC1 + windows1252.size() && unit <= 0xFF)) {
             bytes += static_cast<char>(unit);
         } else {
             return false;

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstdint>
 
+#include "engine/characters.h"
 #include "workarea/file_fault.h"
 #include "workarea/text_cost.h"
 #include "workarea/utf8.h"
@@ -12,14 +13,9 @@
 namespace calquo {
 namespace {
 
-constexpr std::string_view head = "{\\rtf";
-constexpr std::string_view utf8Head = "{\\urtf";
+constexpr std::string_view signature = "{\\rtf";
+constexpr std::string_view utf8Signature = "{\\urtf";
 constexpr int deepestNesting = 32;
-
-constexpr bool isLetter(char character) {
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-constexpr bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 [[noreturn]] void fail(FileFailure failure) { throw FileFault{failure, {}}; }
 
@@ -102,11 +98,11 @@ private:
         };
         skipWhile(isLetter);
         const std::string_view word = text_.substr(begin + 1, place_ - begin - 1);
-        if (place_ + 1 < text_.size() && text_[place_] == '-' && isDigit(text_[place_ + 1])) {
+        if (place_ + 1 < text_.size() && text_[place_] == '-' && isDecimalDigit(text_[place_ + 1])) {
             ++place_;
         }
         const char* const number = text_.data() + place_;
-        skipWhile(isDigit);
+        skipWhile(isDecimalDigit);
         const char* const numberEnd = text_.data() + place_;
         std::size_t count = text_.size();  // more than follow, where the number is too large to be read
         std::from_chars(number, numberEnd, count);
@@ -185,7 +181,7 @@ void appendByte(std::string& text, char byte) {
 }  // namespace
 
 std::string richTextToRead(std::string_view bytes) {
-    if (!bytes.starts_with(head) || (bytes.size() > head.size() && isLetter(bytes[head.size()]))) {
+    if (!bytes.starts_with(signature) || (bytes.size() > signature.size() && isLetter(bytes[signature.size()]))) {
         fail(FileFailure::NotRichText);
     }
     Scanner scanner(bytes);
@@ -201,8 +197,8 @@ std::string richTextToWrite(std::string_view controlText) {
     }
     std::string text;
     text.reserve(controlText.size());
-    if (controlText.starts_with(utf8Head)) {
-        const std::size_t version = controlText.find_first_not_of("0123456789", utf8Head.size());
+    if (controlText.starts_with(utf8Signature)) {
+        const std::size_t version = controlText.find_first_not_of("0123456789", utf8Signature.size());
         controlText.remove_prefix(std::min(version, controlText.size()));
         text = "{\\rtf1\\ansi";
     }
