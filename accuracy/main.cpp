@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
+#include <stdexcept>
 #include <string_view>
 
 #include "builds.h"
@@ -28,6 +28,29 @@ struct Section {
 
 constexpr Section sections[] = {
     {"functions", measureFunctions}, {"reading", measureReading}, {"writing", measureWriting}};
+
+/// A folder that ends with its object.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = std::filesystem::temp_directory_path() / "accuracy-XXXXXX";
+        if (mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("no temporary folder");
+        }
+        path_ = name;
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
 
 bool readArguments(int count, char** arguments, Session& session) {
     for (int i = 2; i < count; ++i) {
@@ -64,16 +87,11 @@ int main(int count, char** arguments) {
             std::fputs(usage, stderr);
             return 2;
         }
-        const bool isTemporary = session.folder.empty();
-        if (isTemporary) {
-            std::string name = std::filesystem::temp_directory_path() / "accuracy-XXXXXX";
-            session.folder = mkdtemp(name.data());
+        const TemporaryFolder temporary;
+        if (session.folder.empty()) {
+            session.folder = temporary.path();
         }
-        const bool isWell = section->measure(session);
-        if (isTemporary) {
-            std::filesystem::remove_all(session.folder);
-        }
-        return isWell ? 0 : 1;
+        return section->measure(session) ? 0 : 1;
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "accuracy: %s\n", fault.what());
         return 2;
