@@ -74,7 +74,7 @@ void makeSheet(const std::wstring& name) {
             workArea.pressKey(VK_RETURN);
         }
     }
-    const WorkAreaFile file(workArea);
+    WorkAreaFile file(workArea);
     file.write(name);
     SendMessageW(workArea.handle(), WM_SETREDRAW, FALSE, 0);
     // In two steps, since the control looks for the text's end anew each time.
@@ -95,6 +95,7 @@ void measure(Candidate& candidate, const std::wstring& original) {
     program.waitUntilPainted();
     candidate.opening.push_back(millisecondsNow() - begin);
     candidate.length = program.textLength();
+    program.type(L'x');  // a sheet that is as it was read is not saved
     const double beginOfSaving = millisecondsNow();
     program.command(candidate.saveCommand);
     candidate.saving.push_back(millisecondsNow() - beginOfSaving);

@@ -45,6 +45,9 @@ public:
     /// Sends the command of a menu entry, and waits until it is done.
     void command(unsigned identifier) const;
 
+    /// Types a character into the rich edit control.
+    void type(wchar_t character) const;
+
     /// The number of characters in the rich edit control, line ends as two; 0 when there is none.
     long long textLength() const;
 
@@ -52,6 +55,9 @@ public:
 
 private:
     struct Enumeration;
+
+    /// Null when there is none.
+    WindowHandle richEdit() const;
 
     void* process_ = nullptr;  // the system's handle
     unsigned long identifier_ = 0;

@@ -124,10 +124,14 @@ void StartedProgram::command(unsigned identifier) const {
     }
 }
 
-long long StartedProgram::textLength() const {
+void StartedProgram::type(wchar_t character) const { SendMessageW(richEdit(), WM_CHAR, character, 1); }
+
+long long StartedProgram::textLength() const { return SendMessageW(richEdit(), WM_GETTEXTLENGTH, 0, 0); }
+
+WindowHandle StartedProgram::richEdit() const {
     HWND control = nullptr;
     EnumChildWindows(window_, Enumeration::noteRichEdit, reinterpret_cast<LPARAM>(&control));
-    return SendMessageW(control, WM_GETTEXTLENGTH, 0, 0);
+    return control;
 }
 
 HeldMemory StartedProgram::heldMemory() const {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "shell/command_ids.h"
 #include "shell/settings.h"
@@ -20,9 +19,8 @@ public:
     /// Reads the default file into the new work area; that there is none is no failure. Nothing is left to undo.
     void readDefaultAtStartup();
 
-    /// Saves the work area to the default file; false when the user wants to stay instead. A file that was to be read
-    /// at the start, or was chosen since, and has not been read or saved, is not replaced unasked. A work area that
-    /// nobody has touched, and that is empty, replaces no file at all.
+    /// Saves the work area to the default file, unless it is empty and nobody has touched it; false when that fails and
+    /// the user wants to stay.
     bool saveDefaultAtExit();
 
     void readDefault();
@@ -36,16 +34,12 @@ private:
     std::wstring defaultFile() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
-    void remember(const std::wstring& file);
-    bool isKnown(const std::wstring& file) const;
 
     WindowHandle owner_;
     WorkArea& workArea_;
     Settings& settings_;
     const UserDialogs& dialogs_;
     WorkAreaFile file_;
-    std::vector<std::wstring> known_;  ///< The files that have been read or saved, with their whole paths.
-    bool asksForUnknownDefault_ = false;
 };
 
 }  // namespace calquo

@@ -1,11 +1,9 @@
 // What the file commands do, and whom they ask.
 #include "shell/file_commands.h"
 
-#include <algorithm>
-
 #include "shell/file_messages.h"
 #include "widgets/windows_api.h"
-#include "workarea/disk_file.h"
+#include "workarea/disk.h"
 #include "workarea/file_fault.h"
 
 namespace calquo {
@@ -32,11 +30,9 @@ std::wstring FileCommands::defaultFile() const { return fullFileName(settings_.t
 
 void FileCommands::readDefaultAtStartup() {
     const std::wstring file = defaultFile();
-    asksForUnknownDefault_ = true;
     try {
         const WaitCursor busy;
         file_.read(file);
-        remember(file);
     } catch (const FileFault& fault) {
         if (!isAbsence(fault.failure)) {
             dialogs_.showBox(owner_, readFailedBox(file, fault));
@@ -46,22 +42,14 @@ void FileCommands::readDefaultAtStartup() {
 }
 
 bool FileCommands::saveDefaultAtExit() {
-    const std::wstring file = defaultFile();
-    const bool exists = fileExists(file);
-    if (exists && workArea_.isUntouchedAndEmpty()) {
+    if (workArea_.revision() == 0 && workArea_.isEmpty()) {
         return true;
     }
-    if (exists && asksForUnknownDefault_ && !isKnown(file)) {
-        const BoxAnswer answer = dialogs_.showBox(owner_, replaceUnreadFileBox(file));
-        if (answer != BoxAnswer::Yes) {
-            return answer == BoxAnswer::No;
-        }
-    }
+    const std::wstring file = defaultFile();
     for (;;) {
         try {
             const WaitCursor busy;
             file_.write(file);
-            remember(file);
             return true;
         } catch (const FileFault& fault) {
             if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
@@ -88,7 +76,6 @@ void FileCommands::actOnChosenFile(Command command) {
         save(choice.name);
     } else {
         settings_.setText(TextSetting::DefaultFile, choice.name);
-        asksForUnknownDefault_ = true;
     }
 }
 
@@ -96,7 +83,6 @@ void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.read(file);
-        remember(file);
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
     }
@@ -105,23 +91,13 @@ void FileCommands::read(const std::wstring& file) {
 void FileCommands::save(const std::wstring& file) {
     try {
         const WaitCursor busy;
-        file_.write(file);
-        remember(file);
+        const std::wstring kept = file_.write(file);
+        if (!kept.empty()) {
+            dialogs_.showHint(keptFileHint(kept));
+        }
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, saveFailedBox(file, fault));
     }
-}
-
-void FileCommands::remember(const std::wstring& file) {
-    if (!isKnown(file)) {
-        known_.push_back(file);
-    }
-}
-
-bool FileCommands::isKnown(const std::wstring& file) const {
-    return std::any_of(known_.begin(), known_.end(), [&](const std::wstring& known) {
-        return CompareStringOrdinal(known.c_str(), -1, file.c_str(), -1, TRUE) == CSTR_EQUAL;
-    });
 }
 
 }  // namespace calquo

@@ -18,7 +18,7 @@ constexpr RequestRow requestRows[] = {
 };
 
 BoxText failureBox(BoxKind kind, const std::wstring& whatFailed, const std::wstring& file, const FileFault& fault) {
-    return {kind, wideProgramName, whatFailed + L"\n" + file + L"\n\n" + reasonOf(fault)};
+    return {kind, wideProgramName, whatFailed + L"\n" + file + L"\n\n" + reasonOf(fault) + L"\n" + adviceOf(fault)};
 }
 
 constexpr wchar_t cannotRead[] = L"The work area cannot be read from the file";
@@ -54,11 +54,6 @@ BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
     return box;
 }
 
-BoxText replaceUnreadFileBox(const std::wstring& file) {
-    return {BoxKind::YesNoOrCancel, wideProgramName,
-            L"The work area is about to be saved to its default file\n" + file +
-                L"\n\nWhat is in that file has not been read. Is the work area to replace it?\n\n"
-                L"No ends Calquo without saving; Cancel keeps it open."};
-}
+std::wstring keptFileHint(const std::wstring& kept) { return L"The file that had this name is kept as " + kept; }
 
 }  // namespace calquo

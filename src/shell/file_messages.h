@@ -20,12 +20,8 @@ BoxText readFailedBox(const std::wstring& file, const FileFault& fault);
 BoxText saveFailedBox(const std::wstring& file, const FileFault& fault);
 /// At the program's end: Cancel keeps it open.
 BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault);
-/// At the program's end, where the default file that is about to be replaced has not been read.
-BoxText replaceUnreadFileBox(const std::wstring& file);
 
-/// Whether the failure says that there is no file.
-constexpr bool isAbsence(FileFailure failure) {
-    return failure == FileFailure::Missing || failure == FileFailure::FolderMissing;
-}
+/// A save has left a foreign file under another name.
+std::wstring keptFileHint(const std::wstring& kept);
 
 }  // namespace calquo

@@ -13,9 +13,8 @@ namespace calquo {
 enum class BoxKind : std::uint8_t {
     Failure,        ///< The stop icon and Ok.
     RetryOrCancel,  ///< The stop icon.
-    YesNoOrCancel,  ///< The warning icon; the Enter key cancels.
 };
-enum class BoxAnswer : std::uint8_t { Ok, Retry, Yes, No, Cancel };
+enum class BoxAnswer : std::uint8_t { Ok, Retry, Cancel };
 
 struct BoxText {
     BoxKind kind = BoxKind::Failure;
@@ -39,6 +38,8 @@ struct FileChoice {
 struct UserDialogs {
     std::function<BoxAnswer(WindowHandle owner, const BoxText&)> showBox;
     std::function<FileChoice(WindowHandle owner, const FileRequest&)> chooseFile;
+    /// Tells the user something that needs no answer.
+    std::function<void(const std::wstring& text)> showHint = [](const std::wstring&) {};
 };
 
 /// The system's dialogs. The current folder is the same behind them as before.

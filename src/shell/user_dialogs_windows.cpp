@@ -29,7 +29,6 @@ struct BoxRow {
 constexpr BoxRow boxRows[] = {
     {BoxKind::Failure, MB_OK | MB_ICONSTOP},
     {BoxKind::RetryOrCancel, MB_RETRYCANCEL | MB_ICONSTOP},
-    {BoxKind::YesNoOrCancel, MB_YESNOCANCEL | MB_ICONWARNING | MB_DEFBUTTON3},
 };
 
 BoxAnswer answerOf(int button) {
@@ -38,10 +37,6 @@ BoxAnswer answerOf(int button) {
             return BoxAnswer::Ok;
         case IDRETRY:
             return BoxAnswer::Retry;
-        case IDYES:
-            return BoxAnswer::Yes;
-        case IDNO:
-            return BoxAnswer::No;
         default:
             return BoxAnswer::Cancel;
     }
@@ -108,6 +103,6 @@ FileChoice chooseFile(WindowHandle owner, const FileRequest& request) {
 
 }  // namespace
 
-UserDialogs systemDialogs() { return {showBox, chooseFile}; }
+UserDialogs systemDialogs() { return {.showBox = showBox, .chooseFile = chooseFile}; }
 
 }  // namespace calquo

@@ -82,8 +82,9 @@ public:
     /// The whole text in UTF-16, line ends as "\r\n"; raises bad_alloc when memory runs out.
     std::wstring contentAsPlainText() const;
 
-    /// Whether there is no text and nobody has entered or deleted any.
-    bool isUntouchedAndEmpty() const;
+    bool isEmpty() const;
+    /// How many times the text was found to have changed since it was asked before: equal numbers mean the same text.
+    std::uint32_t revision();
 
     /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret behind it.
     /// What it says nothing of looks normal. False, with the text as it was, when the control does not take it. Undo
@@ -92,7 +93,7 @@ public:
     /// The same for plain text, which looks normal; line ends are "\r".
     bool replaceContentByPlainText(std::wstring_view text);
 
-    /// Leaves nothing to undo or redo; the text counts as untouched.
+    /// Leaves nothing to undo or redo.
     void forgetSteps();
 
 private:
@@ -107,6 +108,7 @@ private:
     std::optional<MessageAnswer> hear(const Message& message);
     std::optional<MessageAnswer> hearKey(const Message& message);
     std::optional<MessageAnswer> hearCharacter(const Message& message);
+    std::optional<MessageAnswer> hearUndo(const Message& message);
 
     void chooseLook();
     void typeInNormalStyle();
@@ -121,6 +123,8 @@ private:
     KeyListener keys_;
     MessageFilter otherMessages_;
     std::wstring fontName_;
+    std::uint32_t revision_ = 0;
+    bool hasGoneBack_ = false;  ///< By undo or redo, of which the control's own mark for changes does not tell.
 };
 
 }  // namespace calquo

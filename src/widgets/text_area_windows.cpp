@@ -168,10 +168,9 @@ struct TextArea::MessageRow {
 };
 
 const TextArea::MessageRow TextArea::messageRows[] = {
-    {WM_KEYDOWN, &TextArea::hearKey},
-    {WM_SYSKEYDOWN, &TextArea::hearKey},
-    {WM_CHAR, &TextArea::hearCharacter},
-    {WM_SYSCHAR, &TextArea::hearCharacter},
+    {WM_KEYDOWN, &TextArea::hearKey},       {WM_SYSKEYDOWN, &TextArea::hearKey}, {WM_CHAR, &TextArea::hearCharacter},
+    {WM_SYSCHAR, &TextArea::hearCharacter}, {WM_UNDO, &TextArea::hearUndo},      {EM_UNDO, &TextArea::hearUndo},
+    {EM_REDO, &TextArea::hearUndo},
 };
 
 const Component::WidgetClass& TextArea::widgetClass() {
@@ -191,6 +190,7 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
     forgetSteps();
+    SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
 }
 
 std::optional<MessageAnswer> TextArea::hear(const Message& message) {
@@ -209,6 +209,9 @@ std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
         return SendMessageW(GetAncestor(handle(), GA_ROOT), message.code, message.wordParameter, message.longParameter);
     }
     const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
+    const bool undoes =
+        message.wordParameter == 'Z' || message.wordParameter == 'Y' || message.wordParameter == VK_BACK;
+    hasGoneBack_ = hasGoneBack_ || (modified && undoes);
     if (keys_ && keys_({static_cast<std::uint32_t>(message.wordParameter), modified})) {
         return 0;
     }
@@ -221,6 +224,11 @@ std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
         return 0;
     }
     typeInNormalStyle();
+    return std::nullopt;
+}
+
+std::optional<MessageAnswer> TextArea::hearUndo(const Message&) {
+    hasGoneBack_ = true;
     return std::nullopt;
 }
 
@@ -351,8 +359,15 @@ std::wstring TextArea::contentAsPlainText() const {
     return text;
 }
 
-bool TextArea::isUntouchedAndEmpty() const {
-    return lengthOf(handle()) == 0 && SendMessageW(handle(), EM_GETMODIFY, 0, 0) == 0;
+bool TextArea::isEmpty() const { return lengthOf(handle()) == 0; }
+
+std::uint32_t TextArea::revision() {
+    if (hasGoneBack_ || SendMessageW(handle(), EM_GETMODIFY, 0, 0) != 0) {
+        ++revision_;
+        hasGoneBack_ = false;
+        SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
+    }
+    return revision_;
 }
 
 bool TextArea::replaceContentByRichText(std::string_view text) { return replaceContent(text, SF_RTF); }
@@ -374,6 +389,7 @@ bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
     SendMessageW(handle(), EM_STREAMIN, format | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
     const std::int32_t length = lengthOf(handle());
     if (stream.dwError == 0) {
+        SendMessageW(handle(), EM_SETMODIFY, TRUE, 0);
         select({length, length});
         return true;
     }
@@ -405,9 +421,6 @@ bool TextArea::startInNormalStyle() {
     return !isEmpty;
 }
 
-void TextArea::forgetSteps() {
-    SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0);
-    SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
-}
+void TextArea::forgetSteps() { SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0); }
 
 }  // namespace calquo

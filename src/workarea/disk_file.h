@@ -2,25 +2,30 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "workarea/disk.h"
+
 namespace calquo {
 
-/// The name with its whole path, whatever folder is the current one later.
-std::wstring fullFileName(const std::wstring& name);
+/// The most bytes that are read, 64 megabytes.
+inline constexpr std::size_t largestFile = std::size_t{64} << 20;
 
-bool fileExists(const std::wstring& name);
-
-/// The most bytes that are read, 16 megabytes.
-inline constexpr std::size_t largestFile = std::size_t{16} << 20;
+/// The longest path that all programs of the system can use, in UTF-16 units.
+inline constexpr std::size_t longestPath = 259;
 
 /// All bytes of a file. Throws FileFault; TooLarge above `largestFile`.
-std::string readFile(const std::wstring& name);
+std::string readFile(Disk& disk, const std::wstring& name);
 
 /// Puts a file of these bytes in the place of `name`. They are complete on the disk, in a temporary file of the same
-/// folder, before that takes the name: ended at any moment, this leaves the old file or the new one, whole. The
-/// temporary file vanishes with its writer. Throws FileFault; the old file is then as it was.
-void replaceFile(const std::wstring& name, std::string_view bytes);
+/// folder, before that takes the name: ended at any moment, this leaves the old file or the new one, whole. The old
+/// file stays under the name `kept` unless that is empty. Throws FileFault; the old file is then as it was.
+void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept = {});
+
+/// A name for a temporary file, made of `random` and as long as `room` characters allow, of which there is one at
+/// least.
+std::wstring temporaryName(std::uint32_t random, std::size_t room);
 
 }  // namespace calquo

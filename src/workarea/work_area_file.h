@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "workarea/known_files.h"
 #include "workarea/plain_text.h"
 #include "workarea/work_area.h"
 
@@ -10,19 +11,24 @@ namespace calquo {
 
 class WorkAreaFile {
 public:
-    /// `workArea` must outlive this.
-    explicit WorkAreaFile(WorkArea& workArea) : workArea_(workArea) {}
+    /// Both must outlive this.
+    explicit WorkAreaFile(WorkArea& workArea, Disk& disk = systemDisk()) : workArea_(workArea), files_(disk) {}
 
     /// Puts the text of a file in place of the work area's, and the caret at its end. An empty file is an empty text of
     /// either kind. Throws FileFault; the work area is then as it was.
     void read(const std::wstring& name);
 
-    /// Writes the work area's text to a file. Plain text has the form of the plain text that was read last, and UTF-8
-    /// with CR LF after rich text. Throws FileFault; an old file of this name is then as it was.
-    void write(const std::wstring& name) const;
+    /// Writes the work area's text to a file, unless the file holds that text already. Plain text has the form of the
+    /// plain text that was read last, and UTF-8 with CR LF after rich text. Tells the name under which a foreign file
+    /// is kept that had this name, or nothing. Throws FileFault; an old file of this name is then as it was.
+    std::wstring write(const std::wstring& name);
+
+    /// Whether a file that was read or written here holds the text, as far as this run knows.
+    bool isInFile();
 
 private:
     WorkArea& workArea_;
+    KnownFiles files_;
     TextForm form_;
 };
 

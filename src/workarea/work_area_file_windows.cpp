@@ -3,7 +3,6 @@
 
 #include <new>
 
-#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/file_kind.h"
 #include "workarea/rich_text.h"
@@ -34,29 +33,36 @@ void requireTaken(bool taken) {
 
 void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {
-        const std::string bytes = readFile(name);
-        if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
-            requireTaken(workArea_.replaceContentByRichText(richTextToRead(bytes)));
-            form_ = {};
-        } else {
-            const PlainText text = decodePlainText(bytes);
-            const std::wstring characters(text.characters.begin(), text.characters.end());
-            requireTaken(workArea_.replaceContentByPlainText(characters));
-            form_ = text.form;
-        }
+        files_.read(name, [&](std::string_view bytes) {
+            if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
+                requireTaken(workArea_.replaceContentByRichText(richTextToRead(bytes)));
+                form_ = {};
+            } else {
+                const PlainText text = decodePlainText(bytes);
+                const std::wstring characters(text.characters.begin(), text.characters.end());
+                requireTaken(workArea_.replaceContentByPlainText(characters));
+                form_ = text.form;
+            }
+            return workArea_.revision();
+        });
     });
 }
 
-void WorkAreaFile::write(const std::wstring& name) const {
+std::wstring WorkAreaFile::write(const std::wstring& name) {
+    std::wstring kept;
     withMemoryFaults([&] {
-        if (fileKindOf(name) == FileKind::RichText) {
-            replaceFile(name, richTextToWrite(workArea_.contentAsRichText()));
-        } else {
+        kept = files_.save(name, workArea_.revision(), [&] {
+            if (fileKindOf(name) == FileKind::RichText) {
+                return richTextToWrite(workArea_.contentAsRichText());
+            }
             const std::wstring text = workArea_.contentAsPlainText();
             const std::u16string units(text.begin(), text.end());
-            replaceFile(name, encodePlainText(units, form_));
-        }
+            return encodePlainText(units, form_);
+        });
     });
+    return kept;
 }
+
+bool WorkAreaFile::isInFile() { return files_.hold(workArea_.revision()); }
 
 }  // namespace calquo

@@ -11,20 +11,13 @@ namespace {
 
 using namespace calquo;
 
-struct Sheet {
-    Sheet(HWND parent, const std::wstring& line)
-        : workArea(parent, 1, 2, [] { return defaultFormats[0]; }), file(workArea) {
-        workArea.moveTo({0, 0, 600, 400});
-        std::wstring text;
-        for (int lines = 0; lines < 500; ++lines) {
-            text += line + L"\r";
-        }
-        workArea.replaceContentByPlainText(text);
+std::wstring sheetOf(const std::wstring& line) {
+    std::wstring text;
+    for (int lines = 0; lines < 500; ++lines) {
+        text += line + L"\r";
     }
-
-    WorkArea workArea;
-    WorkAreaFile file;
-};
+    return text;
+}
 
 }  // namespace
 
@@ -36,12 +29,17 @@ int main(int count, char** arguments) {
     const std::wstring ending = L"." + wideText(arguments[2]);
     const HWND window =
         CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 600, 400, nullptr, nullptr, nullptr, nullptr);
-    const Sheet one(window, L"1/3 = 0.33333");
-    const Sheet two(window, L"2 pi = 6.28319 \u221E");
-    one.file.write(folder + L"\\one" + ending);
-    two.file.write(folder + L"\\two" + ending);
-    for (;;) {
-        one.file.write(folder + L"\\sheet" + ending);
-        two.file.write(folder + L"\\sheet" + ending);
+    WorkArea workArea(window, 1, 2, [] { return defaultFormats[0]; });
+    workArea.moveTo({0, 0, 600, 400});
+    WorkAreaFile file(workArea);
+    const std::wstring sheets[] = {sheetOf(L"1/3 = 0.33333"), sheetOf(L"2 pi = 6.28319 \u221E")};
+    const auto save = [&](int sheet, const wchar_t* name) {
+        workArea.replaceContentByPlainText(sheets[sheet]);
+        file.write(folder + L"\\" + name + ending);
+    };
+    save(0, L"one");
+    save(1, L"two");
+    for (int count = 0;; ++count) {
+        save(count % 2, L"sheet");
     }
 }

@@ -27,7 +27,8 @@ struct User {
                 [this](WindowHandle, const FileRequest& request) {
                     requests.push_back(request);
                     return choice;
-                }};
+                },
+                [this](const std::wstring& text) { hints.push_back(text); }};
     }
 
     std::vector<BoxAnswer> answers;
@@ -35,6 +36,7 @@ struct User {
     std::function<void()> atBox;
     std::vector<BoxText> boxes;
     std::vector<FileRequest> requests;
+    std::vector<std::wstring> hints;
 };
 
 enum Option { ReadAtStartup = 0x10, SaveAtExit = 0x20 };
@@ -86,6 +88,9 @@ TEST(FileCommands, FilesAreReadAndSavedByTheirEnding) {
         EXPECT_EQ(std::get<std::wstring>(program.storage().values.at(L"Default File")), folder.path(L"b.txt"));
         program.command(saveDefault);
         EXPECT_EQ(folder.bytes(L"b.txt"), "2+3");
+        EXPECT_EQ(folder.bytes(L"b.txt.bak"), "old");
+        ASSERT_EQ(user.hints.size(), 1u);
+        EXPECT_TRUE(user.hints[0].ends_with(folder.path(L"b.txt.bak")));
         program.setText(L"7");
         program.command(readDefault);
         EXPECT_EQ(answerOf(program, L"*4"), L"2+3*4 = 14\n\n14");
@@ -147,10 +152,11 @@ TEST(FileCommands, TheStartReadsTheDefaultFileWhenWanted) {
 TEST(FileCommands, TheStartIsSilentAboutAnAbsentFileAlone) {
     const FileFolder folder;
     folder.put(L"d.rtf", "no rich text");
-    for (const wchar_t* name : {L"none.rtf", L"none\\x.rtf", L"d.rtf"}) {
+    for (const wchar_t* name : {L"none.rtf", L"none\\x.rtf", L"d.rtf", L"X:\\d.rtf"}) {
         User user;
-        Program program(stored(folder.path(name), ReadAtStartup), user.dialogs());
-        EXPECT_EQ(user.boxes.size(), name == std::wstring_view(L"d.rtf") ? 1u : 0u);
+        const std::wstring_view file = name;
+        Program program(stored(file[0] == L'X' ? name : folder.path(name), ReadAtStartup), user.dialogs());
+        EXPECT_EQ(user.boxes.size(), file.ends_with(L"d.rtf") ? 1u : 0u);
         EXPECT_EQ(answerOf(program, L"2+3"), L"2+3 = 5\n\n5");
     }
 }
@@ -214,97 +220,56 @@ TEST(FileCommands, AFailedSaveAtTheEndIsTriedAgainOrKeepsTheWindow) {
     }
 }
 
-TEST(FileCommands, ADefaultFileThatCouldNotBeReadIsNotReplacedUnasked) {
-    struct Row {
-        BoxAnswer answer;
-        bool ends;
-        const char* bytes;
-    };
-    const Row rows[] = {
-        {BoxAnswer::Yes, true, "{\\rtf1"},
-        {BoxAnswer::No, true, "no rich text"},
-        {BoxAnswer::Cancel, false, "no rich text"},
-    };
-    for (const Row& row : rows) {
-        const FileFolder folder;
-        folder.put(L"d.rtf", "no rich text");
-        User user;
-        user.answers = {BoxAnswer::Ok, row.answer};
-        Program program(stored(folder.path(L"d.rtf"), ReadAtStartup | SaveAtExit), user.dialogs());
-        program.setText(L"2+3");
-        program.close();
-        ASSERT_EQ(user.boxes.size(), 2u);
-        EXPECT_EQ(user.boxes[1].kind, BoxKind::YesNoOrCancel);
-        EXPECT_TRUE(mentions(user.boxes[1], folder.path(L"d.rtf")));
-        EXPECT_EQ(program.handle() == nullptr, row.ends);
-        EXPECT_TRUE(folder.bytes(L"d.rtf").starts_with(row.bytes));
-    }
-}
-
-TEST(FileCommands, TheQuestionIsOverOnceTheDefaultFileIsTheUsersOwn) {
-    const std::vector<std::function<void(Program&, const FileFolder&, User&)>> ways = {
-        [](Program&, const FileFolder& folder, User&) { folder.put(L"e.rtf", "of somebody else"); },
-        [](Program& program, const FileFolder&, User&) { program.command(saveDefault); },
-        [](Program& program, const FileFolder& folder, User&) {
-            folder.put(L"d.rtf", "{\\rtf1 8}");
-            program.command(readDefault);
-        },
-        [](Program& program, const FileFolder& folder, User& user) {
-            folder.put(L"d.rtf", "new");
-            user.choice.name = folder.path(L"e.rtf");
-            program.command(selectDefault);
-        },
-        [](Program& program, const FileFolder& folder, User& user) {
-            user.choice.name = folder.path(L"e.rtf");
-            program.command(saveAs);
-            user.choice.name = folder.path(L"E.RTF");
-            program.command(selectDefault);
-        },
-    };
-    for (std::size_t way = 0; way < ways.size(); ++way) {
-        SCOPED_TRACE(way);
-        const FileFolder folder;
-        User user;
-        Program program(stored(folder.path(L"d.rtf"), ReadAtStartup | SaveAtExit), user.dialogs());
-        program.setText(L"2+3");
-        ways[way](program, folder, user);
-        program.close();
-        EXPECT_TRUE(user.boxes.empty());
-        EXPECT_EQ(program.handle(), nullptr);
-        const std::wstring file = program.settings().text(TextSetting::DefaultFile);
-        EXPECT_TRUE(folder.bytes(file.substr(folder.path(L"").size())).starts_with("{\\rtf1"));
-    }
-}
-
-TEST(FileCommands, ADefaultFileOfUnknownContentIsNotReplacedUnasked) {
+TEST(FileCommands, AForeignDefaultFileStaysBesideTheOneThatIsSavedAtTheEnd) {
     struct Row {
         const char* name;
         unsigned options;
         void (*act)(Program&, const FileFolder&, User&);
-        std::size_t boxes;
+        const char* bytes;
+        const char* kept;
     };
+    constexpr auto type = [](Program& program, const FileFolder&, User&) { program.setText(L"2+3"); };
+    constexpr char foreign[] = "from another machine";
     const Row rows[] = {
-        {"has appeared since the start", ReadAtStartup | SaveAtExit,
-         [](Program& program, const FileFolder&, User&) { program.setText(L"2+3"); }, 1},
+        {"has appeared since the start", ReadAtStartup | SaveAtExit, type, "2+3", foreign},
+        {"has never been read", SaveAtExit, type, "2+3", foreign},
         {"has been chosen", SaveAtExit,
          [](Program& program, const FileFolder& folder, User& user) {
              program.setText(L"2+3");
              user.choice.name = folder.path(L"d.txt");
              program.command(selectDefault);
          },
-         1},
-        {"was not read, and the work area is untouched", SaveAtExit, [](Program&, const FileFolder&, User&) {}, 0},
+         "2+3", foreign},
+        {"is not touched by an untouched sheet", SaveAtExit, [](Program&, const FileFolder&, User&) {}, foreign,
+         "(none)"},
+        {"has been read", SaveAtExit,
+         [](Program& program, const FileFolder&, User&) {
+             program.command(readDefault);
+             program.setText(L"2+3");
+         },
+         "2+3", "(none)"},
+        {"has been saved", SaveAtExit,
+         [](Program& program, const FileFolder& folder, User&) {
+             program.command(readDefault);
+             program.command(clear);
+             program.command(saveDefault);
+             EXPECT_EQ(folder.bytes(L"d.txt"), "");
+             program.setText(L"2+3");
+         },
+         "2+3", "(none)"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const FileFolder folder;
         User user;
         Program program(stored(folder.path(L"d.txt"), row.options), user.dialogs());
-        folder.put(L"d.txt", "from another machine");
+        folder.put(L"d.txt", foreign);
         row.act(program, folder, user);
         program.close();
-        EXPECT_EQ(user.boxes.size(), row.boxes);
-        EXPECT_EQ(folder.bytes(L"d.txt"), "from another machine");
+        EXPECT_EQ(program.handle(), nullptr);
+        EXPECT_TRUE(user.boxes.empty());
+        EXPECT_EQ(folder.bytes(L"d.txt"), row.bytes);
+        EXPECT_EQ(folder.bytes(L"d.txt.bak"), row.kept);
     }
 }
 
