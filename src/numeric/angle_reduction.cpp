@@ -123,10 +123,8 @@ ReducedAngle reduceAngle(Real x) {
 }
 
 ReducedAngle reduceAngle(const SignedWide& x) {
-    constexpr Real quarterTurn = 1.57079632679489661923132169163975144L;
-    // Beyond 2^63 quarter turns no bit of the angle is left anyway.
-    const Real turns = std::rint(std::fmax(std::fmin(toReal(x) / quarterTurn, 0x1p62L), -0x1p62L));
-    return {static_cast<unsigned>(static_cast<std::int64_t>(turns)) & 3, x - wideHalfPi * turns};
+    constexpr SignedWide inverseOfPi = WideFloat{{twoOverPi[0], twoOverPi[1]}, -129};
+    return std::fabs(toReal(x)) <= pi / 4 ? ReducedAngle{0, x} : reduceHalfTurns(x * inverseOfPi);
 }
 
 ReducedAngle reduceHalfTurns(const SignedWide& x) {

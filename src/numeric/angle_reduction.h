@@ -21,11 +21,10 @@ struct ReducedAngle {
 /// reach the last two bits of the whole part or its fraction.
 ReducedAngle reduceAngle(Real x);
 
-/// Reduces a wide angle, losing one bit for each one in front of the binary point of its quarter turns.
+/// Reduces a wide angle. The reduced one is within 2^-120 |x|; of an x from 2^127 on no bit of it is right.
 ReducedAngle reduceAngle(const SignedWide& x);
 
-/// Reduces x half turns, |x| below 2^127, exactly but for the last multiplication by pi; whole quarter turns have an
-/// angle of 0.
+/// Reduces x half turns, exactly but for the last multiplication by pi; whole quarter turns have an angle of 0.
 ReducedAngle reduceHalfTurns(const SignedWide& x);
 
 }  // namespace calquo

@@ -1,7 +1,8 @@
 // Circular and hyperbolic functions of complex numbers and their inverses; angles in radians.
 // Every result carries its operand's positions. Inverse functions give principal values and have no domain errors of
 // their own: outside the real domain they are complex. Errors are those of the steps: 6 for an overflow, 9 beyond the
-// limits of expReal, 22 at a pole, 14 where a logarithm meets 0.
+// limits of expReal, 22 at a pole, 14 where a logarithm meets 0. Values are those of the formulas, each part within
+// 0.51 units in the last place of the larger one.
 #pragma once
 
 #include "values/value.h"
@@ -12,7 +13,7 @@ namespace calquo {
 Value sin(const Value& z);
 /// cos z = cos x cosh y - i sin x sinh y.
 Value cos(const Value& z);
-/// tan z = (sin 2x + i sinh 2y) / (cos 2x + cosh 2y).
+/// tan z = (sin 2x + i sinh 2y) / (cos 2x + cosh 2y); 22 within 2 units in the last place of an odd multiple of pi/2.
 Value tan(const Value& z);
 /// 1 / tan z, 1 / cos z, 1 / sin z.
 Value cot(const Value& z);
@@ -43,7 +44,7 @@ Value aCsc(const Value& z);
 
 /// asinh z = ln(z + sqrt(z^2 + 1)).
 Value aSinH(const Value& z);
-/// acosh z = ln(z + sqrt(z^2 - 1)).
+/// acosh z = ln(z + sqrt(z^2 - 1)): of negative real parts it is the one with a negative real part.
 Value aCosH(const Value& z);
 /// atanh z = ln((1 + z) / (1 - z)) / 2.
 Value aTanH(const Value& z);
