@@ -5,9 +5,9 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <initializer_list>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "numeric/checks.h"
@@ -19,67 +19,59 @@
 namespace calquo {
 namespace {
 
-constexpr Real day = secondsOfDay;
-constexpr Real year = secondsOfYear;
-constexpr Real month = secondsOfMonth;
-
-constexpr std::size_t paymentPeriodPosition = 5;
-constexpr std::size_t timingPosition = 6;
-
 using Arguments = std::array<Real, 7>;
 
 /// Reads and checks the arguments of a call and fills in the defaults.
-Arguments readArguments(std::span<const Value> given, std::optional<std::size_t> durationPosition,
-                        std::size_t compoundingPosition) {
+Arguments readArguments(std::span<const Value> given, std::optional<std::size_t> durationIndex,
+                        std::size_t compoundingIndex) {
+    constexpr std::size_t paymentPeriodIndex = 5;
+    constexpr std::size_t timingIndex = 6;
     Arguments numbers = {};
-    numbers[paymentPeriodPosition] = month;
-    numbers[compoundingPosition] = month;
-    for (std::size_t position = 0; position < std::min(given.size(), numbers.size()); ++position) {
-        const Value& argument = given[position];
-        const std::int32_t place = argument.positions.literalEnd;
+    numbers[paymentPeriodIndex] = secondsOfMonth;
+    numbers[compoundingIndex] = secondsOfMonth;
+    for (std::size_t index = 0; index < std::min(given.size(), numbers.size()); ++index) {
+        const Value& argument = given[index];
         requireReal(argument, CheckFlags::Report);
+        const auto refuseIf = [&](bool refused, ErrorCode error) {
+            if (refused) {
+                raise(error, argument.positions.literalEnd);
+            }
+        };
         const Real number = argument.re;
-        if ((position == durationPosition || position == paymentPeriodPosition) && number < day) {
-            raise(ErrorCode::AtLeastOneDay, place);
-        }
-        if (position == compoundingPosition && number < 0) {
-            raise(ErrorCode::NegativeNotAllowed, place);
-        }
-        if (position == timingPosition && !(number == 0 || number == 1)) {
-            raise(ErrorCode::InvalidArgument, place);
-        }
-        numbers[position] = number;
+        const bool isTime = index == durationIndex || index == paymentPeriodIndex;
+        refuseIf(isTime && number < secondsOfDay, ErrorCode::AtLeastOneDay);
+        refuseIf(index == compoundingIndex && number < 0, ErrorCode::NegativeNotAllowed);
+        refuseIf(index == timingIndex && !(number == 0 || number == 1), ErrorCode::InvalidArgument);
+        numbers[index] = number;
     }
-    if (std::any_of(numbers.begin(), numbers.end(), [](Real number) { return std::isnan(number); })) {
+    if (std::ranges::any_of(numbers, [](Real number) { return std::isnan(number); })) {
         raise(ErrorCode::NoSolution);
     }
     return numbers;
 }
 
 /// The answer as a value; 18 for what is none.
-Value finite(Real number) {
-    if (!std::isfinite(number)) {
+Value finite(const SignedWide& answer) {
+    const Real number = toReal(answer);
+    if (std::isinf(number)) {
         raise(ErrorCode::NoSolution);
     }
     return {number};
 }
-Value finite(const SignedWide& answer) { return finite(toReal(answer)); }
 
 // Everything below works with the growth x, the natural logarithm of what 1 becomes in one second: G = e^(xT),
 // g = e^(xp). In it the compounding period has no part but in the two conversions. Numbers are wide, so that neither
 // amounts that nearly cancel cost digits of the answer nor factors that nearly cancel the answer itself.
 
+/// The growth at which all is lost at once: steeper than any other.
+constexpr SignedWide totalLoss(normalized({0, 1}, 1 << 16), true);
+
 /// Exponents of e from which on no amount is anything but 0 or beyond all numbers.
-constexpr Real steepest = 0x1p28L;
-
-/// The growth where all is lost at once: steeper than any other.
-constexpr SignedWide endless(normalized({0, 1}, 1 << 16), true);
-
-bool allIsLost(const SignedWide& growth) { return std::isinf(toReal(growth)); }
+constexpr Real largestExponent = 0x1p28L;
 
 /// The growth of a nominal annual rate; 18 for a rate that takes more than everything.
 SignedWide growthOf(Real annualRate, Real compoundingPeriod) {
-    const SignedWide continuous = SignedWide(annualRate) / year;
+    const SignedWide continuous = SignedWide(annualRate) / secondsOfYear;
     const SignedWide perPeriod = continuous * compoundingPeriod;
     if (perPeriod.zero) {
         return continuous;
@@ -89,29 +81,51 @@ SignedWide growthOf(Real annualRate, Real compoundingPeriod) {
     if (rounded < -1) {
         raise(ErrorCode::NoSolution);
     }
-    return rounded == -1 ? endless : wideLogarithmOfOnePlus(perPeriod) / compoundingPeriod;
+    return rounded == -1 ? totalLoss : wideLogarithmOfOnePlus(perPeriod) / compoundingPeriod;
 }
 
-/// The nominal annual rate of a growth, perhaps an infinity.
-Real rateOf(const SignedWide& growth, Real compoundingPeriod) {
+/// The nominal annual rate of a growth, or a number beyond all others.
+SignedWide annualRateOf(const SignedWide& growth, Real compoundingPeriod) {
     const SignedWide perPeriod = growth * compoundingPeriod;
     if (perPeriod.zero) {
-        return toReal(growth * year);
+        return growth * secondsOfYear;
     }
-    return toReal(perPeriod) > steepest ? positiveInfinity
-                                        : toReal(wideExponentialMinusOne(perPeriod) / compoundingPeriod * year);
+    if (toReal(perPeriod) > largestExponent) {
+        return -totalLoss;
+    }
+    return wideExponentialMinusOne(perPeriod) / compoundingPeriod * secondsOfYear;
 }
 
 /// amount * e^z; 18 where that is beyond all numbers.
 SignedWide grown(const SignedWide& amount, const SignedWide& z) {
-    const Real exponent = toReal(z);
-    if (amount.zero || exponent < -steepest) {
-        return 0;
+    if (amount.zero || z.zero) {
+        return amount;
     }
-    if (exponent > steepest) {
+    const Real exponent = toReal(z);
+    if (exponent > largestExponent) {
         raise(ErrorCode::NoSolution);
     }
-    return amount * steepExponential(z);
+    return exponent < -largestExponent ? 0 : amount * steepExponential(z);
+}
+
+/// e^z - 1 - z for z <= 0, without loss next to 0.
+SignedWide exponentialBeyondLine(const SignedWide& z) {
+    if (toReal(z) < -1) {
+        return wideExponentialMinusOne(z) - z;
+    }
+    static const auto inverses = [] {
+        std::array<SignedWide, 30> table;
+        for (std::size_t n = 1; n < table.size(); ++n) {
+            table[n] = 1 / SignedWide(static_cast<Real>(n));
+        }
+        return table;
+    }();
+    // z^2/2! + z^3/3! + ...
+    SignedWide sum = 1;
+    for (std::size_t n = inverses.size() - 1; n > 2; --n) {
+        sum = 1 + z * sum * inverses[n];
+    }
+    return z * z * sum * 0.5L;
 }
 
 /// ln(a / b) for a b > 0, without loss where a and b lie close together; their difference is given, since it may be
@@ -126,301 +140,186 @@ struct Schedule {
     Real duration;
     Real period;
     bool atStart;
-
-    /// The same payments seen backwards in time.
-    [[nodiscard]] Schedule reversed() const { return {duration, period, !atStart}; }
 };
 
-/// s, what payments of 1 have grown to at the end, as ratio * e^exponent with a moderate ratio.
-struct Accumulation {
-    SignedWide ratio;
-    SignedWide exponent;
+/// What first * G + payment * s and second differ by, as a function of the growth x. Times (g - 1) / x, the difference
+/// is the integral of L(u) e^(xu) over u, where L is the sum of three amounts, each for some time: -second from 0 to p,
+/// first from T to T + p, payment from 0 to T or, at the start of periods, from p to T + p. So L has three levels: up
+/// to the lesser of p and T, up to the greater, and up to their sum. As often as L changes its sign, at most, the
+/// integral is 0 (G. Polya, G. Szego, Problems and Theorems in Analysis II, part V): for two growths or fewer.
+class Balance {
+public:
+    Balance(Real first, Real second, Real payment, const Schedule& schedule)
+        : outerLength_(std::min(schedule.duration, schedule.period)),
+          innerLength_(absolute(SignedWide(schedule.duration) - schedule.period)),
+          levels_{SignedWide(schedule.atStart ? 0 : payment) - second,
+                  schedule.period <= schedule.duration ? payment : SignedWide(first) - second,
+                  SignedWide(schedule.atStart ? payment : 0) + first},
+          areas_{SignedWide(first) * schedule.period, -SignedWide(second) * schedule.period,
+                 SignedWide(payment) * schedule.duration} {}
 
-    Accumulation(const Schedule& schedule, const SignedWide& growth) {
-        const SignedWide duration = schedule.duration;
-        const SignedWide period = schedule.period;
+    /// The integral for a growth of 0. The least area is added last, after the others may have cancelled.
+    [[nodiscard]] SignedWide atZero() const {
+        Triple areas = areas_;
+        std::ranges::sort(areas, [](const auto& a, const auto& b) { return signOf(absolute(a) - absolute(b)) > 0; });
+        return areas[0] + areas[1] + areas[2];
+    }
+
+    /// sum * e^exponent, and what the sum's terms amount to without their signs.
+    struct Integral {
+        SignedWide sum;
+        SignedWide size;
+        SignedWide exponent;
+
+        void add(const SignedWide& term) {
+            sum = sum + term;
+            size = size + absolute(term);
+        }
+    };
+
+    /// The integral over that of e^(-|x|u) from 0 to the lesser of p and T; for x > 0 with L shifted to end at u = 0.
+    [[nodiscard]] Integral at(const SignedWide& growth) const {
         if (growth.zero) {
-            ratio = duration / period;
-            return;
+            const SignedWide sum = atZero() / outerLength_;
+            return {sum, absolute(sum), 0};
         }
-        // (G - 1) / (g - 1) or, for a positive growth, the same over G / g.
-        const SignedWide falling = -absolute(growth);
-        ratio = wideExponentialMinusOne(falling * duration) / wideExponentialMinusOne(falling * period);
-        if (signOf(growth) > 0) {
-            exponent = growth * (schedule.atStart ? duration : duration - period);
-        } else {
-            exponent = growth * (schedule.atStart ? period : 0);
+        const auto [levels, outer, inner] = falling(growth);
+        const SignedWide ratio = levels[1].zero ? 0 : wideExponentialMinusOne(inner) / wideExponentialMinusOne(outer);
+        const Triple terms = {levels[0], levels[1] * ratio, levels[2]};
+        const Triple exponents = {0, outer, outer + inner};
+        const std::size_t first = terms[0].zero ? (terms[1].zero ? 2 : 1) : 0;
+        Integral result = {{}, {}, exponents[first]};
+        for (std::size_t index = first; index < terms.size(); ++index) {
+            result.add(grown(terms[index], exponents[index] - exponents[first]));
         }
+        const bool cancels = signOf(absolute(result.sum) * 256 - result.size) < 0;
+        if (!cancels || toReal(exponents[2]) < -1) {
+            return result;
+        }
+        // Next to 0, the integral for x = 0, and what each level has changed by.
+        const SignedWide beyondOuter = exponentialBeyondLine(outer);
+        const SignedWide beyondInner = exponentialBeyondLine(inner);
+        const SignedWide lostOuter = outer + beyondOuter;
+        const SignedWide lostBefore = exponents[2] + exponentialBeyondLine(exponents[2]);
+        result = {};
+        result.add(atZero() * absolute(growth));
+        result.add(-levels[0] * beyondOuter);
+        result.add(-levels[1] * (beyondInner + lostOuter * (inner + beyondInner)));
+        result.add(-levels[2] * (beyondOuter + lostBefore * lostOuter));
+        return {result.sum / -lostOuter, result.size / -lostOuter, 0};
     }
+
+    /// A number with the sign of the slope, over |x|, of the integral times e^(-xu), where u is the end of the first
+    /// level, or for x > 0 of the second. It changes its sign once at most where L does so twice.
+    [[nodiscard]] SignedWide slopeAt(const SignedWide& growth) const {
+        const auto [levels, outer, inner] = falling(growth);
+        // e^z (z - 1) + 1, the integral of -ue^u from z to 0.
+        const auto moment = [](const SignedWide& z) {
+            return toReal(z) < -1 ? grown(z, z) - wideExponentialMinusOne(z)
+                                  : z * wideExponentialMinusOne(z) - exponentialBeyondLine(z);
+        };
+        return levels[0] * exponentialBeyondLine(outer) - grown(levels[1] * moment(inner), outer) -
+               grown(levels[2] * (inner * wideExponentialMinusOne(outer) + moment(outer)), outer + inner);
+    }
+
+private:
+    using Triple = std::array<SignedWide, 3>;
+
+    struct Falling {
+        Triple levels;
+        SignedWide outer;  ///< the outer levels' length times -|x|
+        SignedWide inner;  ///< the inner level's
+    };
+
+    /// The integral's parts for -|x|. For a positive growth they are seen backwards in time, where nothing outgrows the
+    /// amounts.
+    [[nodiscard]] Falling falling(const SignedWide& growth) const {
+        const SignedWide fall = -absolute(growth);
+        return {signOf(growth) > 0 ? Triple{levels_[2], levels_[1], levels_[0]} : levels_, fall * outerLength_,
+                fall * innerLength_};
+    }
+
+    SignedWide outerLength_;
+    SignedWide innerLength_;
+    Triple levels_;
+    Triple areas_;  ///< of the three amounts
 };
 
-/// payment * s: what the payments have grown to at the end.
-SignedWide accumulated(Real payment, const Schedule& schedule, const SignedWide& growth) {
-    const Accumulation sum(schedule, growth);
-    return grown(payment * sum.ratio, sum.exponent);
-}
-
-/// first * G + payment * s = second.
-struct Balance {
-    SignedWide first;
-    SignedWide second;
-    SignedWide payment;
-    Schedule schedule = {};
-
-    /// The same seen backwards in time.
-    [[nodiscard]] Balance reversed() const { return {second, first, -payment, schedule.reversed()}; }
-};
-
-/// A sum, and the sum of its terms' magnitudes to judge it by.
-struct Sum {
-    SignedWide value;
-    SignedWide size;
-
-    Sum operator-() const { return {-value, size}; }
-};
-
-struct Term {
-    SignedWide factor;
-    SignedWide exponent = 0;  ///< of e
-};
-
-/// The sum of factor * e^exponent, divided by the largest of the powers.
-Sum sumOf(std::initializer_list<Term> terms) {
-    std::optional<SignedWide> highest;
-    for (const Term& term : terms) {
-        if (!term.factor.zero && (!highest || signOf(term.exponent - *highest) > 0)) {
-            highest = term.exponent;
-        }
-    }
-    Sum sum;
-    for (const Term& term : terms) {
-        const SignedWide value = term.factor.zero ? 0 : grown(term.factor, term.exponent - *highest);
-        sum.value = sum.value + value;
-        sum.size = sum.size + absolute(value);
-    }
-    return sum;
-}
-
-/// s - T/p at a growth next to 0, without the cancellation of the two.
-SignedWide gainNearby(const Schedule& schedule, const SignedWide& growth) {
-    const SignedWide t = growth * schedule.duration;
-    const SignedWide q = growth * schedule.period;
-    // e^t - 1 - T/p (e^q - 1) = t (t - q) (1/2! + (t + q)/3! + (t^2 + t q + q^2)/4! + ...).
-    SignedWide sum;
-    SignedWide numerator = 1;
-    SignedWide powerOfQ = 1;
-    SignedWide inverseFactorial = 0.5L;
-    for (int k = 3; k < 30; ++k) {
-        sum = sum + numerator * inverseFactorial;
-        powerOfQ = powerOfQ * q;
-        numerator = numerator * t + powerOfQ;
-        inverseFactorial = inverseFactorial / static_cast<Real>(k);
-    }
-    const SignedWide apart = growth * (SignedWide(schedule.duration) - schedule.period);
-    const SignedWide atEnd = t * apart * sum / wideExponentialMinusOne(q);
-    return schedule.atStart ? atEnd + wideExponentialMinusOne(t) : atEnd;
-}
-
-/// first * G + payment * s - second at a growth of 0.
-SignedWide balanceAtZero(const Balance& balance) {
-    const auto& [first, second, payment, schedule] = balance;
-    // Multiplied by the period the terms are exact. The least is added last, after the others may have cancelled.
-    std::array terms = {first * schedule.period, -second * schedule.period, payment * schedule.duration};
-    std::sort(terms.begin(), terms.end(),
-              [](const SignedWide& a, const SignedWide& b) { return signOf(absolute(a) - absolute(b)) > 0; });
-    return (terms[0] + terms[1] + terms[2]) / schedule.period;
-}
-
-/// first * G + payment * s - second at a growth not above 0, times a positive factor.
-Sum fallingBalance(const Balance& balance, const SignedWide& growth) {
-    const auto& [first, second, payment, schedule] = balance;
-    const SignedWide t = growth * schedule.duration;
-    const SignedWide q = growth * schedule.period;
-    if (growth.zero) {
-        const SignedWide atZero = balanceAtZero(balance);
-        return {atZero, absolute(atZero)};
-    }
-    if (!schedule.atStart && (first - payment).zero) {
-        // The first value is a payment at the start, and the last payment, at the end, a part of the second value.
-        return fallingBalance({0, second - payment, payment, {schedule.duration, schedule.period, true}}, growth);
-    }
-    if (toReal(t) >= -1) {
-        const SignedWide loss = first * wideExponentialMinusOne(t);
-        if (toReal(q) >= -1) {
-            return sumOf({{balanceAtZero(balance)}, {loss}, {payment * gainNearby(schedule, growth)}});
-        }
-        const Accumulation sum(schedule, growth);
-        return sumOf({{first - second}, {loss}, {payment * sum.ratio, sum.exponent}});
-    }
-    if (schedule.atStart) {
-        const Accumulation sum(schedule, growth);
-        return sumOf({{-second}, {first, t}, {payment * sum.ratio, sum.exponent}});
-    }
-    // The last payment has not grown, and all others have to s - 1.
-    const SignedWide apart = growth * (SignedWide(schedule.duration) - schedule.period);
-    const SignedWide others = payment * wideExponentialMinusOne(-absolute(apart)) / wideExponentialMinusOne(q);
-    return signOf(apart) < 0 ? sumOf({{payment - second}, {first, t}, {others, q}})
-                             : sumOf({{payment - second}, {first - others, t}});
-}
-
-/// A sum with the sign of the slope of (first * G - second) / s over the growth, at a growth not above 0. Times what is
-/// positive, the slope is, with s' for payments of the other timing,
-///     (first - second) T G - (first * G - second) p s'.
-Sum fallingSlope(const Balance& balance, const SignedWide& growth) {
-    const auto& [first, second, payment, schedule] = balance;
-    const SignedWide duration = schedule.duration;
-    const SignedWide period = schedule.period;
-    if (growth.zero) {
-        const SignedWide leaning = (first - second) * period;
-        return {(first + second) * duration + (schedule.atStart ? -leaning : leaning), 0};
-    }
-    const SignedWide t = growth * duration;
-    const bool moderate = toReal(t) >= -1;
-    const SignedWide loss = moderate ? wideExponentialMinusOne(t) : 0;
-    const SignedWide change = moderate ? first - second + first * loss : grown(first, t) - second;
-    if (moderate && toReal(growth * period) >= -1) {
-        // With s' = T/p + gain, without (first - second) T, which is in both terms.
-        return sumOf({{-second * duration * loss}, {-change * period * gainNearby(schedule.reversed(), growth)}});
-    }
-    const Accumulation other(schedule.reversed(), growth);
-    return sumOf({{(first - second) * duration, t}, {-change * period * other.ratio, other.exponent}});
-}
-
-/// The zero of a function of the annual rate between low < high, if its signs there differ: halves the interval until
-/// two neighbouring numbers are left, by orders of magnitude first, with some 100 evaluations at most, and then takes
-/// the secant between these.
-template <typename Function>
-std::optional<SignedWide> zeroBetween(Real low, Real high, Function function) {
-    const SignedWide atLow = function(low).value;
-    const SignedWide atHigh = function(high).value;
-    if (signOf(atLow) * signOf(atHigh) >= 0) {
-        return std::nullopt;
-    }
-    SignedWide atNear = atLow;
-    SignedWide atFar = atHigh;
-    if (low < 0 && high > 0) {
-        const SignedWide middle = function(0).value;
-        if (middle.zero) {
-            return middle;
-        }
-        (signOf(middle) == signOf(atHigh) ? high : low) = 0;
-        atNear = middle;
-        atFar = high > 0 ? atHigh : atLow;
-    } else if (high <= 0) {
-        std::swap(atNear, atFar);
-    }
-    // On one side of 0 now: search the magnitude.
-    const Real side = high > 0 ? 1 : -1;
-    Real near = std::max(high > 0 ? low : -high, std::numeric_limits<Real>::min());
-    Real far = high > 0 ? high : -low;
-    while (true) {
-        const Real middle = far > 2 * near ? std::sqrt(near) * std::sqrt(far) : near + (far - near) / 2;
-        if (middle <= near || middle >= far) {
-            return side * (near + (SignedWide(far) - near) * (atNear / (atNear - atFar)));
-        }
-        const SignedWide value = function(side * middle).value;
-        if (signOf(value) == signOf(atFar)) {
-            far = middle;
-            atFar = value;
-        } else {
-            near = middle;
-            atNear = value;
-        }
-    }
-}
-
-/// The continuous annual rates at which f = first * G + payment * s - second is 0; 0 alone where it is among them.
-///
-/// f has two zeros at most. For payments at the end, as a function of u = g - 1, f / s is payment + first u -
-/// (second - first) A(u) with A(u) = u / ((1 + u)^n - 1), n = T/p, which is convex for n > 1, concave for n < 1 and
-/// constant for n = 1: a straight line meets such a curve twice at most, and between the two meetings lies the one
-/// place where their slopes agree. Payments at the start stand at the end when seen backwards in time.
-std::vector<SignedWide> continuousRates(const Balance& balance) {
-    const auto& [first, second, payment, schedule] = balance;
-    const auto [duration, period, atStart] = schedule;
-    if (balanceAtZero(balance).zero) {
+/// The amount of which a unit has the second balance, where the first one has all the others.
+Value missingAmount(const Balance& others, const Balance& unit, const SignedWide& growth) {
+    const Balance::Integral known = others.at(growth);
+    const Balance::Integral factor = unit.at(growth);
+    // Where all is lost but the first level, and neither is there, any amount fits.
+    if (std::isinf(toReal(growth)) && !known.exponent.zero && !factor.exponent.zero) {
         return {0};
     }
-    if (payment.zero) {
-        if (signOf(first) * signOf(second) <= 0) {
-            return {};
+    return finite(grown(-known.sum / factor.sum, known.exponent - factor.exponent));
+}
+
+/// The least number that growths are told from 0 by.
+constexpr Real least = std::numeric_limits<Real>::min();
+
+/// The zero of a function between 0 <= near < far, if its signs there differ: halves the interval until two
+/// neighbouring numbers are left, by orders of magnitude first, with some 100 evaluations at most, and then takes the
+/// secant between these.
+template <typename Function>
+std::optional<SignedWide> zeroBetween(Real near, Real far, Function function) {
+    SignedWide atNear = function(near);
+    SignedWide atFar = function(far);
+    if (signOf(atNear) * signOf(atFar) >= 0) {
+        return std::nullopt;
+    }
+    while (true) {
+        const Real middle =
+            far > 2 * near ? std::sqrt(std::max(near, least)) * std::sqrt(far) : near + (far - near) / 2;
+        if (middle <= near || middle >= far) {
+            return near + (SignedWide(far) - near) * (atNear / (atNear - atFar));
         }
-        return {logarithmOfRatio(second, first, second - first) / duration * year};
+        const SignedWide value = function(middle);
+        const bool isFar = signOf(value) == signOf(atFar);
+        (isFar ? far : near) = middle;
+        (isFar ? atFar : atNear) = value;
     }
-    // Where growth is positive, backwards in time it is not, and nothing outgrows the amounts.
-    const Balance reversed = balance.reversed();
-    const auto value = [&](const SignedWide& annualRate) {
-        const SignedWide growth = annualRate / year;
-        return signOf(growth) <= 0 ? fallingBalance(balance, growth) : -fallingBalance(reversed, -growth);
-    };
-    const auto slope = [&](const SignedWide& annualRate) {
-        const SignedWide growth = annualRate / year;
-        return signOf(growth) <= 0 ? fallingSlope(balance, growth) : fallingSlope(reversed, -growth);
-    };
-    // Beyond, the slowest of the exponentials outweighs all differences of amounts and times.
-    const Real apart = std::fabs(duration - period);
-    const Real slowest = std::min({duration, period, apart > 0 ? apart : period});
-    const Real reach = 40000 / slowest * year;
-    if (const auto zero = zeroBetween(-reach, reach, value)) {
-        return {*zero};
-    }
-    // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
-    const auto turn = zeroBetween(-reach, reach, slope);
-    if (!turn) {
-        return {};
-    }
-    // Where the two zeros are one, rounding may leave the balance on either side of it.
-    constexpr Real rounding = 0x1p-100L;
-    const Sum atTurn = value(*turn);
-    if (toReal(absolute(atTurn.value) / atTurn.size) < rounding) {
-        return {*turn};
-    }
-    std::vector<SignedWide> rates;
-    for (const auto& zero : {zeroBetween(-reach, toReal(*turn), value), zeroBetween(toReal(*turn), reach, value)}) {
-        if (zero) {
-            rates.push_back(*zero);
+}
+
+/// The growth of a sign, 1 or -1, nearest to 0 at which a balance is even, looked for up to some size.
+std::optional<SignedWide> evenGrowth(const Balance& balance, Real sign, Real reach) {
+    const auto difference = [&](Real size) { return balance.at(sign * size).sum; };
+    std::optional<SignedWide> size = zeroBetween(0, reach, difference);
+    if (!size) {
+        // Two zeros or none: the balance lies on one side at both ends and may cross over between them.
+        size = zeroBetween(least, reach, [&](Real growth) { return balance.slopeAt(sign * growth); });
+        if (!size) {
+            return std::nullopt;
+        }
+        // Where the two zeros are one, rounding may leave the balance on either side of it.
+        constexpr Real rounding = 0x1p-100L;
+        const Balance::Integral atTurn = balance.at(sign * *size);
+        if (toReal(absolute(atTurn.sum) / atTurn.size) >= rounding) {
+            size = zeroBetween(0, toReal(*size), difference);
         }
     }
-    return rates;
+    return size ? std::optional(sign * *size) : std::nullopt;
 }
 
 }  // namespace
 
 Value fv(std::span<const Value> arguments) {
     const auto [first, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
-    const SignedWide growth = growthOf(annualRate, compounding);
-    return finite(grown(first, growth * duration) + accumulated(payment, {duration, period, timing == 1}, growth));
+    const Schedule schedule = {duration, period, timing == 1};
+    return missingAmount({first, 0, payment, schedule}, {0, 1, 0, schedule}, growthOf(annualRate, compounding));
 }
 
 Value pv(std::span<const Value> arguments) {
     const auto [second, duration, annualRate, compounding, payment, period, timing] = readArguments(arguments, 1, 3);
-    const SignedWide growth = growthOf(annualRate, compounding);
     const Schedule schedule = {duration, period, timing == 1};
-    if (allIsLost(growth)) {
-        // Every first value fits, 0 among them, or none.
-        return finite(grown(second - accumulated(payment, schedule, growth), -growth * duration));
-    }
-    return finite(grown(second, -growth * duration) - accumulated(payment, schedule.reversed(), -growth));
+    return missingAmount({0, second, payment, schedule}, {1, 0, 0, schedule}, growthOf(annualRate, compounding));
 }
 
 Value pmt(std::span<const Value> arguments) {
     const auto [first, second, duration, annualRate, compounding, period, timing] = readArguments(arguments, 2, 4);
-    const SignedWide growth = growthOf(annualRate, compounding);
-    const bool atStart = timing == 1;
-    // Where all is lost at once, payments at the start have no part in the second value.
-    if (allIsLost(growth) && atStart) {
-        raise(ErrorCode::NoSolution);
-    }
-    const Schedule schedule = {duration, period, atStart};
-    const Accumulation sum(schedule, growth);
-    const SignedWide exponent = growth * duration;
-    if (std::fabs(toReal(exponent)) <= 1) {
-        const SignedWide missing = SignedWide(second) - first - first * wideExponentialMinusOne(exponent);
-        return finite(grown(missing / sum.ratio, -sum.exponent));
-    }
-    // (second - first G) / s, where s / G is the same sum backwards in time.
-    const Accumulation backwards(schedule.reversed(), -growth);
-    return finite((grown(second, -sum.exponent) - grown(first, -backwards.exponent)) / sum.ratio);
+    const Schedule schedule = {duration, period, timing == 1};
+    return missingAmount({first, second, 0, schedule}, {0, 0, 1, schedule}, growthOf(annualRate, compounding));
 }
 
 Value dur(std::span<const Value> arguments) {
@@ -430,38 +329,42 @@ Value dur(std::span<const Value> arguments) {
         return {0};
     }
     const SignedWide growth = growthOf(annualRate, compounding);
-    if (allIsLost(growth)) {
+    const SignedWide change = SignedWide(second) - first;
+    if (std::isinf(toReal(growth)) || (growth.zero && payment == 0)) {
         raise(ErrorCode::NoSolution);
     }
-    const SignedWide change = SignedWide(second) - first;
-    SignedWide duration;
-    if (growth.zero) {
-        if (payment == 0) {
-            raise(ErrorCode::NoSolution);
-        }
-        duration = change / payment * period;
-    } else {
-        // With the value a of endless payments, (second + a) = (first + a) e^(xT). For e^(|x|p) far from 1, a is next
-        // to 0 or to a payment: the rest, which the amounts may leave alone, is rest * e^(-|x|p).
+    SignedWide duration = growth.zero ? change / payment * period : 0;
+    if (!growth.zero) {
+        // e^(xT) = later / earlier, where both are V (g - 1) + payment g^t, for V the second and the first value, or
+        // that over g for a positive growth: kept + shrinking * e^z with z = -|x| p. They may be nothing but the
+        // latter.
         const bool rises = signOf(growth) > 0;
-        const SignedWide shrinking = -absolute(growth * period);
-        const SignedWide towards = rises ? payment : -payment;
-        const SignedWide rest = towards / -wideExponentialMinusOne(shrinking);
-        const SignedWide whole = (timing == 1) == rises ? towards : 0;
-        const auto withRest = [&](Real amount) {
-            const SignedWide alone = amount + whole;
-            return alone.zero && toReal(shrinking) < -steepest ? Term{rest, shrinking}
-                                                               : Term{alone + grown(rest, shrinking)};
+        const SignedWide z = -absolute(growth * period);
+        struct Term {
+            SignedWide factor;
+            SignedWide exponent;
         };
-        const Term later = withRest(second);
-        const Term earlier = withRest(first);
+        const auto termFor = [&](Real amount) -> Term {
+            SignedWide kept = SignedWide(timing == 1 ? 0 : payment) - amount;
+            SignedWide shrinking = SignedWide(timing == 1 ? payment : 0) + amount;
+            if (rises) {
+                std::swap(kept, shrinking);
+            }
+            if (toReal(z) > -1) {
+                return {payment + shrinking * wideExponentialMinusOne(z), 0};
+            }
+            return kept.zero && toReal(z) < -largestExponent ? Term{shrinking, z} : Term{kept + grown(shrinking, z), 0};
+        };
+        const Term later = termFor(second);
+        const Term earlier = termFor(first);
         if (signOf(later.factor) * signOf(earlier.factor) <= 0) {
             raise(ErrorCode::NoSolution);
         }
         const SignedWide exponent = later.exponent - earlier.exponent;
-        const SignedWide ratio = exponent.zero ? logarithmOfRatio(later.factor, earlier.factor, change)
-                                               : wideLogarithm(later.factor / earlier.factor) + exponent;
-        duration = ratio / growth;
+        const SignedWide difference = (rises ? -change : change) * wideExponentialMinusOne(z);
+        const SignedWide logarithm = exponent.zero ? logarithmOfRatio(later.factor, earlier.factor, difference)
+                                                   : wideLogarithm(later.factor / earlier.factor) + exponent;
+        duration = logarithm / growth;
     }
     if (signOf(duration) < 0) {
         raise(ErrorCode::NoSolution);
@@ -471,20 +374,33 @@ Value dur(std::span<const Value> arguments) {
 
 Value rate(std::span<const Value> arguments) {
     const auto [first, second, duration, compounding, payment, period, timing] = readArguments(arguments, 2, 3);
-    const bool atStart = timing == 1;
-    std::vector<Real> rates;
-    for (const SignedWide& annualRate : continuousRates({first, second, payment, {duration, period, atStart}})) {
-        rates.push_back(rateOf(annualRate / year, compounding));
+    const Balance balance(first, second, payment, {duration, period, timing == 1});
+    if (balance.atZero().zero) {
+        return {0};
+    }
+    std::vector<SignedWide> rates;
+    if (payment == 0 && signOf(first) * signOf(second) > 0) {
+        rates.push_back(
+            annualRateOf(logarithmOfRatio(second, first, SignedWide(second) - first) / duration, compounding));
+    } else {
+        // Beyond, the slowest of the exponentials outweighs all differences of amounts and times.
+        const Real apart = std::fabs(duration - period);
+        const Real reach = 40000 / std::min({duration, period, apart > 0 ? apart : period});
+        for (const Real sign : {-1.0L, 1.0L}) {
+            if (const auto growth = evenGrowth(balance, sign, reach)) {
+                rates.push_back(annualRateOf(*growth, compounding));
+            }
+        }
     }
     // Where all is lost, the last payment is left if it comes at the end.
-    if (compounding > 0 && second == (atStart ? 0 : payment)) {
-        rates.push_back(toReal(SignedWide(-year) / compounding));
+    if (compounding > 0 && second == (timing == 1 ? 0 : payment)) {
+        rates.push_back(SignedWide(-secondsOfYear) / compounding);
     }
     if (rates.empty()) {
         raise(ErrorCode::NoSolution);
     }
-    return finite(
-        *std::min_element(rates.begin(), rates.end(), [](Real a, Real b) { return std::fabs(a) < std::fabs(b); }));
+    return finite(*std::ranges::min_element(
+        rates, [](const auto& a, const auto& b) { return signOf(absolute(a) - absolute(b)) < 0; }));
 }
 
 }  // namespace calquo
