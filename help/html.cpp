@@ -2,7 +2,6 @@
 #include "html.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "engine/characters.h"
 
@@ -11,9 +10,6 @@ namespace calquo {
 std::string escaped(std::string_view text) {
     std::string html;
     for (const char character : text) {
-        if (static_cast<unsigned char>(character) >= 0x80) {
-            throw std::invalid_argument("the help is written in ASCII, unlike \"" + std::string(text) + "\"");
-        }
         switch (character) {
             case '&':
                 html += "&amp;";

@@ -6,8 +6,7 @@
 
 namespace calquo {
 
-/// Text as HTML. Throws std::invalid_argument for characters beyond ASCII, which the help's contents and index, in the
-/// system's code page, could not show.
+/// Text as HTML.
 std::string escaped(std::string_view text);
 
 /// "<TAG ATTRIBUTE...>CONTENT</TAG>"; `tag` holds the attributes, too.

@@ -1,13 +1,12 @@
-// Pages piece by piece, as the Markdown reader hands them over; see markup.h.
+// A library makes HTML of the Markdown between our own blocks, and this of those; see markup.h.
 #include "markup.h"
 
-#include <md4c.h>
+#include <md4c-html.h>
 
 #include <algorithm>
 #include <cctype>
-#include <exception>
-#include <functional>
 #include <iterator>
+#include <regex>
 #include <stdexcept>
 
 #include "html.h"
@@ -45,217 +44,155 @@ std::string anchorOf(std::string_view heading) {
     return anchor.ends_with('-') ? anchor.substr(0, anchor.size() - 1) : anchor;
 }
 
-std::string_view viewOf(const MD_ATTRIBUTE& attribute) { return {attribute.text, attribute.size}; }
+std::string withoutTags(const std::string& html) { return std::regex_replace(html, std::regex("<[^>]*>"), ""); }
 
-/// What the library has read of a page so far: the blocks and spans that are open, outermost first.
+/// "page.md#section" as the pages know each other, or the entry of a name.
+std::string linkTo(const std::string& target, const PageSources& sources) {
+    constexpr std::string_view nameMark = "name:", ending = ".md";
+    if (target.starts_with(nameMark)) {
+        return sources.linkOfName(std::string_view(target).substr(nameMark.size()));
+    }
+    const std::size_t found = target.find(ending);
+    return found == std::string::npos ? target : std::string(target).replace(found, ending.size(), ".html");
+}
+
+/// "{names}" becomes the number of names.
+std::string withCounts(std::string text, const PageSources& sources) {
+    for (std::size_t begin = 0; (begin = text.find('{', begin)) != std::string::npos;) {
+        const std::size_t end = std::min(text.find('}', begin), text.size() - 1);
+        text.replace(begin, end - begin + 1, std::to_string(sources.count(text.substr(begin + 1, end - begin - 1))));
+    }
+    return text;
+}
+
+/// A line of the work area in HTML, its result in the style that it has there.
+std::string withResult(const std::string& line) {
+    const std::size_t result = line.find(" = ");
+    return result == std::string::npos ? line : line.substr(0, result) + element("b", line.substr(result));
+}
+
+/// What the library makes of Markdown.
+std::string plainHtml(std::string_view markdown) {
+    std::string html;
+    const auto append = [](const MD_CHAR* text, MD_SIZE size, void* all) {
+        static_cast<std::string*>(all)->append(text, size);
+    };
+    if (md_html(markdown.data(), static_cast<MD_SIZE>(markdown.size()), append, &html,
+                MD_FLAG_TABLES | MD_FLAG_NOHTML | MD_FLAG_NOINDENTEDCODEBLOCKS, MD_HTML_FLAG_VERBATIM_ENTITIES) != 0) {
+        throw std::invalid_argument("the Markdown cannot be read");
+    }
+    return html;
+}
+
+/// The HTML of Markdown without our own blocks: its links lead to pages and names, its code shows results as such, and
+/// the columns of lines and results have their classes.
+std::string htmlOf(std::string_view markdown, const PageSources& sources) {
+    const std::string html = plainHtml(markdown);
+    std::string result;
+    std::vector<std::string> titles;  // of the columns of the table
+    std::size_t column = 0;
+    const auto appendBetween = [&](const std::string& text) {
+        if (text.find_first_of("*`|") != text.npos || text.find("](") != text.npos) {
+            throw std::invalid_argument("a mark has no counterpart in \"" + std::string(trimmed(text)) + "\"");
+        }
+        result += withCounts(text, sources);
+    };
+    static const std::regex ours("<code>([^<]*)</code>|href=\"([^\"]*)\"|<th>([^<]*)</th>|<(table|tr|td)>");
+    std::string rest = html;
+    for (std::sregex_iterator found(html.begin(), html.end(), ours), end; found != end; ++found) {
+        const std::smatch& match = *found;
+        appendBetween(match.prefix());
+        if (match[1].matched) {
+            result += element("code", withResult(match[1]));
+        } else if (match[2].matched) {
+            result += "href=\"" + linkTo(match[2], sources) + "\"";
+        } else if (match[4] == "td") {
+            const std::string title = titles.at(column++);
+            const bool isOurs = title == "Line" || title == "Result";
+            result += isOurs ? "<td class=\"" + inLowerCase(title) + "\">" : "<td>";
+        } else {
+            result += match.str();
+            column = 0;
+            if (match[3].matched) {
+                titles.push_back(match[3]);
+            } else if (match[4] == "table") {
+                titles.clear();
+            }
+        }
+        rest = match.suffix();
+    }
+    appendBetween(rest);
+    return result;
+}
+
+/// One pass over a page's lines.
 class PageReader {
 public:
     PageReader(const std::string& name, std::string_view markdown, const PageSources& sources)
-        : sources_(sources), markdown_(markdown), latest_(markdown.data()) {
+        : sources_(sources), lines_(split(markdown, '\n')) {
         page_.name = name;
     }
 
-    /// Reads everything. Throws std::invalid_argument.
-    void read() {
-        MD_PARSER parser{};
-        parser.flags = MD_FLAG_TABLES | MD_FLAG_NOHTMLSPANS | MD_FLAG_NOINDENTEDCODEBLOCKS;
-        parser.enter_block = [](MD_BLOCKTYPE type, void*, void* self) {
-            return call(self, &PageReader::openBlock, type);
-        };
-        parser.enter_span = [](MD_SPANTYPE, void*, void* self) { return call(self, &PageReader::open); };
-        parser.leave_block = [](MD_BLOCKTYPE type, void* detail, void* self) {
-            return call(self, &PageReader::closeBlock, type, detail);
-        };
-        parser.leave_span = [](MD_SPANTYPE type, void* detail, void* self) {
-            return call(self, &PageReader::closeSpan, type, detail);
-        };
-        parser.text = [](MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size, void* self) {
-            return call(self, &PageReader::addText, type, std::string_view(text, size));
-        };
-        if (md_parse(markdown_.data(), static_cast<MD_SIZE>(markdown_.size()), &parser, this) != 0) {
-            if (fault_) {
-                std::rethrow_exception(fault_);
+    Page read() {
+        try {
+            while (next_ < lines_.size()) {
+                readLine(lines_[next_++]);
             }
-            throw std::invalid_argument("the Markdown cannot be read");
+            finishMarkdown();
+            if (page_.title.empty()) {
+                throw std::invalid_argument("the page has no title");
+            }
+        } catch (const std::invalid_argument& fault) {
+            throw MarkupFault{page_.name + ".md:" + std::to_string(next_) + ": " + fault.what()};
         }
-    }
-
-    Page page() {
-        page_.body = std::move(open_.front().html);
         return std::move(page_);
     }
 
-    /// The line that is being read.
-    std::size_t line() const { return 1 + static_cast<std::size_t>(std::count(markdown_.data(), latest_, '\n')); }
-
 private:
-    struct Piece {
-        std::string html;
-        std::string plain;  ///< The text without its markup.
-    };
-
-    /// A step of the reading. What it throws waits until the library, which is written in C, has returned.
-    template <typename Step, typename... Arguments>
-    static int call(void* self, Step step, const Arguments&... arguments) {
-        auto& reader = *static_cast<PageReader*>(self);
-        try {
-            std::invoke(step, reader, arguments...);
-            return 0;
-        } catch (...) {
-            reader.fault_ = std::current_exception();
-            return -1;
-        }
-    }
-
-    void open() { open_.emplace_back(); }
-
-    void openBlock(MD_BLOCKTYPE type) {
-        open();
-        if (type == MD_BLOCK_TABLE) {
-            head_.clear();
-        } else if (type == MD_BLOCK_TR) {
-            column_ = 0;
-        }
-    }
-
-    Piece takeLast() {
-        Piece piece = std::move(open_.back());
-        open_.pop_back();
-        return piece;
-    }
-
-    void append(const std::string& html) { open_.back().html.append(html).append("\n"); }
-
-    void closeBlock(MD_BLOCKTYPE type, const void* detail) {
-        const auto [html, plain] = takeLast();
-        switch (type) {
-            case MD_BLOCK_DOC:
-            case MD_BLOCK_THEAD:
-            case MD_BLOCK_TBODY:
-                open_.back().html += html;
-                break;
-            case MD_BLOCK_H:
-                addHeading(static_cast<const MD_BLOCK_H_DETAIL*>(detail)->level, plain, html);
-                break;
-            case MD_BLOCK_CODE:
-                addFenced(viewOf(static_cast<const MD_BLOCK_CODE_DETAIL*>(detail)->info), plain);
-                break;
-            case MD_BLOCK_HTML:
-                for (const std::string_view comment : split(trimmed(plain), '\n')) {
-                    addComment(comment);
-                }
-                break;
-            case MD_BLOCK_TH:
-                head_.push_back(plain);
-                open_.back().html += element("th", html);
-                break;
-            case MD_BLOCK_TD:
-                addCell(html);
-                break;
-            default:
-                addElement(type, html);
-        }
-    }
-
-    /// A block that is an element of HTML, with nothing of ours.
-    void addElement(MD_BLOCKTYPE type, const std::string& html) {
-        struct Row {
-            MD_BLOCKTYPE type;
-            std::string_view tag;
-            bool holdsBlocks;
-        };
-        constexpr Row rows[] = {
-            {MD_BLOCK_P, "p", false},   {MD_BLOCK_UL, "ul", true},       {MD_BLOCK_OL, "ol", true},
-            {MD_BLOCK_LI, "li", false}, {MD_BLOCK_TABLE, "table", true}, {MD_BLOCK_TR, "tr", false},
-        };
-        const auto* const row = std::ranges::find(rows, type, &Row::type);
-        if (row == std::end(rows)) {
-            throw std::invalid_argument("the help has no quotations and no rules");
-        }
-        append(element(row->tag, (row->holdsBlocks ? "\n" : "") + html));
-    }
-
-    void closeSpan(MD_SPANTYPE type, const void* detail) {
-        const auto [html, plain] = takeLast();
-        Piece& outer = open_.back();
-        outer.plain += plain;
-        switch (type) {
-            case MD_SPAN_EM:
-                outer.html += element("em", html);
-                break;
-            case MD_SPAN_STRONG:
-                outer.html += element("strong", html);
-                break;
-            case MD_SPAN_CODE:
-                outer.html += element("code", recordHtml(plain));
-                break;
-            case MD_SPAN_A: {
-                const std::string_view target = viewOf(static_cast<const MD_SPAN_A_DETAIL*>(detail)->href);
-                outer.html += element("a href=\"" + linkTo(target) + "\"", html);
-                break;
-            }
-            case MD_SPAN_IMG: {
-                const std::string_view source = viewOf(static_cast<const MD_SPAN_IMG_DETAIL*>(detail)->src);
-                outer.html += "<img src=\"" + escaped(source) + "\" alt=\"" + escaped(plain) + "\">";
-                break;
-            }
-            default:
-                throw std::invalid_argument("the help has no such text");
-        }
-    }
-
-    void addText(MD_TEXTTYPE type, std::string_view text) {
-        const bool isOfPage = !std::less<>()(text.data(), markdown_.data()) &&
-                              std::less<>()(text.data(), markdown_.data() + markdown_.size());
-        const bool isEscaped = isOfPage && text.data() != markdown_.data() && text.data()[-1] == '\\';
-        latest_ = isOfPage ? text.data() : latest_;
-        Piece& piece = open_.back();
-        if (type == MD_TEXT_CODE || type == MD_TEXT_HTML) {
-            piece.plain += text;  // The end of the block or span makes its HTML.
+    void readLine(std::string_view line) {
+        if (!line.starts_with('#') && !line.starts_with("<!--") && !line.starts_with("```")) {
+            markdown_.append(line).append("\n");
             return;
         }
-        if (type == MD_TEXT_SOFTBR || type == MD_TEXT_BR) {
-            text = " ";
-        } else if (!isEscaped && (text.find_first_of("*`|") != text.npos || text.find("](") != text.npos)) {
-            throw std::invalid_argument("a mark has no counterpart in \"" + std::string(text) + "\"");
+        finishMarkdown();
+        if (line.starts_with('#')) {
+            readHeading(line);
+        } else if (line.starts_with("<!--")) {
+            readComment(line);
+        } else {
+            readFenced(trimmed(line.substr(3)));
         }
-        const std::string counted = withCounts(text);
-        piece.plain += counted;
-        piece.html += escaped(counted);
     }
 
-    /// "{names}" becomes the number of names.
-    std::string withCounts(std::string_view text) const {
-        std::string counted(text);
-        for (std::size_t begin = 0; (begin = counted.find('{', begin)) != std::string::npos;) {
-            const std::size_t end = std::min(counted.find('}', begin), counted.size() - 1);
-            const std::string what = counted.substr(begin + 1, end - begin - 1);
-            counted.replace(begin, end - begin + 1, std::to_string(sources_.count(what)));
-        }
-        return counted;
+    /// What stood above our own block.
+    void finishMarkdown() {
+        page_.body += htmlOf(markdown_, sources_);
+        markdown_.clear();
     }
 
-    void addHeading(unsigned level, const std::string& plain, const std::string& html) {
-        if (level > 3 || plain.empty() || (level == 1) != page_.title.empty()) {
+    void readHeading(std::string_view line) {
+        const std::size_t level = std::min(line.find_first_not_of('#'), line.size());
+        const std::string html = textHtml(line.substr(level), sources_), plain = withoutTags(html);
+        if (level > 3 || (level == 1) != page_.title.empty()) {
             throw std::invalid_argument("a page has one title, then sections and subsections");
         }
-        const std::string tag = "h" + std::to_string(level);
+        std::string tag = "h" + std::to_string(level);
         if (level == 1) {
             page_.title = plain;
-            append(element(tag, html));
-            return;
+        } else {
+            anchor_ = anchorOf(plain);
+            tag += " id=\"" + anchor_ + "\"";
         }
-        anchor_ = anchorOf(plain);
-        append(element(tag + " id=\"" + anchor_ + "\"", html));
         if (level == 2) {
             page_.sections.push_back({plain, anchor_});
         }
+        page_.body += element(tag, html) + "\n";
     }
 
-    void addComment(std::string_view comment) {
+    void readComment(std::string_view comment) {
         constexpr std::string_view indexMark = "<!-- index:", calqMark = "<!-- calq:", end = "-->";
         if (comment.starts_with(calqMark) && comment.ends_with(end)) {
-            append(std::string(comment));
+            page_.body.append(comment).append("\n");
         } else if (comment.starts_with(indexMark) && comment.ends_with(end)) {
             comment.remove_prefix(indexMark.size());
             comment.remove_suffix(end.size());
@@ -267,20 +204,23 @@ private:
         }
     }
 
-    void addFenced(std::string_view info, std::string_view content) {
-        if (content.ends_with('\n')) {
-            content.remove_suffix(1);
+    void readFenced(std::string_view info) {
+        const auto begin = lines_.begin() + static_cast<std::ptrdiff_t>(next_);
+        const auto end = std::find(begin, lines_.end(), "```");
+        if (end == lines_.end()) {
+            throw std::invalid_argument("a block has no end");
         }
-        const std::vector<std::string_view> lines = split(content, '\n');
+        next_ += static_cast<std::size_t>(end - begin) + 1;
+        const std::vector<std::string_view> lines(begin, end);
         if (info != "lines" && info != "console" && info != "text") {
-            append(tableHtml(info, lines));
+            page_.body += tableHtml(info, lines) + "\n";
             return;
         }
         std::string html;
         for (const std::string_view line : lines) {
-            html += (info == "lines" ? recordHtml(line) : escaped(line)) + "\n";
+            html += (info == "lines" ? withResult(escaped(line)) : escaped(line)) + "\n";
         }
-        append(element("pre class=\"" + std::string(info) + "\"", html));
+        page_.body += element("pre class=\"" + std::string(info) + "\"", html) + "\n";
     }
 
     /// The table that a block asks for. A line that is indented goes on with the row above it.
@@ -290,56 +230,26 @@ private:
         for (const std::string_view line : lines) {
             if (line.starts_with(' ') && !request.rows.empty()) {
                 request.rows.back().append(" ").append(trimmed(line));
-            } else if (!line.empty()) {
+            } else {
                 request.rows.emplace_back(line);
             }
         }
         return sources_.table(request);
     }
 
-    void addCell(const std::string& html) {
-        const std::string& title = head_.at(column_++);
-        const std::string_view tag = title == "Line"     ? "td class=\"line\""
-                                     : title == "Result" ? "td class=\"result\""
-                                                         : "td";
-        open_.back().html += element(tag, html);
-    }
-
-    /// "page.md#section" as the pages know each other, or the entry of a name.
-    std::string linkTo(std::string_view target) const {
-        constexpr std::string_view nameMark = "name:", ending = ".md";
-        if (target.starts_with(nameMark)) {
-            return sources_.linkOfName(target.substr(nameMark.size()));
-        }
-        std::string link(target);
-        const std::size_t found = link.find(ending);
-        return found == std::string::npos ? link : link.replace(found, ending.size(), ".html");
-    }
-
     const PageSources& sources_;
-    std::string_view markdown_;
-    const char* latest_;  ///< The latest text of the page that was read.
-    std::vector<Piece> open_ = std::vector<Piece>(1);
-    std::vector<std::string> head_;  ///< The titles of the table's columns.
-    std::size_t column_ = 0;
-    std::string anchor_;  ///< Of the latest heading below the title.
+    std::vector<std::string_view> lines_;
+    std::size_t next_ = 0;
+    std::string markdown_;  ///< Read, but not yet on the page.
+    std::string anchor_;    ///< Of the latest heading below the title.
     Page page_;
-    std::exception_ptr fault_;
 };
 
 }  // namespace
 
-std::string recordHtml(std::string_view record) {
-    const std::size_t result = std::min(record.find(" = "), record.size());
-    const std::string expression = escaped(record.substr(0, result));
-    return result == record.size() ? expression : expression + element("b", escaped(record.substr(result)));
-}
-
 std::string textHtml(std::string_view markdown, const PageSources& sources) {
     constexpr std::string_view begin = "<p>", end = "</p>\n";
-    PageReader reader("", markdown, sources);
-    reader.read();
-    const std::string html = reader.page().body;
+    const std::string html = htmlOf(trimmed(markdown), sources);
     if (!html.starts_with(begin) || html.find(end) != html.size() - end.size()) {
         throw std::invalid_argument("\"" + std::string(markdown) + "\" is no single paragraph");
     }
@@ -347,17 +257,12 @@ std::string textHtml(std::string_view markdown, const PageSources& sources) {
 }
 
 Page readPage(const std::string& name, std::string_view markdown, const PageSources& sources) {
-    PageReader reader(name, markdown, sources);
-    try {
-        reader.read();
-    } catch (const std::invalid_argument& fault) {
-        throw MarkupFault{name + ".md:" + std::to_string(reader.line()) + ": " + fault.what()};
+    const auto* const odd = std::ranges::find_if(markdown, [](unsigned char character) { return character > 0x7F; });
+    if (odd != markdown.end()) {
+        const auto linesAbove = std::count(markdown.begin(), odd, '\n');
+        throw MarkupFault{name + ".md:" + std::to_string(linesAbove + 1) + ": the help is written in ASCII"};
     }
-    Page page = reader.page();
-    if (page.title.empty()) {
-        throw MarkupFault{name + ".md:1: the page has no title"};
-    }
-    return page;
+    return PageReader(name, markdown, sources).read();
 }
 
 }  // namespace calquo

@@ -61,7 +61,4 @@ Page readPage(const std::string& name, std::string_view markdown, const PageSour
 /// The HTML of a paragraph, without its tag. Throws std::invalid_argument for a text that is more or less than that.
 std::string textHtml(std::string_view markdown, const PageSources& sources);
 
-/// A line of the work area as HTML, its result in the style that it has there.
-std::string recordHtml(std::string_view record);
-
 }  // namespace calquo

@@ -94,7 +94,8 @@ std::vector<Example> examplesOf(const std::string& name, std::string_view html) 
             options.clear();
         } else if (html.starts_with(line)) {
             Example example{name, plainText(takeUntil(html, "</td>")), "", options};
-            html.remove_prefix(std::string_view("</td>").size());
+            html.remove_prefix(1);
+            takeUntil(html, "<");
             if (html.starts_with(result)) {
                 example.result = plainText(takeUntil(html, "</td>"));
             }
