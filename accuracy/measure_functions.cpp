@@ -20,7 +20,7 @@ namespace calquo {
 namespace {
 
 constexpr mpfr_prec_t mantissaBits = 64;
-constexpr std::size_t longestList = 8;
+constexpr std::size_t longestList = 5;
 
 struct Question {
     std::vector<std::complex<Real>> arguments;
