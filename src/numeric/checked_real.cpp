@@ -17,9 +17,7 @@ Real signReal(Real a) {
 }
 
 Real expReal(Real a) {
-    if (a < lowestExponent || a > highestExponent) {
-        raise(ErrorCode::LimitExceeded);
-    }
+    limitedExponent(a);
     return a == 0 || std::isnan(a) ? 1 + a : toReal(wideExponential(a));
 }
 

@@ -54,7 +54,15 @@ Real signReal(Real a);
 constexpr Real lowestExponent = -11358.65226L;
 constexpr Real highestExponent = 11356.5234L;
 
-/// e^a; 9 ("limit exceeded") for a outside lowestExponent to highestExponent.
+/// The exponent itself; 9 ("limit exceeded") outside lowestExponent to highestExponent.
+inline Real limitedExponent(Real a) {
+    if (a < lowestExponent || a > highestExponent) {
+        raise(ErrorCode::LimitExceeded);
+    }
+    return a;
+}
+
+/// e^a for a limited exponent.
 Real expReal(Real a);
 
 /// ln a for real a; raises 13 for a below 0, 14 for 0 and 6 for an infinity.

@@ -146,6 +146,7 @@ Value abs(const Value& z) {
     if (z.im == 0) {
         return Value(absReal(z.re)).at(z.positions);
     }
+    // For its errors; what underflows in it is not lost below.
     squaredModulus(z);
     return isFinite(z) ? Value(toReal(squareRoot(squaredModulus(wideComplex(z))))).at(z.positions) : notANumber(z);
 }

@@ -19,10 +19,7 @@ bool finiteReal(const Value& z) { return z.im == 0 && z.re >= -largestFinite && 
 
 /// e^a with the limits of expReal.
 SignedWide limitedExponential(const SignedWide& a) {
-    const Real rounded = toReal(a);
-    if (rounded < lowestExponent || rounded > highestExponent) {
-        raise(ErrorCode::LimitExceeded);
-    }
+    limitedExponent(toReal(a));
     return wideExponential(a);
 }
 
@@ -96,10 +93,10 @@ Value power(const Value& z, const Value& w, const WideComplex& wide) {
 
 Value exp(const Value& z) {
     reportErrorsAt(z);
-    const Real modulus = expReal(z.re);
     if (z.im == 0) {
-        return Value(modulus).at(z.positions);
+        return Value(expReal(z.re)).at(z.positions);
     }
+    limitedExponent(z.re);
     if (!isFinite(z)) {
         return notANumber(z);
     }
@@ -151,7 +148,6 @@ Value root(const Value& z, const Value& degree) {
     if (!isFinite(degree) || !isFinite(z) || (z.re == 0 && z.im == 0)) {
         return pow(z, exponent);
     }
-    reportErrorsAt(degree);
     const WideComplex wide = wideComplex(degree);
     const WideComplex exact = wide.im.zero ? WideComplex{reciprocal(wide.re), 0} : WideComplex{1, 0} / wide;
     return positiveReal(z) && degree.im == 0 ? Value(positivePower(z.re, exact.re)).at(degree.positions)

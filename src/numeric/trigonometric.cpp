@@ -99,9 +99,7 @@ bool startsTangent(const Value& z) {
 
 void refuseSteep(const Value& z) {
     reportErrorsAt(z);
-    if (std::fabs(z.re) > highestExponent) {
-        raise(ErrorCode::LimitExceeded);
-    }
+    limitedExponent(std::fabs(z.re));
 }
 
 /// Refuses what e^z and e^-z refuse. False for a NaN.

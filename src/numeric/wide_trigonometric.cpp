@@ -87,8 +87,7 @@ struct Point {
     UInt128 cosine;
 };
 
-/// Sine and cosine of j/128 up to pi/4 and one more, in units of 2^-127.
-constexpr std::array<Point, 102> points = [] {
+constexpr std::array<Point, 102> computePoints() {
     // Of 1/128, by their series.
     Point step = {{}, one};
     UInt128 term = one;
@@ -106,7 +105,10 @@ constexpr std::array<Point, 102> points = [] {
         rows[j].cosine = timesUnits(last.cosine, step.cosine) - timesUnits(last.sine, step.sine);
     }
     return rows;
-}();
+}
+
+/// Sine and cosine of j/128 up to pi/4 and one more, in units of 2^-127.
+constexpr std::array<Point, 102> points = computePoints();
 
 /// atan(j/64), a fraction.
 constexpr std::uint32_t arcTangentSteps = 64;
