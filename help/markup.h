@@ -1,4 +1,5 @@
-// The help's pages, written in Markdown, and their way to HTML. A library reads the Markdown; this adds what is ours.
+// The help's pages, written in Markdown, and their way to HTML. A library reads the Markdown; this adds what is ours:
+// headings, blocks between "```" and comments, which stand at the margin, links and results.
 //
 // A page has one title, "# ", then sections and subsections. [text](page.md#section) leads to another page,
 // [text](name:sin) to the entry of a name of the language. "{names}" stands for a number that the program knows; see

@@ -62,14 +62,13 @@ std::string_view takeUntil(std::string_view& html, std::string_view end) {
 }
 
 struct Example {
-    std::string place;
     std::string line;
     std::string result;  ///< Empty where none is shown.
     std::vector<std::string> options;
 };
 
 /// Every line of the work area that a page shows.
-std::vector<Example> examplesOf(const std::string& name, std::string_view html) {
+std::vector<Example> examplesOf(std::string_view html) {
     constexpr std::string_view calqMark = "<!-- calq:", lines = "<pre class=\"lines\">", line = "<td class=\"line\">",
                                result = "<td class=\"result\">", code = "<code>";
     std::vector<Example> examples;
@@ -77,7 +76,7 @@ std::vector<Example> examplesOf(const std::string& name, std::string_view html) 
     const auto addRecord = [&](const std::string& record) {
         const std::size_t equals = record.find(" = ");
         if (equals != std::string::npos) {
-            examples.push_back({name, record.substr(0, equals), record.substr(equals + 3), options});
+            examples.push_back({record.substr(0, equals), record.substr(equals + 3), options});
         }
     };
     for (takeUntil(html, "<"); !html.empty(); html.remove_prefix(1), takeUntil(html, "<")) {
@@ -93,7 +92,7 @@ std::vector<Example> examplesOf(const std::string& name, std::string_view html) 
             }
             options.clear();
         } else if (html.starts_with(line)) {
-            Example example{name, plainText(takeUntil(html, "</td>")), "", options};
+            Example example{plainText(takeUntil(html, "</td>")), "", options};
             html.remove_prefix(1);
             takeUntil(html, "<");
             if (html.starts_with(result)) {
@@ -110,7 +109,7 @@ std::vector<Example> examplesOf(const std::string& name, std::string_view html) 
 TEST(Help, ExamplesGiveWhatIsShown) {
     std::size_t count = 0;
     for (const auto& [name, html] : pages()) {
-        for (const Example& example : examplesOf(name, html)) {
+        for (const Example& example : examplesOf(html)) {
             std::vector<const char*> words;
             for (const std::string& option : example.options) {
                 words.push_back(option.c_str());
@@ -164,7 +163,7 @@ TEST(Help, EveryErrorHasASectionWithALineThatEndsInIt) {
         takeUntil(section, ">" + message + "</h3>");
         ASSERT_FALSE(section.empty()) << message;
         section.remove_prefix(1);
-        const auto examples = examplesOf("errors", takeUntil(section, "<h"));
+        const auto examples = examplesOf(takeUntil(section, "<h"));
         // No line leads to these two; one that did would be a fault of the program.
         const bool hasExample = code != static_cast<std::uint32_t>(ErrorCode::InvalidExpression) &&
                                 code != static_cast<std::uint32_t>(ErrorCode::InternalFault);
