@@ -124,7 +124,12 @@ ReducedAngle reduceAngle(Real x) {
 
 ReducedAngle reduceAngle(const SignedWide& x) {
     constexpr SignedWide inverseOfPi = WideFloat{{twoOverPi[0], twoOverPi[1]}, -129};
-    return std::fabs(toReal(x)) <= pi / 4 ? ReducedAngle{0, x} : reduceHalfTurns(x * inverseOfPi);
+    const Real rounded = toReal(x);
+    if (std::fabs(rounded) <= pi / 4) {
+        return {0, x};
+    }
+    // So far out its last bits are worth several turns either way.
+    return std::fabs(rounded) >= 0x1p127L ? reduceAngle(rounded) : reduceHalfTurns(x * inverseOfPi);
 }
 
 ReducedAngle reduceHalfTurns(const SignedWide& x) {

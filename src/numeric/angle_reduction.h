@@ -21,7 +21,8 @@ struct ReducedAngle {
 /// reach the last two bits of the whole part or its fraction.
 ReducedAngle reduceAngle(Real x);
 
-/// Reduces a wide angle. The reduced one is within 2^-120 |x|; of an x from 2^127 on no bit of it is right.
+/// Reduces a wide angle that an extended number could hold. The reduced one is within 2^-120 |x|, so that of an x from
+/// 2^120 on nothing is right but its magnitude.
 ReducedAngle reduceAngle(const SignedWide& x);
 
 /// Reduces x half turns, exactly but for the last multiplication by pi; whole quarter turns have an angle of 0.

@@ -79,7 +79,7 @@ Value power(const Value& z, const Value& w, const WideComplex& wide) {
     SineCosine circle;
     if (eighths != 0 && (w.im == 0 || logarithm.re.zero)) {
         circle = wideSineCosine(reduceHalfTurns(scaled(eighths * wide.re, -2)));
-        if (eighths == 4 && z.im == 0 && w.im == 0 && !hasFraction(w.re)) {
+        if (eighths == 4 && w.im == 0 && !hasFraction(w.re) && signOf(wide.re - w.re) == 0) {
             // Whole powers of negative numbers deliberately keep the residue of k pi.
             circle.sine = wideSineCosine(product.im).sine;
         }
