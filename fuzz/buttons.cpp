@@ -41,7 +41,7 @@ void check(FuzzInput input) {
     const std::size_t end = begin + reader.byte();
     const std::string text = reader.text();
     const LineSelection line{text, begin, end};
-    std::visit(Checker{line}, actionOf(panel.identifier, button, line, angle));
+    std::visit(Checker{line}, actionOf(panel, button, line, angle));
 }
 
 }  // namespace calquo

@@ -135,7 +135,7 @@ std::string panelPicture(const PanelEntry& panel) {
     for (const PanelRow& row : panel.rows) {
         std::string buttons;
         for (const PanelButton& button : row) {
-            const int width = (button.widthNumber + 2) * pixelsOfUnit - borders;
+            const int width = (button.extraHalfWidths + 2) * pixelsOfUnit - borders;
             const std::string style = "width:" + std::to_string(width) +
                                       "px;background-color:" + colorText(button.face) +
                                       ";color:" + colorText(textColorOn(button.face));
@@ -148,7 +148,7 @@ std::string panelPicture(const PanelEntry& panel) {
 
 /// What a button makes of an empty line, the caret as "|"; empty when that is just what stands on it.
 std::string insertedBy(const PanelEntry& panel, const PanelButton& button) {
-    const ButtonAction action = actionOf(panel.identifier, button, {}, AngleOption::None);
+    const ButtonAction action = actionOf(panel, button, {}, AngleOption::None);
     if (const auto* const around = std::get_if<SurroundCharacters>(&action)) {
         const std::string inserted = around->before + around->after;
         return inserted == button.label ? "" : std::string(inserted).insert(around->caret, 1, '|');

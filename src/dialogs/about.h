@@ -19,8 +19,8 @@ public:
 
 protected:
     Size build() override;
-    void forgetWidgets() override;
-    WindowHandle focused() const override;
+    void onGone() override;
+    WindowHandle focusTarget() const override;
 
 private:
     std::unique_ptr<Panel> panel_;

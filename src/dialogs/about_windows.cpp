@@ -50,7 +50,7 @@ WindowHandle About::open(WindowHandle parent) { return DialogWindow::open({L"Cal
 
 Size About::build() {
     panel_ = std::make_unique<Panel>(handle(), Panel::Creation{});
-    const int dots = panel_->dotsPerInch();
+    const int dots = screenDotsPerInch();
     const auto scaled = [dots](int pixels) { return scaledToScreen(pixels, dots); };
     constexpr std::uint16_t none = 0;
     const Rectangle picture{scaled(margin), scaled(margin), scaled(pictureSide), scaled(pictureSide)};
@@ -82,11 +82,11 @@ Size About::build() {
     return client;
 }
 
-void About::forgetWidgets() {
+void About::onGone() {
     close_ = nullptr;
     panel_.reset();
 }
 
-WindowHandle About::focused() const { return close_ == nullptr ? nullptr : close_->handle(); }
+WindowHandle About::focusTarget() const { return close_ == nullptr ? nullptr : close_->handle(); }
 
 }  // namespace calquo

@@ -6,23 +6,15 @@
 #include <optional>
 #include <string_view>
 
-#include "widgets/color.h"
-#include "widgets/component.h"
 #include "widgets/geometry.h"
-#include "widgets/handles.h"
+#include "widgets/window.h"
 
 struct tagMSG;
 
 namespace calquo {
 
-class DialogWindow {
+class DialogWindow : public Window {
 public:
-    DialogWindow(const DialogWindow&) = delete;
-    DialogWindow& operator=(const DialogWindow&) = delete;
-
-    /// Null while the dialog is closed.
-    WindowHandle handle() const { return window_.get(); }
-
     void close();
 
     /// Offers a message that is about to be dispatched to the dialog that it is for; true when it has been dealt with.
@@ -42,9 +34,9 @@ protected:
     /// Free for the commands of other widgets, from here on.
     static constexpr std::uint16_t firstCommand = 100;
 
+    /// Heirs close the dialog in their destructors, while they can still hear its last messages, and forget their
+    /// widgets in onGone(): their windows are gone by then.
     DialogWindow() = default;
-    /// The heirs close the dialog in their destructors, while they can still answer its last messages.
-    virtual ~DialogWindow() = default;
 
     /// Shows a new window, or brings the open one to the front, which stays as it is. Raises InternalFault when the
     /// system refuses.
@@ -52,29 +44,19 @@ protected:
 
     /// Makes the widgets on the new window, and returns the size that shows them.
     virtual Size build() = 0;
-    /// Forgets the widgets, whose windows are gone.
-    virtual void forgetWidgets() = 0;
-    /// The window that gets the focus when the dialog's own does.
-    virtual WindowHandle focused() const = 0;
     /// Enter, or the button that says the same.
     virtual void accept() { close(); }
-    /// A notification of any other widget.
-    virtual void hearNotice(std::uint16_t command, std::uint16_t notice);
-    /// The colour that a control's text differs in from the usual one.
-    virtual std::optional<Color> textColorOf(WindowHandle control) const;
+    /// Any other widget tells something.
+    virtual void onNotice(const Notification&) {}
+
+    bool onCommand(const Notification& notification) override;
+    bool onClose() override;
+    bool onFocusMove(WindowHandle control, bool backwards) override;
+    std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
-    struct Procedure;  // the window procedure, whose signature needs the system's types
-
     void create(const Creation& creation);
-    void place(Size client, WindowHandle owner);
-
-    std::optional<MessageAnswer> hear(const Message& message);
-    MessageAnswer hearCommand(const Message& message);
-    MessageAnswer moveFocus(const Message& message);
-    std::optional<MessageAnswer> chooseTextColor(const Message& message);
-
-    WindowOwner window_;
+    void moveOver(WindowHandle owner, Size client);
 };
 
 }  // namespace calquo

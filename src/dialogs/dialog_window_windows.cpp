@@ -1,9 +1,7 @@
-// The dialog's window class, its messages and its place.
+// The dialog's window and its messages.
 #include "dialogs/dialog_window.h"
 
 #include "dialogs/form_layout.h"
-#include "values/errors.h"
-#include "widgets/kept_exception.h"
 #include "widgets/screens.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -16,52 +14,8 @@ constexpr WindowStyle windowStyle{WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCH
 
 }  // namespace
 
-/// Leads the window's messages to the dialog.
-struct DialogWindow::Procedure {
-    static LRESULT CALLBACK receive(HWND window, UINT code, WPARAM wordParameter, LPARAM longParameter) {
-        if (code == WM_NCCREATE) {
-            const auto& creation = *reinterpret_cast<const CREATESTRUCTW*>(longParameter);
-            SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation.lpCreateParams));
-        }
-        DialogWindow* const dialog = ownerOf(window);
-        if (dialog != nullptr && code == WM_NCDESTROY) {
-            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-            dialog->window_.release();
-            dialog->forgetWidgets();
-        } else if (dialog != nullptr) {
-            const auto answer = keepingExceptions(std::optional<MessageAnswer>(0), [&] {
-                return dialog->hear({code, wordParameter, longParameter});
-            });
-            if (answer) {
-                return *answer;
-            }
-        }
-        return DefWindowProcW(window, code, wordParameter, longParameter);
-    }
-
-    static DialogWindow* ownerOf(HWND window) {
-        return reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    }
-
-    static void registerClass(const wchar_t* name) {
-        const HINSTANCE program = GetModuleHandleW(nullptr);
-        WNDCLASSW description{};
-        if (GetClassInfoW(program, name, &description) != 0) {
-            return;
-        }
-        description.lpfnWndProc = receive;
-        description.hInstance = program;
-        description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
-        description.lpszClassName = name;
-        if (RegisterClassW(&description) == 0) {
-            raise(ErrorCode::InternalFault);
-        }
-    }
-};
-
 WindowHandle DialogWindow::open(const Creation& creation) {
-    if (!window_) {
+    if (handle() == nullptr) {
         create(creation);
     }
     ShowWindow(handle(), SW_SHOW);
@@ -71,68 +25,45 @@ WindowHandle DialogWindow::open(const Creation& creation) {
 }
 
 void DialogWindow::create(const Creation& creation) {
-    Procedure::registerClass(creation.windowClass);
-    window_.reset(CreateWindowExW(windowStyle.extendedStyle, creation.windowClass, wideText(creation.title).c_str(),
-                                  windowStyle.style, 0, 0, 0, 0, creation.owner, nullptr, GetModuleHandleW(nullptr),
-                                  this));
-    if (!window_) {
-        raise(ErrorCode::InternalFault);
-    }
+    WNDCLASSEXW description{};
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
+    description.lpszClassName = creation.windowClass;
+    registerClass(description);
+    Window::create({creation.windowClass, wideText(creation.title).c_str(), windowStyle, {}, creation.owner});
     try {
-        place(build(), creation.owner);
+        moveOver(creation.owner, build());
     } catch (...) {
         close();
         throw;
     }
 }
 
-void DialogWindow::place(Size client, WindowHandle owner) {
-    const Rectangle window = windowAround(client, windowStyle);
-    const Rectangle place =
-        dialogRectangle({window.width, window.height}, windowRectangle(owner), screenOf(owner).usableArea);
-    MoveWindow(handle(), place.left, place.top, place.width, place.height, FALSE);
+void DialogWindow::moveOver(WindowHandle owner, Size client) {
+    const Rectangle frame = windowAround(client, windowStyle);
+    const auto [left, top, width, height] =
+        dialogRectangle({frame.width, frame.height}, windowRectangle(owner), screenOf(owner).usableArea);
+    MoveWindow(handle(), left, top, width, height, FALSE);
 }
 
 void DialogWindow::close() {
     // The owner, which becomes active on the way, must already find the dialog closed.
-    const WindowOwner closing(window_.release());
+    const WindowOwner closing = release();
 }
 
 bool DialogWindow::takes(tagMSG& message) {
     const HWND top = GetAncestor(message.hwnd, GA_ROOT);
-    const bool isDialog = GetClassLongPtrW(top, GCLP_WNDPROC) == reinterpret_cast<ULONG_PTR>(Procedure::receive);
-    return isDialog && IsDialogMessageW(top, &message) != 0;
+    return dynamic_cast<DialogWindow*>(Window::of(top)) != nullptr && IsDialogMessageW(top, &message) != 0;
 }
 
-void DialogWindow::hearNotice(std::uint16_t, std::uint16_t) {}
-
-std::optional<Color> DialogWindow::textColorOf(WindowHandle) const { return std::nullopt; }
-
-std::optional<MessageAnswer> DialogWindow::hear(const Message& message) {
-    switch (message.code) {
-        case WM_COMMAND:
-            return hearCommand(message);
-        case WM_CLOSE:
-            close();
-            return 0;
-        case WM_SETFOCUS:
-            SetFocus(focused());
-            return 0;
-        case DM_GETDEFID:
-            return MAKELONG(acceptCommand, DC_HASDEFID);
-        case WM_NEXTDLGCTL:
-            return moveFocus(message);
-        case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLOREDIT:
-            return chooseTextColor(message);
-        default:
-            return std::nullopt;
-    }
+bool DialogWindow::onClose() {
+    close();
+    return true;
 }
 
-MessageAnswer DialogWindow::hearCommand(const Message& message) {
+bool DialogWindow::onCommand(const Notification& notification) {
     static_assert(acceptCommand == IDOK && closeCommand == IDCANCEL);  // what Enter and Escape send
-    switch (const std::uint16_t command = LOWORD(message.wordParameter)) {
+    switch (notification.command) {
         case acceptCommand:
             accept();
             break;
@@ -140,30 +71,23 @@ MessageAnswer DialogWindow::hearCommand(const Message& message) {
             close();
             break;
         default:
-            hearNotice(command, HIWORD(message.wordParameter));
+            onNotice(notification);
     }
-    return 0;
+    return true;
 }
 
-MessageAnswer DialogWindow::moveFocus(const Message& message) {
-    const bool isGiven = LOWORD(message.longParameter) != 0;
-    const HWND target = isGiven ? reinterpret_cast<HWND>(message.wordParameter)
-                                : GetNextDlgTabItem(handle(), GetFocus(), message.wordParameter != 0 ? TRUE : FALSE);
+bool DialogWindow::onFocusMove(WindowHandle control, bool backwards) {
+    const HWND target =
+        control != nullptr ? control : GetNextDlgTabItem(handle(), GetFocus(), backwards ? TRUE : FALSE);
     SetFocus(target);
     if ((SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) {
         SendMessageW(target, EM_SETSEL, 0, -1);
     }
-    return 0;
+    return true;
 }
 
-std::optional<MessageAnswer> DialogWindow::chooseTextColor(const Message& message) {
-    const auto color = textColorOf(reinterpret_cast<HWND>(message.longParameter));
-    if (!color) {
-        return std::nullopt;
-    }
-    const LRESULT brush = DefWindowProcW(handle(), message.code, message.wordParameter, message.longParameter);
-    SetTextColor(reinterpret_cast<HDC>(message.wordParameter), colorReference(*color));
-    return brush;
+std::optional<std::intptr_t> DialogWindow::onSimpleMessage(std::uint32_t message) {
+    return message == DM_GETDEFID ? std::optional<std::intptr_t>(MAKELONG(acceptCommand, DC_HASDEFID)) : std::nullopt;
 }
 
 }  // namespace calquo

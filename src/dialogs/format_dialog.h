@@ -18,8 +18,8 @@
 
 namespace calquo {
 
-/// The place where the word of a format is kept.
-struct FormatPlace {
+/// Reads and writes the word of a format where it is kept.
+struct FormatAccess {
     std::function<NumericFormat()> read;
     std::function<void(NumericFormat)> write;
 };
@@ -29,17 +29,17 @@ public:
     FormatDialog() = default;
     ~FormatDialog() override;
 
-    /// Opens the dialog on the word that `place` keeps, in the middle of `parent`, a window or a control. A dialog that
-    /// is open already comes to the front and stays with the word it is about. Returns the dialog's window.
-    WindowHandle open(WindowHandle parent, FormatPlace place);
+    /// Opens the dialog on the word that `access` reaches, in the middle of `parent`, a window or a control. A dialog
+    /// that is open already comes to the front and stays with the word it is about. Returns the dialog's window.
+    WindowHandle open(WindowHandle parent, FormatAccess access);
 
 protected:
     Size build() override;
-    void forgetWidgets() override;
-    WindowHandle focused() const override;
+    void onGone() override;
+    WindowHandle focusTarget() const override;
     /// Writes the values to the word and closes; when one cannot be written, says why and stays open.
     void accept() override;
-    void hearNotice(std::uint16_t command, std::uint16_t notice) override;
+    void onNotice(const Notification& notification) override;
     std::optional<Color> textColorOf(WindowHandle control) const override;
 
 private:
@@ -70,7 +70,7 @@ private:
     void show(Fault fault);
     void showAt(Fault fault);
 
-    FormatPlace place_;
+    FormatAccess access_;
     std::optional<WorkingValues> values_;
     std::vector<Control> controls_;
     std::unique_ptr<TextBlock> message_;

@@ -28,12 +28,12 @@ std::string hintOf(const Attribute& attribute) {
 
 FormatDialog::~FormatDialog() { close(); }
 
-WindowHandle FormatDialog::open(WindowHandle parent, FormatPlace place) {
+WindowHandle FormatDialog::open(WindowHandle parent, FormatAccess access) {
     if (handle() == nullptr) {
-        place_ = std::move(place);
-        values_.emplace(place_.read());
+        access_ = std::move(access);
+        values_.emplace(access_.read());
     }
-    const std::uint32_t kind = getField(place_.read(), field::kind);
+    const std::uint32_t kind = getField(access_.read(), field::kind);
     return DialogWindow::open({L"Format", formatKinds[kind].title, parent});
 }
 
@@ -69,7 +69,7 @@ FormatDialog::Control FormatDialog::makeControl(const Attribute& attribute, std:
 }
 
 Size FormatDialog::build() {
-    const auto kind = static_cast<FormatKind>(getField(place_.read(), field::kind));
+    const auto kind = static_cast<FormatKind>(getField(access_.read(), field::kind));
     FormParts parts;
     std::uint16_t command = firstCommand;
     for (const Attribute* const attribute : attributesOf(kind)) {
@@ -81,7 +81,7 @@ Size FormatDialog::build() {
     ok_ = std::make_unique<PushButton>(handle(), acceptCommand, "Ok", PushButton::Look::Default);
     cancel_ = std::make_unique<PushButton>(handle(), closeCommand, "Cancel", PushButton::Look::Plain);
     parts.buttons = {ok_->preferredSize(), cancel_->preferredSize()};
-    parts.dotsPerInch = ok_->dotsPerInch();
+    parts.dotsPerInch = screenDotsPerInch();
 
     const FormLayout layout = layOutForm(parts, heightOfLongestMessage(formWidth(parts)));
     for (std::size_t index = 0; index < controls_.size(); ++index) {
@@ -111,7 +111,7 @@ int FormatDialog::heightOfLongestMessage(int width) const {
     return height;
 }
 
-void FormatDialog::forgetWidgets() {
+void FormatDialog::onGone() {
     fault_ = {};
     controls_.clear();
     message_.reset();
@@ -119,7 +119,7 @@ void FormatDialog::forgetWidgets() {
     cancel_.reset();
 }
 
-WindowHandle FormatDialog::focused() const { return cancel_ == nullptr ? nullptr : cancel_->handle(); }
+WindowHandle FormatDialog::focusTarget() const { return cancel_ == nullptr ? nullptr : cancel_->handle(); }
 
 FormatDialog::Fault FormatDialog::takeValues() {
     Fault first;
@@ -157,21 +157,21 @@ void FormatDialog::accept() {
         showAt(fault);
         return;
     }
-    NumericFormat word = place_.read();
+    NumericFormat word = access_.read();
     try {
         values_->applyTo(word);
     } catch (const Except&) {
-        place_.write(word);
+        access_.write(word);
         showAt(findTooWide());
         return;
     }
-    place_.write(word);
+    access_.write(word);
     close();
 }
 
-void FormatDialog::hearNotice(std::uint16_t, std::uint16_t notice) {
+void FormatDialog::onNotice(const Notification& notification) {
     // The fields notify while they are made, too.
-    if (notice == NumberField::changeNotice && message_ != nullptr) {
+    if (notification.code == NumberField::changeNotice && message_ != nullptr) {
         show(takeValues());
     }
 }

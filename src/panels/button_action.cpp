@@ -14,8 +14,8 @@
 namespace calquo {
 namespace {
 
-/// What goes in front of and behind the selection.
-struct Surroundings {
+/// What goes before and after the selection.
+struct Affixes {
     std::string prefix;
     std::string suffix;
 };
@@ -25,7 +25,7 @@ bool isInk(char character) { return static_cast<unsigned char>(character) > ' ';
 
 /// Puts a prefix and a suffix around the selection. Blanks keep them apart from their neighbours, and the caret goes
 /// where typing is to go on.
-SurroundCharacters insertAround(const LineSelection& line, const Surroundings& around) {
+SurroundCharacters insertAround(const LineSelection& line, const Affixes& around) {
     const std::size_t open = around.prefix.find('(');
     const bool calls = open != std::string::npos;
     const bool selects = line.begin != line.end;
@@ -41,7 +41,7 @@ SurroundCharacters insertAround(const LineSelection& line, const Surroundings& a
         result.caret = prefixBegin + open + 1;
     } else {
         // A name without parentheses does not touch what it stands before. Where nothing is selected that is the
-        // character behind the suffix, which gets its blank below.
+        // character after the suffix, which gets its blank below.
         if (!calls && selects && isInk(line.text[line.begin])) {
             result.before += ' ';
         }
@@ -54,13 +54,13 @@ SurroundCharacters insertAround(const LineSelection& line, const Surroundings& a
 }
 
 /// A call of a function with the selection as its first argument, `rest` after it, and `after` after the call.
-Surroundings callOf(std::string_view name, std::string_view rest, std::string_view after = {}) {
+Affixes callOf(std::string_view name, std::string_view rest, std::string_view after = {}) {
     return {std::string(name) + '(', std::string(rest).append(")").append(after)};
 }
 
 /// A function of the angle panels; the names of the inverse functions begin with "a". Deliberate: the hyperbolic
 /// functions are treated like the circular ones.
-Surroundings angleCall(std::string_view name, AngleOption angle) {
+Affixes angleCall(std::string_view name, AngleOption angle) {
     const auto* const row = std::ranges::find(angleRows, angle, &AngleRow::option);
     if (row == angleRows.end()) {
         return callOf(name, "");
@@ -72,7 +72,7 @@ Surroundings angleCall(std::string_view name, AngleOption angle) {
 }
 
 /// A name of the language, with room for as many arguments as it takes.
-Surroundings callWithRoom(std::string_view name) {
+Affixes callWithRoom(std::string_view name) {
     // Deliberate: what is selected comes second, and the caret goes to the first argument.
     if (name == "logB" || name == "root") {
         return {std::string(name) + "(; ", ")"};
@@ -90,7 +90,7 @@ Surroundings callWithRoom(std::string_view name) {
 
 /// A financial function. Arguments that are often the same are there to be typed over, values are left empty; the
 /// timing, which is last and need not be given, is left out.
-Surroundings financialCall(std::string_view name) {
+Affixes financialCall(std::string_view name) {
     struct Example {
         std::string_view argument, text;
     };
@@ -177,17 +177,14 @@ ButtonAction editingAction(Symbol symbol) {
 
 }  // namespace
 
-ButtonAction actionOf(std::uint16_t panel, const PanelButton& button, const LineSelection& line, AngleOption angle) {
-    const PanelEntry* const entry = findPanel(panel);
-    if (entry == nullptr) {
-        return NoAction{};
-    }
+ButtonAction actionOf(const PanelEntry& panel, const PanelButton& button, const LineSelection& line,
+                      AngleOption angle) {
     const std::size_t end = std::min(line.end, line.text.size());
     const LineSelection inLine{line.text, std::min(line.begin, end), end};
     const std::string_view name = button.insertion;
-    switch (entry->group) {
+    switch (panel.group) {
         case PanelGroup::Keypads:
-            if (panel == numericBasePanel) {
+            if (panel.identifier == numericBasePanel) {
                 return numericBaseAction(name, inLine);
             }
             return name.empty() ? editingAction(button.symbol) : TypeCharacters{name};

@@ -50,8 +50,7 @@ struct ReplaceCharacters {
 
 using ButtonAction = std::variant<NoAction, TypeCharacters, EditingOperation, SurroundCharacters, ReplaceCharacters>;
 
-/// What pressing a button of a panel does. A button of a panel that is not in the catalogue does nothing here. The
-/// selection counts as far as it lies in the line.
-ButtonAction actionOf(std::uint16_t panel, const PanelButton& button, const LineSelection& line, AngleOption angle);
+/// What pressing a button of a panel does. The selection counts as far as it lies in the line.
+ButtonAction actionOf(const PanelEntry& panel, const PanelButton& button, const LineSelection& line, AngleOption angle);
 
 }  // namespace calquo

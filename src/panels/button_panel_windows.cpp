@@ -1,14 +1,19 @@
 // The making of button panels, and what their buttons do to the work area.
 #include "panels/button_panel.h"
 
+#include <utility>
+
+#include "widgets/button.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-/// The style words of the two sorts of panels.
-constexpr std::uint32_t cataloguePanelStyle = 0x7B0100;
-constexpr std::uint32_t captionPanelStyle = 0x7E8100;
+constexpr std::uint32_t panelStyle = 0x7B0100;
+
+ButtonDescription descriptionOf(const PanelButton& entry) {
+    return {entry.label, entry.description, entry.symbol, entry.face, entry.extraHalfWidths, entry.repeats};
+}
 
 /// Carries an action out in the line that it was worked out for.
 struct Performer {
@@ -43,47 +48,30 @@ struct Performer {
 
 }  // namespace
 
-ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry)
-    : Panel(parent, {entry.identifier, cataloguePanelStyle, Direction::Down, true}) {
+ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener)
+    : Panel(parent, {entry.identifier, panelStyle, Direction::Down, true}),
+      entry_(entry),
+      listener_(std::move(listener)) {
     for (const PanelRow row : entry.rows) {
         Panel& rowPanel = add<Panel>(Panel::Creation{0, 0, Direction::Across, true});
         for (const PanelButton& button : row) {
-            addButton(rowPanel, button);
+            buttons_.push_back(&button);
+            rowPanel.add<Button>(static_cast<std::uint16_t>(buttons_.size()), descriptionOf(button));
         }
     }
 }
 
-ButtonPanel::ButtonPanel(WindowHandle parent, std::uint16_t identifier, PanelRow row)
-    : Panel(parent, {identifier, captionPanelStyle, Direction::Across, true}) {
-    for (const PanelButton& button : row) {
-        addButton(*this, button);
+bool ButtonPanel::onCommand(const Notification& notification) {
+    if (isPress(notification)) {
+        listener_(entry_, *buttons_.at(notification.command - 1U));
     }
+    return true;
 }
 
-Button& ButtonPanel::addButton(Panel& row, const PanelButton& entry) {
-    entries_.push_back(&entry);
-    return row.add<Button>(static_cast<std::uint16_t>(entries_.size()), descriptionOf(entry));
-}
-
-const ButtonPanel* ButtonPanel::panelOf(const Component& button) {
-    for (HWND window = button.parent(); window != nullptr; window = GetAncestor(window, GA_PARENT)) {
-        if (const auto* const panel = dynamic_cast<const ButtonPanel*>(Component::of(window))) {
-            return panel;
-        }
-    }
-    return nullptr;
-}
-
-const PanelButton& ButtonPanel::entryOf(const Component& button) const { return *entries_.at(button.command() - 1U); }
-
-ButtonDescription descriptionOf(const PanelButton& entry) {
-    return {entry.label, entry.description, entry.symbol, entry.face, entry.widthNumber, entry.repeats};
-}
-
-void pressButton(WorkArea& workArea, const ButtonPanel& panel, const Component& button, AngleOption angle) {
+void pressButton(WorkArea& workArea, const PanelEntry& panel, const PanelButton& button, AngleOption angle) {
     const CurrentLine line = workArea.currentLine();
     const LineSelection selection{line.text, line.selectionBegin, line.selectionEnd};
-    std::visit(Performer{workArea, line}, actionOf(panel.command(), panel.entryOf(button), selection, angle));
+    std::visit(Performer{workArea, line}, actionOf(panel, button, selection, angle));
 }
 
 }  // namespace calquo

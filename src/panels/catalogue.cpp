@@ -52,7 +52,7 @@ struct ButtonSource {
     consteval ButtonSource(const char* name, int width) : ButtonSource(name, width, descriptionOfName(name)) {}
     /// Any other label.
     constexpr ButtonSource(const char* label, int width, std::string_view description)
-        : button{.label = label, .description = description, .insertion = label, .widthNumber = width} {}
+        : button{.label = label, .description = description, .insertion = label, .extraHalfWidths = width} {}
     constexpr ButtonSource(const PanelButton& stated, std::optional<Color> face) : button(stated), ownFace(face) {}
 
     PanelButton button;
@@ -145,7 +145,7 @@ constexpr RowSource bitBasics = {{"bAnd", 2}, {"bOr", 2}, {"bNot", 2}};
 
 /// The language spells it otherwise than the face.
 constexpr ButtonSource inchesOfMercury = {
-    {.label = "inHg", .description = descriptionOfName("inchHg"), .insertion = "inchHg", .widthNumber = 2},
+    {.label = "inHg", .description = descriptionOfName("inchHg"), .insertion = "inchHg", .extraHalfWidths = 2},
     std::nullopt};
 
 // clang-format off
@@ -377,24 +377,6 @@ static_assert(std::adjacent_find(catalogue.begin(), catalogue.end(),
                                  }) == catalogue.end(),
               "the panels stand in the order of the menu");
 
-constexpr PanelButton captionButton(std::string_view label, std::string_view description, Symbol symbol) {
-    return {.label = label, .description = description, .insertion = {}, .symbol = symbol, .face = keyFace};
-}
-
-constexpr PanelButton leftCaption[] = {
-    captionButton("O", "Main menu", Symbol::MainMenu),
-    captionButton("B", "Button Panels", Symbol::Buttons),
-    captionButton("?", "Help", Symbol::None),
-};
-
-constexpr PanelButton rightCaption[] = {
-    captionButton("N", "Minimize the window", Symbol::Minimize),
-    captionButton("M", "Maximize the window", Symbol::Maximize),
-    captionButton("C", "Close the window", Symbol::Close),
-};
-
-constexpr PanelButton restore = captionButton("R", "Restore the window", Symbol::Restore);
-
 }  // namespace
 
 std::span<const PanelEntry> panelCatalogue() { return catalogue; }
@@ -404,18 +386,5 @@ const PanelEntry* findPanel(std::uint16_t identifier) {
                                            [&](const PanelEntry& panel) { return panel.identifier == identifier; });
     return found == catalogue.end() ? nullptr : found;
 }
-
-PanelRow captionPanel(std::uint16_t identifier) {
-    switch (identifier) {
-        case leftCaptionPanel:
-            return leftCaption;
-        case rightCaptionPanel:
-            return rightCaption;
-        default:
-            return {};
-    }
-}
-
-const PanelButton& restoreButton() { return restore; }
 
 }  // namespace calquo

@@ -18,8 +18,8 @@ struct PanelButton {
     std::string_view insertion{};    ///< What it inserts: its label, unless the language spells that otherwise.
     Symbol symbol = Symbol::None;
     Color face{};
-    int widthNumber = 0;   ///< 0 to 8; 0 is the narrowest.
-    bool repeats = false;  ///< Acts when it is pressed and while it is held, not when it is released.
+    int extraHalfWidths = 0;  ///< 0 to 8; its width in half button sizes beyond the first two.
+    bool repeats = false;     ///< Acts when it is pressed and while it is held, not when it is released.
 };
 
 /// Buttons from left to right.
@@ -60,15 +60,5 @@ const PanelEntry* findPanel(std::uint16_t identifier);
 
 /// Among the keypads, the one whose buttons do more than type.
 inline constexpr std::uint16_t numericBasePanel = 0xA113;
-
-/// The two panels of the caption strip, which no menu shows.
-inline constexpr std::uint16_t leftCaptionPanel = 0x9011;
-inline constexpr std::uint16_t rightCaptionPanel = 0x9012;
-
-/// The buttons of one of the two; empty for another identifier.
-PanelRow captionPanel(std::uint16_t identifier);
-
-/// What the button that maximizes the window becomes while the window is maximized.
-const PanelButton& restoreButton();
 
 }  // namespace calquo

@@ -1,20 +1,43 @@
-// The caption strip's panels and its drawing.
+// The caption strip's buttons and its drawing.
 #include "shell/caption_strip.h"
 
+#include <span>
 #include <utility>
 
 #include "values/program.h"
+#include "widgets/screens.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-constexpr std::string_view maximizeLabel = "M";
+constexpr std::uint32_t panelStyle = 0x7E8100;
+
+struct CaptionButton {
+    CaptionCommand command;
+    ButtonDescription look;
+};
+
+constexpr CaptionButton leftButtons[] = {
+    {CaptionCommand::MainMenu, {.label = "O", .description = "Main menu", .symbol = Symbol::MainMenu}},
+    {CaptionCommand::ButtonsMenu, {.label = "B", .description = "Button Panels", .symbol = Symbol::Buttons}},
+    {CaptionCommand::HelpMenu, {.label = "?", .description = "Help"}},
+};
+
+constexpr CaptionButton rightButtons[] = {
+    {CaptionCommand::Minimize, {.label = "N", .description = "Minimize the window", .symbol = Symbol::Minimize}},
+    {CaptionCommand::MaximizeOrRestore,
+     {.label = "M", .description = "Maximize the window", .symbol = Symbol::Maximize}},
+    {CaptionCommand::Close, {.label = "C", .description = "Close the window", .symbol = Symbol::Close}},
+};
+
+/// What the button that maximizes the window looks like while the window is maximized.
+constexpr ButtonDescription restoreLook{.label = "R", .description = "Restore the window", .symbol = Symbol::Restore};
 
 /// The colours of the strip: behind everything, and of the buttons.
 struct CaptionColors {
-    Color ground;
+    Color background;
     Color face;
 };
 constexpr CaptionColors activeColors{{38, 56, 89}, {58, 80, 120}};
@@ -22,11 +45,19 @@ constexpr CaptionColors inactiveColors{{188, 194, 204}, {210, 215, 223}};
 
 const CaptionColors& colorsOf(bool active) { return active ? activeColors : inactiveColors; }
 
+void addButtons(Panel& panel, std::span<const CaptionButton> buttons) {
+    for (const CaptionButton& button : buttons) {
+        panel.add<Button>(static_cast<std::uint16_t>(button.command), button.look);
+    }
+}
+
 }  // namespace
 
 CaptionStrip::CaptionStrip(WindowHandle parent)
-    : left_(parent, leftCaptionPanel, captionPanel(leftCaptionPanel)),
-      right_(parent, rightCaptionPanel, captionPanel(rightCaptionPanel)) {
+    : left_(parent, {leftCaptionPanel, panelStyle, Direction::Across, true}),
+      right_(parent, {rightCaptionPanel, panelStyle, Direction::Across, true}) {
+    addButtons(left_, leftButtons);
+    addButtons(right_, rightButtons);
     giveLooks();
 }
 
@@ -43,23 +74,25 @@ void CaptionStrip::showActive(bool active) {
 }
 
 void CaptionStrip::giveLooks() {
-    for (const ButtonPanel* const panel : {&left_, &right_}) {
-        for (const auto& child : panel->children()) {
-            const PanelButton& own = panel->entryOf(*child);
-            ButtonDescription look = descriptionOf(maximized_ && own.label == maximizeLabel ? restoreButton() : own);
+    const auto give = [this](const Panel& panel, std::span<const CaptionButton> buttons) {
+        for (std::size_t index = 0; index < buttons.size(); ++index) {
+            const bool restores = maximized_ && buttons[index].command == CaptionCommand::MaximizeOrRestore;
+            ButtonDescription look = restores ? restoreLook : buttons[index].look;
             look.face = colorsOf(active_).face;
-            dynamic_cast<Button&>(*child).setLook(look);
+            dynamic_cast<Button&>(*panel.children()[index]).setLook(look);
         }
-    }
+    };
+    give(left_, leftButtons);
+    give(right_, rightButtons);
 }
 
-Color CaptionStrip::ground() const { return colorsOf(active_).ground; }
+Color CaptionStrip::background() const { return colorsOf(active_).background; }
 
-void CaptionStrip::paint(DrawingContext context, const Rectangle& place) const {
-    RECT area{place.left, place.top, place.left + place.width, place.top + place.height};
-    SetBkColor(context, colorReference(ground()));
+void CaptionStrip::paint(DrawingContext context, const Rectangle& title) const {
+    RECT area = edgesOf(title);
+    SetBkColor(context, colorReference(background()));
     ExtTextOutW(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);  // fills it without a brush
-    SetTextColor(context, colorReference(textColorOn(ground())));
+    SetTextColor(context, colorReference(textColorOn(background())));
     const HGDIOBJ before = SelectObject(context, buttonFont());
     InflateRect(&area, -buttonSize() / 2, 0);
     DrawTextW(context, wideProgramTitle, -1, &area,

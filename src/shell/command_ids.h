@@ -52,7 +52,6 @@ inline constexpr CommandRange selectFormatCommands{0x511, 0x517};
 inline constexpr CommandRange modifyFormatCommands{selectFormatCommands.first + modifyFormatBase,
                                                    selectFormatCommands.last + modifyFormatBase};
 static_assert(selectFormatCommands.last - selectFormatCommands.first + 1 == formatKinds.size());
-static_assert(!panelCommands.contains(leftCaptionPanel) && !panelCommands.contains(rightCaptionPanel));
 
 /// The format that an identifier of one of the two ranges is about.
 constexpr FormatKind formatOf(CommandRange range, std::uint16_t identifier) {

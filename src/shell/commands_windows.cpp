@@ -114,12 +114,12 @@ void Commands::selectFormat(std::uint16_t identifier) {
 void Commands::modifyFormat(std::uint16_t identifier) {
     const FormatKind kind = formatOf(modifyFormatCommands, identifier);
     Settings& settings = targets_.settings;
-    const FormatPlace place{[&settings, kind] { return settings.format(kind); },
-                            [&settings, kind](NumericFormat word) {
-                                settings.setFormat(kind, word);
-                                applyToEngine(settings);
-                            }};
-    targets_.keepFocusIn(formatDialog_.open(targets_.workArea.handle(), place));
+    const FormatAccess access{[&settings, kind] { return settings.format(kind); },
+                              [&settings, kind](NumericFormat word) {
+                                  settings.setFormat(kind, word);
+                                  applyToEngine(settings);
+                              }};
+    targets_.keepFocusIn(formatDialog_.open(targets_.workArea.handle(), access));
 }
 
 void Commands::resetFormats(std::uint16_t) {

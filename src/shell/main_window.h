@@ -14,70 +14,53 @@
 #include "shell/settings.h"
 #include "shell/user_dialogs.h"
 #include "shell/window_layout.h"
-#include "widgets/component.h"
+#include "widgets/window.h"
 #include "workarea/work_area.h"
 
 namespace calquo {
 
-class MainWindow {
+class MainWindow : public Window {
 public:
     /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
     /// there; `settings` must outlive the window. The user is asked by `dialogs`. Raises InternalFault when the system
     /// refuses.
     explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs());
-    MainWindow(const MainWindow&) = delete;
-    MainWindow& operator=(const MainWindow&) = delete;
-    ~MainWindow();
-
-    WindowHandle handle() const { return window_.get(); }
+    ~MainWindow() override;
 
     /// Whether a menu entry carries its mark.
     bool isChecked(std::uint16_t identifier) const { return menu_.isChecked(identifier); }
 
+    std::optional<Color> backgroundOf(WindowHandle child) const override;
+
+protected:
+    void onCreate() override;
+    void onDestroy() override;
+    bool onClose() override;
+    bool maySessionEnd() override { return saveBeforeEnd(); }
+    void onSessionEnd(bool ends) override;
+
+    bool onMoved() override;
+    std::optional<SizeLimits> sizeLimits() const override;
+    HitArea onHitTest(HitArea byClass) const override;
+
+    void onActivation(Activation activation) override;
+    WindowHandle focusTarget() const override;
+
+    bool onKey(const KeyEvent& event) override;
+    bool onMenuKey() override { return true; }  // ours has opened already
+    bool onCommand(const Notification& notification) override;
+
+    bool onPaint() override;
+    bool onPaintBackground(DrawingContext context) override;
+
 private:
-    struct Procedure;  // the window procedure, whose signature needs the system's types
-    struct MessageRow;
-    static const MessageRow messageRows[];
-    struct CaptionRow;
-    static const CaptionRow captionRows[];
-
-    std::optional<MessageAnswer> hear(const Message& message);
-
-    std::optional<MessageAnswer> hearCreation(const Message& message);
-    std::optional<MessageAnswer> hearDestruction(const Message& message);
-    std::optional<MessageAnswer> hearQuestionForEnd(const Message& message);
-    std::optional<MessageAnswer> hearEndOfSession(const Message& message);
-    std::optional<MessageAnswer> forgetWindow(const Message& message);
-    std::optional<MessageAnswer> hearActivation(const Message& message);
-    std::optional<MessageAnswer> passFocusOn(const Message& message);
-    std::optional<MessageAnswer> paint(const Message& message);
-    std::optional<MessageAnswer> eraseGround(const Message& message);
-    std::optional<MessageAnswer> chooseGround(const Message& message);
-    std::optional<MessageAnswer> close(const Message& message);
-    std::optional<MessageAnswer> answerSizeLimits(const Message& message);
-    std::optional<MessageAnswer> hearPlace(const Message& message);
-    std::optional<MessageAnswer> hitTest(const Message& message);
-    std::optional<MessageAnswer> hearSystemKey(const Message& message);
-    std::optional<MessageAnswer> hearSystemCommand(const Message& message);
-    std::optional<MessageAnswer> hearCommand(const Message& message);
-
     bool saveBeforeEnd();
     void shutDown();
 
-    void openMenuAtCaption();
-
-    void hearButton(const Component& button);
-    void pressCaptionButton(const Component& button);
-    void minimize(const Component& button);
-    void maximize(const Component& button);
-    void restore(const Component& button);
-    void closeByButton(const Component& button);
-    void openMainMenu(const Component& button);
-    void openButtonsMenu(const Component& button);
-    void openHelpMenu(const Component& button);
+    void runCaptionCommand(CaptionCommand command, WindowHandle button);
 
     bool canHaveFocus(WindowHandle window) const;
-    void giveFocusToPart();
+    WindowLayout layout() const;
     WindowParts parts() const;
     Size smallestWindow() const;
     void moveWhereItCanBeReached();
@@ -86,7 +69,6 @@ private:
 
     Settings& settings_;
     UserDialogs dialogs_;
-    WindowOwner window_;
     MainMenu menu_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "panels/button_panel.h"
@@ -12,6 +13,9 @@ namespace calquo {
 
 class OpenPanels {
 public:
+    /// `listener` hears which buttons of the panels are pressed.
+    explicit OpenPanels(ButtonPanel::Listener listener) : listener_(std::move(listener)) {}
+
     /// Opens a panel of the catalogue on `parent`, below the others; nothing happens for another identifier.
     void open(WindowHandle parent, std::uint16_t identifier);
     void close(std::uint16_t identifier);
@@ -23,6 +27,7 @@ public:
     void layOut(const std::vector<Rectangle>& rectangles, bool hidden);
 
 private:
+    ButtonPanel::Listener listener_;
     std::vector<std::unique_ptr<ButtonPanel>> panels_;
 };
 

@@ -7,7 +7,7 @@ namespace calquo {
 
 void OpenPanels::open(WindowHandle parent, std::uint16_t identifier) {
     if (const PanelEntry* const entry = findPanel(identifier)) {
-        panels_.push_back(std::make_unique<ButtonPanel>(parent, *entry));
+        panels_.push_back(std::make_unique<ButtonPanel>(parent, *entry, listener_));
     }
 }
 

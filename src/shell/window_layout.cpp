@@ -57,15 +57,19 @@ WindowLayout layOutWindow(Size client, const WindowParts& parts) {
     return layout;
 }
 
-Rectangle reachablePlace(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& screens) {
+Rectangle reachableRectangle(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& usableAreas) {
     const bool usable = wanted.width >= smallest.width && wanted.height >= smallest.height;
-    const bool shown =
-        std::any_of(screens.begin(), screens.end(), [&](const Rectangle& screen) { return overlaps(wanted, screen); });
-    if ((usable && shown) || screens.empty()) {
+    const bool shown = std::ranges::any_of(usableAreas, [&](const Rectangle& area) { return overlaps(wanted, area); });
+    if ((usable && shown) || usableAreas.empty()) {
         return wanted;
     }
-    const Rectangle& screen = screens.front();
-    return {screen.left + screen.width / 4, screen.top + screen.height / 4, screen.width / 2, screen.height / 2};
+    const Rectangle& area = usableAreas.front();
+    return {area.left + area.width / 4, area.top + area.height / 4, area.width / 2, area.height / 2};
+}
+
+Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame) {
+    return {usableArea.left + frame.left + 1, usableArea.top + frame.top + 1, usableArea.width + frame.width - 2,
+            usableArea.height + frame.height - 2};
 }
 
 }  // namespace calquo

@@ -1,4 +1,4 @@
-// Where the parts of the main window stand, worked out from their sizes alone.
+// Where the main window and its parts stand, worked out from sizes alone.
 #pragma once
 
 #include <vector>
@@ -13,10 +13,10 @@ struct WindowParts {
     Size rightCaption;         ///< The caption panel at the right.
     std::vector<Size> panels;  ///< The open button panels, from top to bottom.
     bool panelsHidden = false;
-    Size smallestWorkArea;  ///< Less than this is no place to work in.
+    Size smallestWorkArea;  ///< Less than this is too small to work in.
 };
 
-/// The places of the parts in the client area. A hidden panel has a place without a size.
+/// The rectangles of the parts in the client area. That of a hidden panel has no size.
 struct WindowLayout {
     Rectangle leftCaption;
     Rectangle rightCaption;
@@ -32,9 +32,12 @@ Size smallestClient(const WindowParts& parts);
 /// never a negative one.
 WindowLayout layOutWindow(Size client, const WindowParts& parts);
 
-/// The place of a window that is to be shown on a desk with `screens`, each a screen's rectangle without its taskbar:
-/// `wanted` as it is when any screen shows a part of it and it is at least `smallest`; else half of the nearest
-/// screen, the first of the list, in its middle.
-Rectangle reachablePlace(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& screens);
+/// The rectangle of a window that is to be shown: `wanted` as it is when any of the screens' usable areas shows a part
+/// of it and it is at least `smallest`; else half of the nearest area, the first of the list, in its middle.
+Rectangle reachableRectangle(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& usableAreas);
+
+/// The maximized window: a screen's usable area with all but one pixel of the sizing frame around it. `frame` is the
+/// window around an empty client area at the origin.
+Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame);
 
 }  // namespace calquo

@@ -11,7 +11,7 @@ const Component::WidgetClass& BitMapImage::widgetClass() {
 }
 
 BitMapImage::BitMapImage(WindowHandle parent, std::uint16_t command, BitmapOwner bitmap)
-    : Component(widgetClass(), {parent, command, SS_OWNERDRAW, {}}, nullptr), bitmap_(std::move(bitmap)) {
+    : Component(widgetClass(), {parent, command, SS_OWNERDRAW, {}}), bitmap_(std::move(bitmap)) {
     BITMAP description{};
     GetObjectW(bitmap_.get(), sizeof description, &description);
     setPreferredSize({description.bmWidth, description.bmHeight});

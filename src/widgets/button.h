@@ -16,9 +16,15 @@ struct ButtonDescription {
     std::string_view description;  ///< For the tooltip; empty for none.
     Symbol symbol = Symbol::None;  ///< Shown in place of the label.
     Color face = defaultFaceColor;
-    int widthNumber = 0;   ///< The width in half button sizes beyond the first two.
-    bool repeats = false;  ///< Acts when pressed and while held, rather than when released.
+    int extraHalfWidths = 0;  ///< The width in half button sizes beyond the first two.
+    bool repeats = false;     ///< Acts when pressed and while held, rather than when released.
 };
+
+/// Whether a notification is that of a button that acts.
+constexpr bool isPress(const Notification& notification) {
+    return notification.code == static_cast<std::uint16_t>(ButtonNotice::Pressed) ||
+           notification.code == static_cast<std::uint16_t>(ButtonNotice::Clicked);
+}
 
 class Button : public Component {
 public:
@@ -37,18 +43,17 @@ public:
     void setLook(const ButtonDescription& description);
 
 private:
-    struct MessageRow;
-    static const MessageRow messageRows[];
     static const WidgetClass& widgetClass();
 
-    std::optional<MessageAnswer> hear(const Message& message);
-    std::optional<MessageAnswer> press(const Message& message);
-    std::optional<MessageAnswer> repeat(const Message& message);
-    std::optional<MessageAnswer> release(const Message& message);
-    std::optional<MessageAnswer> loseCapture(const Message& message);
-    std::optional<MessageAnswer> paint(const Message& message);
-    std::optional<MessageAnswer> keepBackground(const Message& message);
+    bool onMouse(const MouseEvent& event) override;
+    bool onTimer(std::uintptr_t timer) override;
+    bool onPaint() override;
+    bool onPaintBackground(DrawingContext) override { return true; }  // painting covers everything
+    bool onPaintFrame() override { return true; }                     // there is none
 
+    void press();
+    void release(Point position);
+    void loseCapture();
     void redraw();
     void notify(ButtonNotice notice);
 

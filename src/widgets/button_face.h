@@ -13,7 +13,7 @@ inline constexpr Color defaultFaceColor{226, 229, 233};
 
 /// A filled rectangle without an outline, its corners quarters of a circle.
 struct RoundedRectangle {
-    Rectangle place;
+    Rectangle rectangle;
     int cornerDiameter = 0;
     Color color;
 

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "widgets/paint_buffer.h"
 #include "widgets/painting.h"
 #include "widgets/shape_coverage.h"
 #include "widgets/toolkit.h"
@@ -18,8 +17,8 @@ namespace {
 constexpr std::uint16_t handCursor = 201;
 constexpr UINT_PTR repeatTimer = 1;
 
-std::string storedText(const ButtonDescription& description) {
-    return std::string(description.label) + '|' + std::string(description.description);
+std::string textOf(const ButtonDescription& description) {
+    return storedText(description.label, description.description);
 }
 
 /// Paints the rectangles with the null pen; some systems leave out the last column and row of each with it.
@@ -28,8 +27,8 @@ void paintLayers(HDC context, const std::vector<RoundedRectangle>& layers) {
     const Selection brush(context, GetStockObject(DC_BRUSH));
     for (const RoundedRectangle& layer : layers) {
         SetDCBrushColor(context, colorReference(layer.color));
-        RoundRect(context, layer.place.left, layer.place.top, layer.place.left + layer.place.width,
-                  layer.place.top + layer.place.height, layer.cornerDiameter, layer.cornerDiameter);
+        RoundRect(context, layer.rectangle.left, layer.rectangle.top, layer.rectangle.left + layer.rectangle.width,
+                  layer.rectangle.top + layer.rectangle.height, layer.cornerDiameter, layer.cornerDiameter);
     }
 }
 
@@ -70,8 +69,8 @@ void paintLabel(HDC context, const std::wstring& label, Size area, Color color) 
     selectFittingFont(context, label, area.width - area.height / 4);
     SetTextColor(context, colorReference(color));
     SetBkMode(context, TRANSPARENT);
-    RECT place{0, 0, area.width, area.height};
-    DrawTextW(context, label.c_str(), static_cast<int>(label.size()), &place,
+    RECT whole{0, 0, area.width, area.height};
+    DrawTextW(context, label.c_str(), static_cast<int>(label.size()), &whole,
               DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
 }
 
@@ -98,53 +97,45 @@ void paintSymbol(HDC context, Symbol symbol, Size area, Color ground, Color colo
 
 }  // namespace
 
-/// Which member hears which message.
-struct Button::MessageRow {
-    UINT code;
-    std::optional<MessageAnswer> (Button::*hear)(const Message&);
-};
-
-const Button::MessageRow Button::messageRows[] = {
-    {WM_LBUTTONDOWN, &Button::press},
-    // The second of two quick presses.
-    {WM_LBUTTONDBLCLK, &Button::press},
-    {WM_TIMER, &Button::repeat},
-    {WM_LBUTTONUP, &Button::release},
-    {WM_CAPTURECHANGED, &Button::loseCapture},
-    {WM_PAINT, &Button::paint},
-    {WM_ERASEBKGND, &Button::keepBackground},
-    {WM_NCPAINT, &Button::keepBackground},  // there is no frame to paint
-};
-
 const Component::WidgetClass& Button::widgetClass() {
     static const WidgetClass registered = registerClass(L"BUTTON", L"CalquoButton", handCursor);
     return registered;
 }
 
 Button::Button(WindowHandle parent, std::uint16_t command, const ButtonDescription& description)
-    : Component(widgetClass(), {parent, command, BS_OWNERDRAW, storedText(description)},
-                [this](const Message& message) { return hear(message); }),
+    : Component(widgetClass(), {parent, command, BS_OWNERDRAW, textOf(description)}),
       symbol_(description.symbol),
       face_(description.face),
       press_(description.repeats) {
     const int size = buttonSize();
-    setPreferredSize({(description.widthNumber + 2) * size / 2, size});
+    setPreferredSize({(description.extraHalfWidths + 2) * size / 2, size});
 }
 
 void Button::setLook(const ButtonDescription& description) {
-    setText(storedText(description));
+    setText(textOf(description));
     symbol_ = description.symbol;
     face_ = description.face;
     redraw();
 }
 
-std::optional<MessageAnswer> Button::hear(const Message& message) {
-    const auto* const row = std::find_if(std::begin(messageRows), std::end(messageRows),
-                                         [&](const MessageRow& candidate) { return candidate.code == message.code; });
-    return row == std::end(messageRows) ? std::nullopt : (this->*row->hear)(message);
+bool Button::onMouse(const MouseEvent& event) {
+    switch (event.action) {
+        case MouseAction::Press:
+            press();
+            return true;
+        case MouseAction::Release:
+            release(event.position);
+            return true;
+        case MouseAction::CaptureLost:
+            loseCapture();
+            return true;
+        case MouseAction::Move:
+            break;
+    }
+    return Component::onMouse(event);
 }
 
-std::optional<MessageAnswer> Button::press(const Message&) {
+void Button::press() {
     SetCapture(handle());
     const ButtonNotice notice = press_.press();
     redraw();
@@ -154,32 +145,31 @@ std::optional<MessageAnswer> Button::press(const Message&) {
         SetTimer(handle(), repeatTimer, repeatDelay(static_cast<unsigned>(delay)), nullptr);
     }
     notify(notice);
-    return 0;
 }
 
-std::optional<MessageAnswer> Button::repeat(const Message& message) {
-    if (message.wordParameter != repeatTimer) {
-        return std::nullopt;
+bool Button::onTimer(std::uintptr_t timer) {
+    if (timer != repeatTimer) {
+        return false;
     }
     if (GetCapture() != handle()) {
-        return loseCapture(message);
+        loseCapture();
+        return true;
     }
     const ButtonNotice notice = press_.repeat();
     if (notice == ButtonNotice::None) {
-        return 0;  // a tick that was already on its way when the timer stopped
+        return true;  // a tick that was already on its way when the timer stopped
     }
     DWORD speed = 0;
     SystemParametersInfoW(SPI_GETKEYBOARDSPEED, 0, &speed, 0);
     SetTimer(handle(), repeatTimer, repeatInterval(speed), nullptr);
     notify(notice);
-    return 0;
+    return true;
 }
 
-std::optional<MessageAnswer> Button::release(const Message& message) {
-    const POINT place{static_cast<short>(LOWORD(message.longParameter)),
-                      static_cast<short>(HIWORD(message.longParameter))};
+void Button::release(Point position) {
     const Size size = clientSize(handle());
-    const bool inside = place.x >= 0 && place.y >= 0 && place.x < size.width && place.y < size.height;
+    const bool inside =
+        position.left >= 0 && position.top >= 0 && position.left < size.width && position.top < size.height;
     const bool captured = GetCapture() == handle();
     const ButtonNotice notice = press_.release(captured, inside);
     KillTimer(handle(), repeatTimer);
@@ -188,16 +178,14 @@ std::optional<MessageAnswer> Button::release(const Message& message) {
     }
     redraw();
     notify(notice);
-    return 0;
 }
 
-std::optional<MessageAnswer> Button::loseCapture(const Message&) {
+void Button::loseCapture() {
     if (press_.isPressed()) {
         press_.cancel();
         KillTimer(handle(), repeatTimer);
         redraw();
     }
-    return 0;
 }
 
 void Button::redraw() { RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
@@ -210,23 +198,11 @@ void Button::notify(ButtonNotice notice) {
     }
 }
 
-std::optional<MessageAnswer> Button::keepBackground(const Message&) {
-    // Painting covers everything.
-    return 1;
-}
-
-std::optional<MessageAnswer> Button::paint(const Message&) {
-    const Painting painting(handle());
-    const Size size = clientSize(handle());
-    const PaintBuffer buffer(painting.context(), size);
-    const HDC context = buffer.context();
-    const LRESULT background = SendMessageW(parent(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context),
-                                            reinterpret_cast<LPARAM>(handle()));
-    const RECT whole{0, 0, size.width, size.height};
-    FillRect(context, &whole, reinterpret_cast<HBRUSH>(background));
-    drawFace(context, size);
-    buffer.show();
-    return 0;
+bool Button::onPaint() {
+    const BufferedPainting painting(handle(), parent());
+    drawFace(painting.context(), painting.size());
+    painting.show();
+    return true;
 }
 
 void Button::drawFace(DrawingContext context, Size size) const {

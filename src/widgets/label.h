@@ -19,13 +19,13 @@ protected:
     /// `style` is that of the system's static control.
     Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text, FontHandle font);
 
+    HitArea onHitTest(HitArea byClass) const override;
+
 private:
     static const WidgetClass& widgetClass();
-
-    std::optional<MessageAnswer> hear(const Message& message) const;
 };
 
-/// Text that is broken into lines at the width of its place.
+/// Text that is broken into lines at its width.
 class TextBlock : public Label {
 public:
     TextBlock(WindowHandle parent, std::uint16_t command, std::string_view text);

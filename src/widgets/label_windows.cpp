@@ -14,8 +14,7 @@ const Component::WidgetClass& Label::widgetClass() {
 }
 
 Label::Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text, FontHandle font)
-    : Component(widgetClass(), {parent, command, style, text},
-                [this](const Message& message) { return hear(message); }) {
+    : Component(widgetClass(), {parent, command, style, text}) {
     showIn(font);
     setPreferredSize(extentOf(font, wideText(label())));
 }
@@ -29,12 +28,9 @@ Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text)
 TextBlock::TextBlock(WindowHandle parent, std::uint16_t command, std::string_view text)
     : Label(parent, command, SS_LEFT | SS_NOPREFIX, text, textFont()) {}
 
-std::optional<MessageAnswer> Label::hear(const Message& message) const {
+HitArea Label::onHitTest(HitArea byClass) const {
     // The system's class lets the mouse through to the parent, and no tooltip would ever hear of it.
-    if (message.code == WM_NCHITTEST && !description().empty()) {
-        return HTCLIENT;
-    }
-    return std::nullopt;
+    return description().empty() ? byClass : HitArea::Client;
 }
 
 }  // namespace calquo

@@ -42,4 +42,25 @@ private:
     void* previous_;
 };
 
+/// The same for the whole of a child window, in memory on the background that its parent chooses, and then shown at
+/// once, so that nothing flickers.
+class BufferedPainting {
+public:
+    /// Raises InternalFault when the system has no memory for the picture.
+    BufferedPainting(WindowHandle window, WindowHandle parent);
+
+    DrawingContext context() const { return context_.get(); }
+    Size size() const { return size_; }
+
+    /// Copies the picture to the window.
+    void show() const;
+
+private:
+    Painting painting_;
+    Size size_;
+    DrawingContextOwner context_;
+    BitmapOwner bitmap_;
+    Selection selection_;
+};
+
 }  // namespace calquo

@@ -32,7 +32,7 @@ public:
     Panel(WindowHandle parent, const Creation& creation);
     ~Panel() override;
 
-    /// Makes a widget on this panel behind those that it has: a Widget(handle(), arguments...).
+    /// Makes a widget on this panel, after those that it has: a Widget(handle(), arguments...).
     template <typename Widget, typename... Arguments>
     Widget& add(Arguments&&... arguments) {
         auto widget = std::make_unique<Widget>(handle(), std::forward<Arguments>(arguments)...);
@@ -48,16 +48,22 @@ public:
     /// Places the children within the panel's present size, and theirs.
     void layOut() override;
     /// Passes the notification on to the panel's own parent, unchanged.
-    std::optional<MessageAnswer> hearChildCommand(const Message& message) override;
+    bool onCommand(const Notification& notification) override;
+    /// The panel's own, which its parent chooses, goes on below whatever stands on it.
+    std::optional<Color> backgroundOf(WindowHandle child) const override;
+
+protected:
+    bool onPaint() override;
+    bool onPaintBackground(DrawingContext) override { return paintsChildren_; }
+    bool onPaintFrame() override { return true; }  // there is none
+    bool onDrawChild(WindowHandle child, DrawingContext context, Size size) override;
 
 private:
     static const WidgetClass& widgetClass();
 
     void layOutDown(int width);
     void layOutAcross(int width);
-    void paintAll();
     void drawChildren(DrawingContext context) const;
-    std::optional<MessageAnswer> hear(const Message& message);
 
     Direction direction_;
     int margin_;

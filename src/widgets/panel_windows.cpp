@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "widgets/button.h"
-#include "widgets/paint_buffer.h"
 #include "widgets/painting.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
@@ -25,8 +24,7 @@ const Component::WidgetClass& Panel::widgetClass() {
 }
 
 Panel::Panel(WindowHandle parent, const Creation& creation)
-    : Component(widgetClass(), {parent, creation.command, styleOf(creation), {}},
-                [this](const Message& message) { return hear(message); }),
+    : Component(widgetClass(), {parent, creation.command, styleOf(creation), {}}),
       direction_(creation.direction),
       margin_((creation.style & panelMargin) != 0 ? buttonSize() / 4 : 0),
       paintsChildren_(creation.paintsChildren) {}
@@ -88,10 +86,10 @@ void Panel::drawChildren(DrawingContext context) const {
     POINT origin{};
     GetViewportOrgEx(context, &origin);
     for (const auto& child : children_) {
-        const Rectangle place = child->place();
-        SetViewportOrgEx(context, origin.x + place.left, origin.y + place.top, nullptr);
+        const Rectangle area = child->rectangle();
+        SetViewportOrgEx(context, origin.x + area.left, origin.y + area.top, nullptr);
         if (const auto* const button = dynamic_cast<const Button*>(child.get())) {
-            button->drawFace(context, {place.width, place.height});
+            button->drawFace(context, {area.width, area.height});
         } else if (const auto* const panel = dynamic_cast<const Panel*>(child.get())) {
             panel->drawChildren(context);
         }
@@ -99,55 +97,39 @@ void Panel::drawChildren(DrawingContext context) const {
     SetViewportOrgEx(context, origin.x, origin.y, nullptr);
 }
 
-void Panel::paintAll() {
+bool Panel::onPaint() {
+    if (!paintsChildren_) {
+        return false;
+    }
     // Only what is invalid is painted, and no more of the children must count as painted.
     const RegionOwner invalid(CreateRectRgn(0, 0, 0, 0));
     GetUpdateRgn(handle(), invalid.get(), FALSE);
     RedrawWindow(handle(), nullptr, invalid.get(), RDW_VALIDATE | RDW_ALLCHILDREN);
     RedrawWindow(handle(), nullptr, invalid.get(), RDW_INVALIDATE | RDW_NOCHILDREN);
-    const Painting painting(handle());
-    const Size size = clientSize(handle());
-    const PaintBuffer buffer(painting.context(), size);
-    const LRESULT background = SendMessageW(parent(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(buffer.context()),
-                                            reinterpret_cast<LPARAM>(handle()));
-    const RECT whole{0, 0, size.width, size.height};
-    FillRect(buffer.context(), &whole, reinterpret_cast<HBRUSH>(background));
-    drawChildren(buffer.context());
-    buffer.show();
+    const BufferedPainting painting(handle(), parent());
+    drawChildren(painting.context());
+    painting.show();
+    return true;
 }
 
-std::optional<MessageAnswer> Panel::hearChildCommand(const Message& message) {
-    return SendMessageW(parent(), message.code, message.wordParameter, message.longParameter);
+bool Panel::onCommand(const Notification& notification) {
+    SendMessageW(parent(), WM_COMMAND, MAKEWPARAM(notification.command, notification.code),
+                 reinterpret_cast<LPARAM>(notification.control));
+    return true;
 }
 
-std::optional<MessageAnswer> Panel::hear(const Message& message) {
-    switch (message.code) {
-        case WM_NCPAINT:
-            return 0;  // there is no frame to paint
-        case WM_ERASEBKGND:
-            return paintsChildren_ ? std::optional<MessageAnswer>(1) : std::nullopt;
-        case WM_PAINT:
-            if (paintsChildren_) {
-                paintAll();
-                return 0;
-            }
-            return std::nullopt;
-        // Whatever stands on the panel has the panel's own background, which its parent chooses.
-        case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLORBTN:
-            return SendMessageW(parent(), WM_CTLCOLORSTATIC, message.wordParameter, reinterpret_cast<LPARAM>(handle()));
-        case WM_DRAWITEM: {
-            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.longParameter);
-            Component* const child = Component::of(item.hwndItem);
-            if (child == nullptr) {
-                return std::nullopt;
-            }
-            child->draw(item.hDC, {item.rcItem.right, item.rcItem.bottom});
-            return TRUE;
-        }
-        default:
-            return std::nullopt;
+std::optional<Color> Panel::backgroundOf(WindowHandle) const {
+    const Window* const around = Window::of(parent());
+    return around == nullptr ? std::nullopt : around->backgroundOf(handle());
+}
+
+bool Panel::onDrawChild(WindowHandle child, DrawingContext context, Size size) {
+    Component* const drawn = Component::of(child);
+    if (drawn == nullptr) {
+        return false;
     }
+    drawn->draw(context, size);
+    return true;
 }
 
 }  // namespace calquo

@@ -15,6 +15,9 @@ public:
     /// the focus is; it never moves to another button.
     PushButton(WindowHandle parent, std::uint16_t command, std::string_view text, Look look);
 
+protected:
+    std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
+
 private:
     static const WidgetClass& widgetClass();
 };

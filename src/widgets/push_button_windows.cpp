@@ -16,11 +16,6 @@ constexpr int leastWidth = 80;
 constexpr int spareWidth = 24;
 constexpr int spareHeight = 12;
 
-std::optional<MessageAnswer> answerDialog(const Message& message) {
-    // Without a word of being or not being the default one, so that the system leaves the look as it is.
-    return message.code == WM_GETDLGCODE ? std::optional<MessageAnswer>(DLGC_BUTTON) : std::nullopt;
-}
-
 }  // namespace
 
 const Component::WidgetClass& PushButton::widgetClass() {
@@ -31,13 +26,17 @@ const Component::WidgetClass& PushButton::widgetClass() {
 PushButton::PushButton(WindowHandle parent, std::uint16_t command, std::string_view text, Look look)
     : Component(widgetClass(),
                 {parent, command,
-                 (look == Look::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | std::uint32_t{WS_TABSTOP}, text},
-                answerDialog) {
+                 (look == Look::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | std::uint32_t{WS_TABSTOP}, text}) {
     showIn(textFont());
     const Size written = extentOf(textFont(), wideText(label()));
-    const int dots = dotsPerInch();
+    const int dots = screenDotsPerInch();
     setPreferredSize({std::max(scaledToScreen(leastWidth, dots), written.width + scaledToScreen(spareWidth, dots)),
                       written.height + scaledToScreen(spareHeight, dots)});
+}
+
+std::optional<std::intptr_t> PushButton::onSimpleMessage(std::uint32_t message) {
+    // Without a word of being or not being the default one, so that the system leaves the look as it is.
+    return message == WM_GETDLGCODE ? std::optional<std::intptr_t>(DLGC_BUTTON) : std::nullopt;
 }
 
 }  // namespace calquo

@@ -40,8 +40,7 @@ const Selector::LookRow& Selector::rowOf(Look look) {
 }
 
 Selector::Selector(WindowHandle parent, std::uint16_t command, Look look, std::span<const std::string_view> choices)
-    : Component(rowOf(look).widgetClass, {parent, command, rowOf(look).style | WS_TABSTOP, {}}, nullptr),
-      row_(rowOf(look)) {
+    : Component(rowOf(look).widgetClass, {parent, command, rowOf(look).style | WS_TABSTOP, {}}), row_(rowOf(look)) {
     showIn(textFont());
     int widest = 0;
     for (const std::string_view choice : choices) {
@@ -52,7 +51,7 @@ Selector::Selector(WindowHandle parent, std::uint16_t command, Look look, std::s
     const int lines = std::min(static_cast<int>(choices.size()), mostLinesShown);
     const int border = 2 * GetSystemMetrics(SM_CYBORDER);
     const int list = lines * static_cast<int>(SendMessageW(handle(), row_.lineHeight, 0, 0)) + border;
-    const int width = widest + GetSystemMetrics(SM_CXVSCROLL) + scaledToScreen(spareWidth, dotsPerInch());
+    const int width = widest + GetSystemMetrics(SM_CXVSCROLL) + scaledToScreen(spareWidth, screenDotsPerInch());
     if (look == Look::ComboBox) {
         RECT closed{};
         GetWindowRect(handle(), &closed);

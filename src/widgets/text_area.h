@@ -3,8 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,30 +39,19 @@ struct StyledRun {
     CharacterStyle style;
 };
 
-/// A key that went down, with the modifier keys held at that time.
-struct KeyPress {
-    std::uint32_t key = 0;  ///< The system's virtual key.
-    bool modified = false;  ///< Shift, Control or Alt was held.
-};
-
 class TextArea : public Component {
 public:
-    /// Hears a key before the control does; true when the key has been dealt with.
-    using KeyListener = std::function<bool(const KeyPress&)>;
+    /// An empty area. What is typed looks like `normal`, wherever the caret stands. Raises InternalFault when the
+    /// control is not to be had.
+    TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);
 
-    /// An empty area. What is typed looks like `normal`, wherever the caret stands. Keys are offered to `keys` before
-    /// the control gets them, all messages but keys to `otherMessages`. Raises InternalFault when the control is not to
-    /// be had.
-    TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
-             MessageFilter otherMessages);
-
-    /// Moves the window to `place`, in pixels of the parent's client area, and keeps a margin around the text.
-    void moveTo(const Rectangle& place);
+    /// Moves the window to a rectangle in the parent's client area, and keeps a margin around the text.
+    void moveTo(const Rectangle& area);
 
     TextRange selection() const;
     void select(TextRange range);
 
-    /// The paragraph that holds `position`. It is looked for around that place, so that the rest of the text costs
+    /// The paragraph that holds `position`. It is looked for around that position, so that the rest of the text costs
     /// nothing but the control's own search for a position.
     Paragraph paragraphAt(std::int32_t position) const;
 
@@ -86,7 +73,7 @@ public:
     /// How many times the text was found to have changed since it was asked before: equal numbers mean the same text.
     std::uint32_t revision();
 
-    /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret behind it.
+    /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret after it.
     /// What it says nothing of looks normal. False, with the text as it was, when the control does not take it. Undo
     /// brings the old text back.
     bool replaceContentByRichText(std::string_view text);
@@ -96,19 +83,16 @@ public:
     /// Leaves nothing to undo or redo.
     void forgetSteps();
 
-private:
-    struct MessageRow;
-    static const MessageRow messageRows[];
+protected:
+    bool onKey(const KeyEvent& event) override;
+    bool onCharacter(wchar_t character) override;
+    std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
+private:
     /// The control's library knows the one control under two names: as "RichEdit20A" it speaks the code page, and would
     /// make an 8 of an infinity sign; as "RichEdit20W" it speaks UTF-16. Here the first name stands for the second
     /// behaviour.
     static const WidgetClass& widgetClass();
-
-    std::optional<MessageAnswer> hear(const Message& message);
-    std::optional<MessageAnswer> hearKey(const Message& message);
-    std::optional<MessageAnswer> hearCharacter(const Message& message);
-    std::optional<MessageAnswer> hearUndo(const Message& message);
 
     void chooseLook();
     void typeInNormalStyle();
@@ -120,8 +104,6 @@ private:
     bool startInNormalStyle();
 
     CharacterStyle normal_;
-    KeyListener keys_;
-    MessageFilter otherMessages_;
     std::wstring fontName_;
     std::uint32_t revision_ = 0;
     bool hasGoneBack_ = false;  ///< By undo or redo, of which the control's own mark for changes does not tell.

@@ -1,4 +1,4 @@
-// The rich edit control behind the text area.
+// The rich edit control of the text area.
 #include "widgets/text_area.h"
 
 #include <algorithm>
@@ -27,8 +27,6 @@ constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
 constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr int margin = 8;  // at 96 dots per inch
-
-bool isHeld(int key) { return GetKeyState(key) < 0; }
 
 /// Appends text to a rich text: its special characters escaped, everything beyond ASCII by number.
 void appendEscaped(std::string& richText, std::wstring_view text) {
@@ -134,7 +132,7 @@ bool fits(HWND window) {
     return last.y - first.y < client.bottom;
 }
 
-/// Shows the scroll bar in front of a text that will need it. When the bar takes its room behind the text, the control
+/// Shows the scroll bar before a text that will need it. When the bar takes its room after the text, the control
 /// breaks all lines a second time, which in Wine's takes the square of their number where some are wrapped.
 class EarlyScrollBar {
 public:
@@ -161,31 +159,15 @@ private:
 
 }  // namespace
 
-/// Which member hears which message.
-struct TextArea::MessageRow {
-    UINT code;
-    std::optional<MessageAnswer> (TextArea::*hear)(const Message&);
-};
-
-const TextArea::MessageRow TextArea::messageRows[] = {
-    {WM_KEYDOWN, &TextArea::hearKey},       {WM_SYSKEYDOWN, &TextArea::hearKey}, {WM_CHAR, &TextArea::hearCharacter},
-    {WM_SYSCHAR, &TextArea::hearCharacter}, {WM_UNDO, &TextArea::hearUndo},      {EM_UNDO, &TextArea::hearUndo},
-    {EM_REDO, &TextArea::hearUndo},
-};
-
 const Component::WidgetClass& TextArea::widgetClass() {
     static const LibraryOwner library(loadSystemLibrary(controlLibrary));
     static const WidgetClass registered = registerClass(unicodeClass, controlClass);
     return registered;
 }
 
-TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, KeyListener keys,
-                   MessageFilter otherMessages)
-    : Component(widgetClass(), {parent, command, controlStyle, {}},
-                [this](const Message& message) { return hear(message); }),
+TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal)
+    : Component(widgetClass(), {parent, command, controlStyle, {}}),
       normal_(normal),
-      keys_(std::move(keys)),
-      otherMessages_(std::move(otherMessages)),
       fontName_(installedFont(fontNames)) {
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
@@ -193,42 +175,28 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
     SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
 }
 
-std::optional<MessageAnswer> TextArea::hear(const Message& message) {
-    for (const MessageRow& row : messageRows) {
-        if (row.code == message.code) {
-            return (this->*row.hear)(message);
-        }
-    }
-    return otherMessages_ ? otherMessages_(message) : std::nullopt;
-}
-
-std::optional<MessageAnswer> TextArea::hearKey(const Message& message) {
+bool TextArea::onKey(const KeyEvent& event) {
     // The keys of the menu are the top-level window's, although the control would keep them.
-    const bool menuKey = message.wordParameter == VK_MENU || message.wordParameter == VK_F10;
-    if (menuKey && message.code == WM_SYSKEYDOWN) {
-        return SendMessageW(GetAncestor(handle(), GA_ROOT), message.code, message.wordParameter, message.longParameter);
+    const bool menuKey = event.system && !event.released && (event.key == VK_MENU || event.key == VK_F10);
+    if (menuKey) {
+        passToTopLevel(event);
     }
-    const bool modified = isHeld(VK_SHIFT) || isHeld(VK_CONTROL) || isHeld(VK_MENU);
-    const bool undoes =
-        message.wordParameter == 'Z' || message.wordParameter == 'Y' || message.wordParameter == VK_BACK;
-    hasGoneBack_ = hasGoneBack_ || (modified && undoes);
-    if (keys_ && keys_({static_cast<std::uint32_t>(message.wordParameter), modified})) {
-        return 0;
-    }
-    return std::nullopt;
+    const bool undoes = event.key == 'Z' || event.key == 'Y' || event.key == VK_BACK;
+    hasGoneBack_ = hasGoneBack_ || (undoes && (event.shift || event.control || event.alt));
+    return menuKey;
 }
 
-std::optional<MessageAnswer> TextArea::hearCharacter(const Message& message) {
+bool TextArea::onCharacter(wchar_t character) {
     // The Enter key has done its work when it went down.
-    if (message.wordParameter == L'\r' || message.wordParameter == L'\n') {
-        return 0;
+    if (character == L'\r' || character == L'\n') {
+        return true;
     }
     typeInNormalStyle();
-    return std::nullopt;
+    return false;
 }
 
-std::optional<MessageAnswer> TextArea::hearUndo(const Message&) {
-    hasGoneBack_ = true;
+std::optional<std::intptr_t> TextArea::onSimpleMessage(std::uint32_t message) {
+    hasGoneBack_ = hasGoneBack_ || message == WM_UNDO || message == EM_UNDO || message == EM_REDO;
     return std::nullopt;
 }
 
@@ -248,13 +216,13 @@ void TextArea::typeInNormalStyle() {
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
-void TextArea::moveTo(const Rectangle& place) {
-    if (place == this->place()) {
+void TextArea::moveTo(const Rectangle& area) {
+    if (area == rectangle()) {
         return;  // the control breaks its lines anew for every rectangle
     }
-    Component::moveTo(place);
-    const int space = scaledToScreen(margin, dotsPerInch());
-    RECT inside{space, space, place.width - space, place.height - space};
+    Component::moveTo(area);
+    const int space = scaledToScreen(margin, screenDotsPerInch());
+    RECT inside{space, space, area.width - space, area.height - space};
     SendMessageW(handle(), EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
 }
 
@@ -288,14 +256,14 @@ Paragraph TextArea::paragraphAt(std::int32_t position) const {
         const std::wstring around = charactersIn({static_cast<std::int32_t>(begin), static_cast<std::int32_t>(end)});
         const std::size_t split = static_cast<std::size_t>(position - begin);
         const std::size_t endBefore = split == 0 ? std::wstring::npos : around.rfind(L'\r', split - 1);
-        const std::size_t endBehind = around.find(L'\r', split);
+        const std::size_t endAfter = around.find(L'\r', split);
         const bool reachesBack = endBefore != std::wstring::npos || begin == 0;
-        const bool reachesOn = endBehind != std::wstring::npos || begin + std::ssize(around) < end;
+        const bool reachesOn = endAfter != std::wstring::npos || begin + std::ssize(around) < end;
         if (!reachesBack || !reachesOn) {
             continue;
         }
         const std::size_t first = endBefore == std::wstring::npos ? 0 : endBefore + 1;
-        const std::size_t last = std::min(endBehind, around.size());
+        const std::size_t last = std::min(endAfter, around.size());
         const auto start = static_cast<std::int32_t>(begin);
         return {{start + static_cast<std::int32_t>(first), start + static_cast<std::int32_t>(last)},
                 around.substr(first, last - first)};

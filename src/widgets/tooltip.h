@@ -3,12 +3,13 @@
 
 #include <string_view>
 
-#include "widgets/component.h"
+#include "widgets/geometry.h"
+#include "widgets/handles.h"
 
 namespace calquo {
 
 /// A tooltip that shows `description` over the whole of the window `widget`; empty where the system cannot make one.
-/// It watches the messages of the window from then on; `first` is the one that came before.
-WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const Message& first);
+/// It watches the messages of the window from then on; `mouse` is where the mouse has come to in the window before.
+WindowOwner makeTooltip(WindowHandle widget, std::string_view description, Point mouse);
 
 }  // namespace calquo

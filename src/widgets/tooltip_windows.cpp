@@ -26,7 +26,7 @@ bool isNewTechnologySystem() { return (GetVersion() & 0x80000000) == 0; }
 
 }  // namespace
 
-WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const Message& first) {
+WindowOwner makeTooltip(WindowHandle widget, std::string_view description, Point mouse) {
     static const bool ready = isNewTechnologySystem() && prepareControl();
     if (!ready) {
         return {};
@@ -45,9 +45,8 @@ WindowOwner makeTooltip(WindowHandle widget, std::string_view description, const
     SendMessageW(tooltip.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     MSG relayed{};
     relayed.hwnd = widget;
-    relayed.message = first.code;
-    relayed.wParam = first.wordParameter;
-    relayed.lParam = first.longParameter;
+    relayed.message = WM_MOUSEMOVE;
+    relayed.lParam = MAKELPARAM(mouse.left, mouse.top);
     SendMessageW(tooltip.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
     return tooltip;
 }

@@ -50,19 +50,20 @@ public:
     void undo();
     void redo();
 
-    /// Puts text in front of and behind a range of `line`, whose characters stay as they are, and the caret at `caret`,
+    /// Puts text before and after a range of `line`, whose characters stay as they are, and the caret at `caret`,
     /// an offset in the changed line. One step for undo.
     void surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
                   std::size_t caret);
     /// Puts text in place of a range of `line`, and the caret as above. One step for undo.
     void replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret);
 
+protected:
+    bool onKey(const KeyEvent& event) override;
+    std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
+
 private:
     struct KeyRow;
     static const KeyRow keyRows[];
-
-    bool hearKey(const KeyPress& press);
-    std::optional<MessageAnswer> hearQuery(const Message& message) const;
 
     void evaluate();
     void evaluateIntoSelection();

@@ -70,28 +70,23 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
 };
 
 WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format)
-    : TextArea(
-          parent, command, normalStyle, [this](const KeyPress& press) { return hearKey(press); },
-          [this](const Message& message) { return hearQuery(message); }),
-      helpCommand_(helpCommand),
-      format_(std::move(format)) {}
+    : TextArea(parent, command, normalStyle), helpCommand_(helpCommand), format_(std::move(format)) {}
 
-bool WorkArea::hearKey(const KeyPress& press) {
-    for (const KeyRow& row : keyRows) {
-        if (row.key != press.key || !fits(row.modifiers, press.modified)) {
-            continue;
-        }
-        (this->*row.act)();
-        return true;
+bool WorkArea::onKey(const KeyEvent& event) {
+    const bool modified = event.shift || event.control || event.alt;
+    const auto* const row = std::ranges::find_if(keyRows, [&](const KeyRow& candidate) {
+        return !event.released && candidate.key == event.key && fits(candidate.modifiers, modified);
+    });
+    if (row == std::end(keyRows)) {
+        return TextArea::onKey(event);
     }
-    return false;
+    (this->*row->act)();
+    return true;
 }
 
-std::optional<MessageAnswer> WorkArea::hearQuery(const Message& message) const {
-    if (message.code != resultReplaceQuery) {
-        return std::nullopt;
-    }
-    return resultReplaces_ ? 1 : 0;
+std::optional<std::intptr_t> WorkArea::onSimpleMessage(std::uint32_t message) {
+    return message == resultReplaceQuery ? std::optional<std::intptr_t>(resultReplaces_ ? 1 : 0)
+                                         : TextArea::onSimpleMessage(message);
 }
 
 void WorkArea::evaluate() {
@@ -101,7 +96,9 @@ void WorkArea::evaluate() {
     if (SendMessageW(handle(), resultReplaceQuery, 0, 0) == 0) {
         apply(line, editAfterEnter(text, format_()));
     } else {
-        const auto offset = [&](std::int32_t place) { return static_cast<std::size_t>(place - line.range.begin); };
+        const auto offset = [&](std::int32_t position) {
+            return static_cast<std::size_t>(position - line.range.begin);
+        };
         apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_()));
     }
 }
@@ -116,8 +113,8 @@ void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0
 CurrentLine WorkArea::currentLine() const {
     const TextRange selected = selection();
     const Paragraph line = paragraphAt(selected.begin);
-    const auto offset = [&](std::int32_t place) {
-        return static_cast<std::size_t>(std::clamp(place, line.range.begin, line.range.end) - line.range.begin);
+    const auto offset = [&](std::int32_t position) {
+        return static_cast<std::size_t>(std::clamp(position, line.range.begin, line.range.end) - line.range.begin);
     };
     return {languageText(line.text), line.range.begin, offset(selected.begin), offset(selected.end)};
 }
@@ -141,15 +138,15 @@ void WorkArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
 
 void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
                         std::size_t caret) {
-    const auto place = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
-    const TextRange inside{place(range.begin), place(range.end)};
+    const auto positionOf = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
+    const TextRange inside{positionOf(range.begin), positionOf(range.end)};
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
-    replace(inside, {{text, normalStyle}}, place(caret));
+    replace(inside, {{text, normalStyle}}, positionOf(caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
-    const auto place = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
-    replace({place(range.begin), place(range.end)}, {{controlText(text), normalStyle}}, place(caret));
+    const auto positionOf = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
+    replace({positionOf(range.begin), positionOf(range.end)}, {{controlText(text), normalStyle}}, positionOf(caret));
 }
 
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
@@ -158,8 +155,8 @@ void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
     }
     std::vector<StyledRun> runs(edit.pieces.size());
     std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
-    const auto place = [&](std::size_t offset) { return line.range.begin + static_cast<std::int32_t>(offset); };
-    replace({place(edit.begin), place(edit.end)}, runs, place(edit.caret));
+    const auto positionOf = [&](std::size_t offset) { return line.range.begin + static_cast<std::int32_t>(offset); };
+    replace({positionOf(edit.begin), positionOf(edit.end)}, runs, positionOf(edit.caret));
 }
 
 }  // namespace calquo

@@ -92,7 +92,7 @@ private:
 };
 
 std::string press(std::uint16_t panel, const PanelButton& button, const Drawing& line, AngleOption angle = {}) {
-    return std::visit(Pressed(line), actionOf(panel, button, {line.text, line.begin, line.end}, angle));
+    return std::visit(Pressed(line), actionOf(*findPanel(panel), button, {line.text, line.begin, line.end}, angle));
 }
 
 struct ActionRow {
@@ -283,7 +283,7 @@ TEST(EveryButton, OfAKeypadTypesATokenOrEdits) {
         if (panel.group != PanelGroup::Keypads) {
             return;
         }
-        const ButtonAction action = actionOf(panel.identifier, button, {"255 '2", 1, 1}, None);
+        const ButtonAction action = actionOf(panel, button, {"255 '2", 1, 1}, None);
         if (const auto* const typing = std::get_if<TypeCharacters>(&action)) {
             EXPECT_TRUE(isToken(typing->characters));
             EXPECT_EQ(button.label, button.symbol == Symbol::Space ? "" : typing->characters);

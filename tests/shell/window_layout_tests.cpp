@@ -1,4 +1,4 @@
-// The place of the main window on one screen or several.
+// The rectangle of the main window on one screen or several.
 #include "shell/window_layout.h"
 
 #include <gtest/gtest.h>
@@ -8,13 +8,13 @@
 namespace calquo {
 namespace {
 
-TEST(WindowPlace, OnlyAnUnreachableOneIsMoved) {
+TEST(WindowRectangle, OnlyAnUnreachableOneIsMoved) {
     constexpr Size smallest{200, 100};
-    const std::vector<Rectangle> screens = {{0, 0, 1000, 800}, {1000, 0, 500, 400}};
+    const std::vector<Rectangle> usableAreas = {{0, 0, 1000, 800}, {1000, 0, 500, 400}};
     constexpr Rectangle middle{250, 200, 500, 400};
     constexpr int largest = std::numeric_limits<int>::max();
     struct Row {
-        Rectangle wanted, place;
+        Rectangle wanted, result;
     };
     const Row rows[] = {
         {{10, 10, 300, 200}, {10, 10, 300, 200}},
@@ -29,9 +29,13 @@ TEST(WindowPlace, OnlyAnUnreachableOneIsMoved) {
         {{10, 10, -300, -200}, middle},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(reachablePlace(row.wanted, smallest, screens), row.place)
+        EXPECT_EQ(reachableRectangle(row.wanted, smallest, usableAreas), row.result)
             << row.wanted.left << "," << row.wanted.top << " " << row.wanted.width << "x" << row.wanted.height;
     }
+}
+
+TEST(WindowRectangle, MaximizedFillsTheUsableAreaWithOnePixelOfItsFrame) {
+    EXPECT_EQ(maximizedRectangle({100, 40, 1000, 760}, {-4, -5, 8, 10}), (Rectangle{97, 36, 1006, 768}));
 }
 
 }  // namespace

@@ -22,16 +22,16 @@ HWND buttonOf(const Program& program, unsigned panel, std::string_view name) {
     });
 }
 
-/// What a button of a group puts around the selection, behind its name.
-struct Surroundings {
+/// What a button of a group puts around the selection, after its name.
+struct Affixes {
     std::string_view before, after;
 };
 
-Surroundings surroundingsOf(PanelGroup group, std::string_view name) {
+Affixes affixesOf(PanelGroup group, std::string_view name) {
     struct Row {
         PanelGroup group;
         std::string_view names;  ///< Empty for all others of the group.
-        Surroundings surroundings;
+        Affixes affixes;
     };
     using enum PanelGroup;
     static constexpr Row rows[] = {
@@ -53,7 +53,7 @@ Surroundings surroundingsOf(PanelGroup group, std::string_view name) {
     const auto* const found = std::ranges::find_if(rows, [&](const Row& row) {
         return row.group == group && (row.names.empty() || row.names.find(word) != std::string_view::npos);
     });
-    return found->surroundings;
+    return found->affixes;
 }
 
 /// What a button makes of "1+30*2" with "30" selected; "|" is the caret.
@@ -79,7 +79,7 @@ std::string expectedOf(PanelGroup group, const Button& button) {
         const bool asksForBase = label.size() > 1 && label.front() == '\'';
         return label == "10" ? "1+30|*2" : asksForBase ? "1+30|*2 " + label : "1+" + label + "|*2";
     }
-    const auto [before, after] = surroundingsOf(group, label);
+    const auto [before, after] = affixesOf(group, label);
     const std::string name = label == "inHg" ? "inchHg" : label;
     return "1+ " + name + std::string(before) + "30" + std::string(after) + " *2";
 }

@@ -13,23 +13,32 @@
 namespace calquo {
 namespace {
 
+/// Fails at two messages of its own.
+class FailingArea : public TextArea {
+public:
+    FailingArea(WindowHandle parent, std::string& heard) : TextArea(parent, 1, {}), heard_(heard) {}
+
+protected:
+    std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override {
+        if (message == WM_APP) {
+            throw Except{ErrorCode::NoSolution};
+        }
+        if (message == WM_APP + 1) {
+            throw std::runtime_error("second");
+        }
+        heard_ += message == WM_APP + 2 ? "went on; " : "";
+        return std::nullopt;
+    }
+
+private:
+    std::string& heard_;
+};
+
 TEST(MessageLoop, ReportsAnExceptionOfOneMessageAndGoesOn) {
     const WindowOwner top(
         CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr));
     std::string heard;
-    const auto fail = [&](const Message& message) -> std::optional<MessageAnswer> {
-        if (message.code == WM_APP) {
-            throw Except{ErrorCode::NoSolution};
-        }
-        if (message.code == WM_APP + 1) {
-            throw std::runtime_error("second");
-        }
-        if (message.code == WM_APP + 2) {
-            heard += "went on; ";
-        }
-        return std::nullopt;
-    };
-    const TextArea area(top.get(), 1, {}, nullptr, fail);
+    const FailingArea area(top.get(), heard);
     for (const UINT code : {WM_APP, WM_APP + 1, WM_APP + 2}) {
         PostMessageW(area.handle(), code, 0, 0);
     }

@@ -12,8 +12,8 @@
 #include "program.h"
 #include "resources.h"
 #include "widgets/button.h"
+#include "widgets/check_box.h"
 #include "widgets/label.h"
-#include "widgets/radio_button.h"
 #include "widgets/selector.h"
 #include "widgets/text_area.h"
 #include "widgets/toolkit.h"
@@ -358,22 +358,30 @@ bool hasScrollBar(const Component& component) {
     return (GetWindowLongW(component.handle(), GWL_STYLE) & WS_VSCROLL) != 0;
 }
 
+/// Notes the length of its text whenever something takes room from its client area.
+class NotingArea : public TextArea {
+public:
+    using TextArea::TextArea;
+
+    std::vector<LRESULT> lengths;
+
+protected:
+    bool onMoved() override {
+        if (const int width = sizeOf(handle()).width; std::exchange(width_, width) > width) {
+            lengths.push_back(SendMessageW(handle(), WM_GETTEXTLENGTH, 0, 0));
+        }
+        return false;
+    }
+
+private:
+    int width_ = 0;
+};
+
 TEST(TextArea, HasItsScrollBarBeforeALongTextIsBrokenIntoLines) {
     const Program program;
     const std::string hidden = "{\\rtf1{\\info " + std::string(50'000, 'x') + "}2+3}";
-    int width = 0;
-    std::vector<LRESULT> lengths;  // of the text, when the bar took its room
-    const auto noteRoom = [&](const Message& message) -> std::optional<MessageAnswer> {
-        if (const HWND window = FindWindowExW(program.handle(), program.workArea(), L"RichEdit20A", nullptr);
-            message.code == WM_WINDOWPOSCHANGED && sizeOf(window).width < width) {
-            width = sizeOf(window).width;
-            lengths.push_back(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
-        }
-        return std::nullopt;
-    };
-    TextArea area(program.handle(), 1, {}, nullptr, noteRoom);
+    NotingArea area(program.handle(), 1, {});
     area.moveTo({0, 0, 300, 200});
-    width = sizeOf(area.handle()).width;
     std::wstring text;
     for (int line = 0; line < 5000; ++line) {
         text += L"2+3*4 = 14\r";
@@ -381,8 +389,8 @@ TEST(TextArea, HasItsScrollBarBeforeALongTextIsBrokenIntoLines) {
     EXPECT_FALSE(hasScrollBar(area));
     EXPECT_TRUE(area.replaceContentByPlainText(text));
     EXPECT_TRUE(hasScrollBar(area));
-    EXPECT_EQ(lengths, std::vector<LRESULT>{0});
-    TextArea other(program.handle(), 1, {}, nullptr, nullptr);
+    EXPECT_EQ(area.lengths, std::vector<LRESULT>{0});
+    TextArea other(program.handle(), 1, {});
     other.moveTo({0, 0, 300, 200});
     EXPECT_TRUE(other.replaceContentByRichText(hidden));
     EXPECT_FALSE(hasScrollBar(other)) << "many bytes that show little";
