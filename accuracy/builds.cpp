@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 namespace calquo {
 
@@ -25,7 +26,7 @@ std::vector<std::vector<std::string>> ask(const Session& session, const std::vec
         const std::string command =
             build.command + " --word " + digits + " <'" + asked.string() + "' >'" + answered.string() + "'";
         const int status = std::system(command.c_str());
-        std::vector<std::string>& ofBuild = answers.emplace_back();
+        std::vector<std::string> ofBuild;
         std::ifstream file(answered);
         for (std::string answer; std::getline(file, answer);) {
             if (answer.ends_with('\r')) {
@@ -36,6 +37,7 @@ std::vector<std::vector<std::string>> ask(const Session& session, const std::vec
         if (status != 0 || ofBuild.size() != lines.size()) {
             throw std::runtime_error("not every line is answered by " + build.command);
         }
+        answers.push_back(std::move(ofBuild));
     }
     return answers;
 }

@@ -135,7 +135,7 @@ Exact pow(const Exact& z, const Exact& w) {
     if (z.isReal() && z.re.isZero()) {
         return Real(0);
     }
-    const Exact power = exp(ln(z) * w);
+    Exact power = exp(ln(z) * w);
     if (z.isReal() && z.re.sign() < 0 && w.isReal() && isWhole(w.re)) {
         // The imaginary part keeps what rounding leaves of k pi.
         return {power.re, abs(power.re) * sin(Tracked(pi * mpfr_get_ld(w.re.get(), MPFR_RNDN)))};

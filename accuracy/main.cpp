@@ -52,23 +52,29 @@ private:
     std::filesystem::path path_;
 };
 
+/// Takes the value of an option. False for an option that there is not.
+bool setOption(Session& session, const std::string& option, const char* value) {
+    if (option == "--count") {
+        session.count = static_cast<int>(std::strtol(value, nullptr, 10));
+    } else if (option == "--seed") {
+        session.seed = std::strtoull(value, nullptr, 10);
+    } else if (option == "--only") {
+        session.only = value;
+    } else if (option == "--folder") {
+        session.folder = value;
+    } else {
+        return false;
+    }
+    return true;
+}
+
 bool readArguments(int count, char** arguments, Session& session) {
     for (int i = 2; i < count; ++i) {
         const std::string argument = arguments[i];
         const std::size_t equals = argument.find('=');
         if (!argument.starts_with("--") && equals != std::string::npos) {
             session.builds.push_back({argument.substr(0, equals), argument.substr(equals + 1)});
-        } else if (const char* value = i + 1 < count ? arguments[++i] : nullptr; value == nullptr) {
-            return false;
-        } else if (argument == "--count") {
-            session.count = std::atoi(value);
-        } else if (argument == "--seed") {
-            session.seed = std::strtoull(value, nullptr, 10);
-        } else if (argument == "--only") {
-            session.only = value;
-        } else if (argument == "--folder") {
-            session.folder = value;
-        } else {
+        } else if (++i == count || !setOption(session, argument, arguments[i])) {
             return false;
         }
     }

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 #include <variant>
 
 #include "builds.h"
@@ -280,12 +281,13 @@ bool measureFunctions(const Session& session) {
     std::vector<std::vector<Question>> questions;
     std::vector<std::string> lines;
     for (const MeasuredFunction& function : measuredFunctions()) {
-        std::vector<Question>& ofRow = questions.emplace_back();
+        std::vector<Question> ofRow;
         const bool isWanted = session.only.empty() || session.only == function.name;
         for (int i = 0; isWanted && i < session.count; ++i) {
             ofRow.push_back(questionFor(function, random));
             lines.push_back(ofRow.back().line + " '16");
         }
+        questions.push_back(std::move(ofRow));
     }
     const auto answers = ask(session, lines, losslessWord);
     printHeading(session, "function | arguments", "worst argument");

@@ -63,7 +63,7 @@ private:
     /// Takes over a rounded result with the error that its operands bring into it; `ternary` is MPFR's.
     Tracked& settle(int ternary, long broughtIn);
 
-    mpfr_t number_;
+    mpfr_t number_{};
     long error_ = 0;
 };
 
