@@ -122,7 +122,7 @@ void DigitBuffer::increment(std::uint32_t base) {
             return;
         }
     }
-    // Every digit was the highest one: all are 0 now, and a 1 goes ahead of them.
+    // Every digit was the highest one: all are 0 now, and a 1 goes before them.
     characters_[length_] = '0';
     ++length_;
     characters_[0] = '1';

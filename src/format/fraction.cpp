@@ -39,13 +39,8 @@ Fraction closestFraction(Real x, UInt128 limit) {
     // The first step: x = mantissa / 2^scale lies between 1 / (quotient + 1) and 1 / quotient.
     const Quotient first = dividePowerOfTwo(scale, bits.mantissa);
     if (first.quotient > limit) {
-        // 0 or 1 / limit: x is above half of that when 2 limit x > 1.
-        const UInt128 upper = multiplyHigh(shiftLeft(limit, 1), {0, bits.mantissa});
-        const UInt128 lower = multiplyLow(shiftLeft(limit, 1), {0, bits.mantissa});
-        const UInt128 one = shiftLeft({0, 1}, scale < 128 ? scale : scale - 128);
-        const bool above =
-            scale < 128 ? upper != UInt128{} || lower > one : upper > one || (upper == one && lower != UInt128{});
-        return above ? Fraction{{0, 1}, limit} : Fraction{};
+        // 0 or 1 / limit, whichever is closer.
+        return shiftLeft(limit, 1) > first.quotient ? Fraction{{0, 1}, limit} : Fraction{};
     }
     // Two successive remainders; each is how far a convergent lies from x, times its denominator and 2^scale.
     UInt128 whole = {0, bits.mantissa};
