@@ -93,7 +93,7 @@ TEST(KnownFiles, AFileIsSkippedReplacedOrKept) {
         ProgramRun run;
         row.before(run);
         const bool isKept = std::string_view(row.backup) != "(none)";
-        EXPECT_EQ(run.save(5, "new"), isKept ? kept : L"");
+        EXPECT_EQ(run.save(5, "new"), isKept ? kept : std::wstring());
         EXPECT_EQ(run.disk.bytes(name), row.left);
         EXPECT_EQ(run.disk.bytes(kept), row.backup);
         EXPECT_EQ(run.save(5, "never"), L"");
