@@ -59,18 +59,18 @@ Size About::build() {
     const int left = picture.left + picture.width + scaled(besidePicture);
     int top = picture.top;
     int right = left;
-    const auto place = [&](Component& widget, int distance) {
+    const auto addLine = [&](Component& widget, int distance) {
         const Size size = widget.preferredSize();
         // Into the margin: some systems write a text a little longer than they measure it.
         widget.moveTo({left, top, size.width + scaled(margin) / 2, size.height});
         top += size.height + scaled(distance);
         right = std::max(right, left + size.width);
     };
-    place(panel_->add<Label>(none, programName, headingFont()), betweenLines);
-    place(panel_->add<Label>(none, std::string("Version ") + programVersion), betweenParagraphs);
-    place(panel_->add<Label>(none, "A scientific calculator in which you write as on paper:"), betweenLines);
-    place(panel_->add<Label>(none, "what you type and what comes out stay in one text."), betweenParagraphs);
-    place(panel_->add<Label>(none, makersSite), betweenParagraphs);
+    addLine(panel_->add<Label>(none, programName, headingFont()), betweenLines);
+    addLine(panel_->add<Label>(none, std::string("Version ") + programVersion), betweenParagraphs);
+    addLine(panel_->add<Label>(none, "A scientific calculator in which you write as on paper:"), betweenLines);
+    addLine(panel_->add<Label>(none, "what you type and what comes out stay in one text."), betweenParagraphs);
+    addLine(panel_->add<Label>(none, makersSite), betweenParagraphs);
 
     const auto& button = panel_->add<PushButton>(closeCommand, "Close", PushButton::Look::Default);
     const Size size = button.preferredSize();

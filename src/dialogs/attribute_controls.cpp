@@ -7,7 +7,7 @@
 namespace calquo {
 namespace {
 
-/// The label as it is shown, without the mark of its key.
+/// The label as it is shown, without the "&" of its key.
 std::string shownLabel(const Attribute& attribute) {
     std::string shown(attribute.label);
     std::erase(shown, '&');

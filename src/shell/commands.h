@@ -7,7 +7,6 @@
 #include "dialogs/about.h"
 #include "dialogs/format_dialog.h"
 #include "shell/file_commands.h"
-#include "shell/help.h"
 #include "shell/main_menu.h"
 #include "shell/open_panels.h"
 #include "shell/settings.h"
@@ -63,7 +62,6 @@ private:
     void exit(std::uint16_t identifier);
 
     CommandTargets targets_;
-    Help help_;
     FormatDialog formatDialog_;
     About about_;
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shell/command_ids.h"
+#include "shell/help.h"
 #include "shell/menu_marks.h"
 #include "widgets/windows_api.h"
 
@@ -131,7 +132,7 @@ void Commands::resetFormats(std::uint16_t) {
 
 void Commands::showAbout(std::uint16_t) { targets_.keepFocusIn(about_.open(targets_.workArea.handle())); }
 
-void Commands::openHelp(std::uint16_t) { help_.open(targets_.window, helpFile(), displayTopic, 0); }
+void Commands::openHelp(std::uint16_t) { showHelp(targets_.window); }
 
 void Commands::exit(std::uint16_t) { SendMessageW(targets_.window, WM_CLOSE, 0, 0); }
 

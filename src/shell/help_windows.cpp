@@ -1,35 +1,48 @@
-// The HTML Help control as the system has it.
+// The HTML Help control as the system has it, and the help file.
 #include "shell/help.h"
 
 #include <array>
+#include <optional>
+#include <string>
 
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
 
-class SystemLibraries : public HelpLibraries {
-public:
-    std::optional<std::wstring> registeredPath() override {
-        std::array<wchar_t, MAX_PATH> path{};
-        DWORD size = sizeof path;
-        const LSTATUS status =
-            RegGetValueW(HKEY_CLASSES_ROOT, L"CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32", nullptr,
-                         RRF_RT_REG_SZ, nullptr, path.data(), &size);
-        return status == ERROR_SUCCESS ? std::optional<std::wstring>(path.data()) : std::nullopt;
-    }
+constexpr wchar_t helpFileName[] = L"Calquo2.chm";
+constexpr wchar_t usualLibrary[] = L"hhctrl.ocx";
+constexpr wchar_t registeredLibrary[] = L"CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32";
 
-    ModuleHandle load(const std::wstring& path) override { return LoadLibraryW(path.c_str()); }
-
-    EntryPoint entryPoint(ModuleHandle library, std::uint16_t ordinal) override {
-        return reinterpret_cast<EntryPoint>(GetProcAddress(library, MAKEINTRESOURCEA(ordinal)));
-    }
-};
-
+/// The control's two functions: with texts in the system's code page, and in UTF-16.
+constexpr WORD ansiOrdinal = 14;
+constexpr WORD wideOrdinal = 15;
 using AnsiHelp = HWND(WINAPI*)(HWND owner, const char* file, UINT command, DWORD_PTR data);
 using WideHelp = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DWORD_PTR data);
 
-/// The text in the system's code page; nothing when a character has no place there.
+/// Shows the table of contents and the default topic of a help file; takes no data.
+constexpr UINT displayTopic = 0;
+
+/// The registered library, or the one of the usual name when that is not registered or does not load, for the rest of
+/// the program's run; null when the system has no help.
+HMODULE loadControl() {
+    std::array<wchar_t, MAX_PATH> path{};
+    DWORD size = sizeof path;
+    const bool isRegistered = RegGetValueW(HKEY_CLASSES_ROOT, registeredLibrary, nullptr, RRF_RT_REG_SZ, nullptr,
+                                           path.data(), &size) == ERROR_SUCCESS;
+    const HMODULE registered = isRegistered ? LoadLibraryW(path.data()) : nullptr;
+    return registered != nullptr ? registered : LoadLibraryW(usualLibrary);
+}
+
+/// A function of the control, null when the system has none.
+template <typename Function>
+Function find(WORD ordinal) {
+    static const HMODULE control = loadControl();
+    const FARPROC found = control == nullptr ? nullptr : GetProcAddress(control, MAKEINTRESOURCEA(ordinal));
+    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(found));
+}
+
+/// The text in the system's code page; nothing when it has no such character.
 std::optional<std::string> ansiText(const std::wstring& text) {
     const int length = static_cast<int>(text.size());
     BOOL lost = FALSE;
@@ -41,27 +54,29 @@ std::optional<std::string> ansiText(const std::wstring& text) {
     return lost == FALSE ? std::optional(narrow) : std::nullopt;
 }
 
-}  // namespace
-
-WindowHandle Help::open(WindowHandle owner, const std::wstring& file, std::uint32_t command, std::uintptr_t data) {
-    SystemLibraries libraries;
-    if (const std::optional<std::string> narrow = ansiText(file)) {
-        const auto show = reinterpret_cast<AnsiHelp>(ansi_.find(libraries));
-        return show == nullptr ? nullptr : show(owner, narrow->c_str(), command, data);
-    }
-    const auto show = reinterpret_cast<WideHelp>(wide_.find(libraries));
-    return show == nullptr ? nullptr : show(owner, file.c_str(), command, data);
-}
-
+/// The help file's full path: the control looks for a bare name in the current folder.
 std::wstring helpFile() {
     std::wstring program(MAX_PATH, L'\0');
-    for (;;) {
-        const DWORD length = GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
-        if (length < program.size()) {
-            program.resize(length);
-            return helpFileBeside(program);
-        }
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()))) ==
+           program.size()) {
         program.resize(program.size() * 2);
+    }
+    program.resize(length);
+    return program.substr(0, program.find_last_of(L"\\/") + 1) + helpFileName;
+}
+
+}  // namespace
+
+void showHelp(WindowHandle owner) {
+    const std::wstring file = helpFile();
+    // Paths that the code page cannot express go to the function that takes UTF-16.
+    if (const std::optional<std::string> narrow = ansiText(file)) {
+        if (const auto show = find<AnsiHelp>(ansiOrdinal)) {
+            show(owner, narrow->c_str(), displayTopic, 0);
+        }
+    } else if (const auto show = find<WideHelp>(wideOrdinal)) {
+        show(owner, file.c_str(), displayTopic, 0);
     }
 }
 

@@ -22,7 +22,7 @@ public:
     /// Shows the whole menu with its top left corner at `corner`, a point of the screen, until the user has chosen or
     /// dismissed it; the choice is posted to `owner` as its command. Alt+F4 closes the owner from here as well.
     void open(WindowHandle owner, Point corner) const;
-    /// Shows one of its submenus by its place in the menu.
+    /// Shows one of its submenus by its index in the menu.
     void openSubmenu(std::size_t index, WindowHandle owner, Point corner) const;
 
 private:

@@ -59,8 +59,8 @@ void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu,
 
 /// Alt opens the menu as it goes down. When F4 follows, the user meant the window; when Alt is held, it repeats itself,
 /// which would close the menu.
-LRESULT CALLBACK hearAltInMenu(int code, WPARAM wordParameter, LPARAM longParameter) {
-    const MSG& message = *reinterpret_cast<const MSG*>(longParameter);
+LRESULT CALLBACK onKeyInMenu(int code, WPARAM wParam, LPARAM lParam) {
+    const MSG& message = *reinterpret_cast<const MSG*>(lParam);
     if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN) {
         if (message.wParam == VK_F4) {
             EndMenu();
@@ -71,11 +71,11 @@ LRESULT CALLBACK hearAltInMenu(int code, WPARAM wordParameter, LPARAM longParame
             return 1;
         }
     }
-    return CallNextHookEx(nullptr, code, wordParameter, longParameter);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 void track(HMENU menu, HWND owner, Point corner) {
-    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, hearAltInMenu, nullptr, GetCurrentThreadId());
+    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, onKeyInMenu, nullptr, GetCurrentThreadId());
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, corner.left, corner.top, 0, owner, nullptr);
     UnhookWindowsHookEx(hook);
 }

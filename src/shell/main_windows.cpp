@@ -16,8 +16,8 @@ constexpr int noWindow = 2;
 
 int runProgram(int showCommand) {
     using namespace calquo;
-    std::optional<RunningMark> mark(std::in_place);
-    if (!mark->isFirst()) {
+    std::optional<InstanceMutex> instance(std::in_place);
+    if (!instance->isFirst()) {
         return bringRunningProgramForward() ? broughtForward : noWindow;
     }
     RegistryStorage registry;
@@ -29,7 +29,7 @@ int runProgram(int showCommand) {
     // Painted at once, in front of everything that waits in the queue by now.
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const int code = runMessageLoop(reportSpecialCase);
-    mark.reset();
+    instance.reset();
     settings.saveAll();
     return code;
 }

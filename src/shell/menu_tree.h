@@ -17,7 +17,7 @@ struct MenuEntry {
     std::vector<MenuEntry> children{};  ///< Of a submenu alone.
 };
 
-/// The places in the main menu of the submenus that have buttons of their own in the caption strip.
+/// The indices in the main menu of the submenus that have buttons of their own in the caption strip.
 inline constexpr std::size_t buttonsSubmenu = 1;
 inline constexpr std::size_t helpSubmenu = 3;
 

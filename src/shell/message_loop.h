@@ -9,7 +9,7 @@ namespace calquo {
 /// given to `report`, which finds it in flight, and the loop goes on.
 int runMessageLoop(const std::function<void()>& report);
 
-/// Tells the user that something went wrong without a place of its own to say so.
+/// Tells the user that something went wrong that nothing else has told.
 void reportSpecialCase();
 
 }  // namespace calquo

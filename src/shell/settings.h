@@ -42,7 +42,7 @@ protected:
     SettingsStorage& operator=(const SettingsStorage&) = default;
 };
 
-/// A place on the screen, in pixels; right and bottom are the first that no longer belong to it.
+/// A rectangle on the screen, in pixels; right and bottom are the first that no longer belong to it.
 struct ScreenRectangle {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -92,7 +92,7 @@ public:
     /// The side of a button in pixels, within 12 to 200; none when the toolkit's own size holds.
     std::optional<int> buttonSize() const;
 
-    /// The window's last place; none when it is absent or cannot be a window's: empty, inverted, or with an edge
+    /// The window's last rectangle; none when it is absent or cannot be a window's: empty, inverted, or with an edge
     /// beyond the 16 bits that the system has for one.
     std::optional<ScreenRectangle> windowRect() const;
     void setWindowRect(const ScreenRectangle& rectangle);

@@ -6,12 +6,12 @@
 namespace calquo {
 
 /// Says that the program runs, from its making to its end, by a mutex under the program's title.
-class RunningMark {
+class InstanceMutex {
 public:
-    RunningMark();
-    RunningMark(const RunningMark&) = delete;
-    RunningMark& operator=(const RunningMark&) = delete;
-    ~RunningMark();
+    InstanceMutex();
+    InstanceMutex(const InstanceMutex&) = delete;
+    InstanceMutex& operator=(const InstanceMutex&) = delete;
+    ~InstanceMutex();
 
     /// Whether no other instance ran when this one started.
     bool isFirst() const { return first_; }

@@ -6,14 +6,14 @@
 
 namespace calquo {
 
-RunningMark::RunningMark() {
+InstanceMutex::InstanceMutex() {
     SetLastError(ERROR_SUCCESS);
     mutex_ = CreateMutexW(nullptr, TRUE, wideProgramTitle);
     // Any error at all, such as a mutex of another user, counts as another instance.
     first_ = GetLastError() == ERROR_SUCCESS;
 }
 
-RunningMark::~RunningMark() {
+InstanceMutex::~InstanceMutex() {
     if (mutex_ == nullptr) {
         return;
     }

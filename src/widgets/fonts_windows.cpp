@@ -25,14 +25,14 @@ bool isInstalled(const wchar_t* name) {
     return found;
 }
 
-/// Measures text drawn into `place` as the flags say.
-RECT measured(FontHandle font, const std::wstring& text, RECT place, UINT flags) {
+/// Measures text drawn into `area` as the flags say.
+RECT measured(FontHandle font, const std::wstring& text, RECT area, UINT flags) {
     const HDC screen = GetDC(nullptr);
     const HGDIOBJ previous = SelectObject(screen, font);
-    DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &place, DT_CALCRECT | flags);
+    DrawTextW(screen, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | flags);
     SelectObject(screen, previous);
     ReleaseDC(nullptr, screen);
-    return place;
+    return area;
 }
 
 }  // namespace
@@ -43,8 +43,8 @@ const wchar_t* installedFont(std::span<const wchar_t* const> names) {
 }
 
 Size extentOf(FontHandle font, const std::wstring& text) {
-    const RECT place = measured(font, text, {}, DT_SINGLELINE);
-    return {place.right, place.bottom};
+    const RECT area = measured(font, text, {}, DT_SINGLELINE);
+    return {area.right, area.bottom};
 }
 
 int brokenHeight(FontHandle font, const std::wstring& text, int width) {

@@ -1,4 +1,4 @@
-// The panel's window, and the places of its children.
+// The panel's window, and the layout of its children.
 #include "widgets/panel.h"
 
 #include <algorithm>

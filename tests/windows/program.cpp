@@ -17,12 +17,12 @@ BOOL CALLBACK noteButton(HWND window, LPARAM list) {
     return TRUE;
 }
 
-LRESULT CALLBACK closeMenu(int code, WPARAM wordParameter, LPARAM longParameter) {
-    if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(longParameter)->message == WM_INITMENUPOPUP) {
+LRESULT CALLBACK closeMenu(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == WM_INITMENUPOPUP) {
         ++Program::menusOpened;
         EndMenu();
     }
-    return CallNextHookEx(nullptr, code, wordParameter, longParameter);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 }  // namespace
