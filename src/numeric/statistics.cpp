@@ -8,7 +8,7 @@
 
 #include "numeric/complex_arithmetic.h"
 #include "numeric/exponential.h"
-#include "numeric/signed_wide.h"
+#include "numeric/wide_complex.h"
 #include "values/extended.h"
 
 namespace calquo {
@@ -71,16 +71,6 @@ bool staysInRange(std::span<const Value> items) {
         items, [](const Value& item) { return std::fabs(item.re) < limit && std::fabs(item.im) < limit; });
 }
 
-/// The square root of re + i im, taken of numbers in the middle of the range.
-Value squareRoot(SignedWide re, SignedWide im) {
-    const SignedWide& larger = re.zero || (!im.zero && im.magnitude.exponent > re.magnitude.exponent) ? im : re;
-    const int scale = larger.zero ? 0 : (larger.magnitude.exponent + 127) / 2;
-    re.magnitude.exponent -= 2 * scale;
-    im.magnitude.exponent -= 2 * scale;
-    const Value root = sqrt(Value(toReal(re), toReal(im)));
-    return {std::ldexp(root.re, scale), std::ldexp(root.im, scale)};
-}
-
 /// A part of each item.
 using Part = Real Value::*;
 
@@ -129,8 +119,8 @@ Value spread(std::span<const Value> items, Real divisor, Spread wanted) {
         re = re - scatter(items, &Value::im, &Value::im);
         im = 2 * scatter(items, &Value::re, &Value::im) / totalDivisor;
     }
-    re = re / totalDivisor;
-    return wanted == Spread::Variance ? Value(toReal(re), toReal(im)) : squareRoot(re, im);
+    const WideComplex variance = {re / totalDivisor, im};
+    return rounded(wanted == Spread::Variance ? variance : squareRoot(variance));
 }
 
 }  // namespace
