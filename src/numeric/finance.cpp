@@ -344,7 +344,7 @@ Value dur(std::span<const Value> arguments) {
             SignedWide factor;
             SignedWide exponent;
         };
-        const auto termFor = [&](Real amount) -> Term {
+        const auto termFor = [&, payment = payment, timing = timing](Real amount) -> Term {
             SignedWide kept = SignedWide(timing == 1 ? 0 : payment) - amount;
             SignedWide shrinking = SignedWide(timing == 1 ? payment : 0) + amount;
             if (rises) {
