@@ -43,6 +43,18 @@ Columns columnsOf(const FormParts& parts) {
     return columns;
 }
 
+/// The buttons in a row that ends at `right`.
+std::vector<Rectangle> layOutButtons(const FormParts& parts, int right, int top) {
+    const Size button = largest(parts.buttons);
+    const int step = button.width + scaledToScreen(betweenButtons, parts.dotsPerInch);
+    const int count = static_cast<int>(parts.buttons.size());
+    std::vector<Rectangle> row;
+    for (int toTheRight = count - 1; toTheRight >= 0; --toTheRight) {
+        row.push_back({right - button.width - toTheRight * step, top, button.width, button.height});
+    }
+    return row;
+}
+
 }  // namespace
 
 Rectangle dialogRectangle(Size size, const Rectangle& around, const Rectangle& usableArea) {
@@ -99,14 +111,8 @@ FormLayout layOutForm(const FormParts& parts, int messageHeight) {
     layout.message = {left, top, width, messageHeight};
     top += messageHeight + scaled(aroundMessage);
 
-    const Size button = largest(parts.buttons);
-    const int count = static_cast<int>(parts.buttons.size());
-    for (int index = 0; index < count; ++index) {
-        const int toTheRight = count - index;
-        const int buttonLeft = left + width - toTheRight * button.width - (toTheRight - 1) * scaled(betweenButtons);
-        layout.buttons.push_back({buttonLeft, top, button.width, button.height});
-    }
-    layout.client = {width + 2 * left, top + button.height + left};
+    layout.buttons = layOutButtons(parts, left + width, top);
+    layout.client = {width + 2 * left, top + largest(parts.buttons).height + left};
     return layout;
 }
 

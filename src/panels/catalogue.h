@@ -47,7 +47,7 @@ constexpr std::string_view labelOf(PanelGroup group) { return panelGroupLabels[s
 struct PanelEntry {
     std::uint16_t identifier = 0;  ///< Also that of the menu's entry.
     PanelGroup group = PanelGroup::BitLevel;
-    std::string_view menuLabel;  ///< With its mnemonic behind "&".
+    std::string_view menuLabel;  ///< With its mnemonic after "&".
     Color face;                  ///< Of its buttons, but for those that have a colour of their own.
     std::span<const PanelRow> rows;
 };

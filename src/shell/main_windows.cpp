@@ -26,7 +26,7 @@ int runProgram(int showCommand) {
     applyToEngine(settings);
     MainWindow window(settings);
     ShowWindow(window.handle(), showCommand);
-    // Painted at once, in front of everything that waits in the queue by now.
+    // Painted at once, before everything that waits in the queue by now.
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     const int code = runMessageLoop(reportSpecialCase);
     instance.reset();

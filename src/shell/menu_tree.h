@@ -9,7 +9,7 @@ namespace calquo {
 
 enum class MenuKind : std::uint8_t { Command, Check, Radio, Separator, Submenu };
 
-/// One entry. A label has its mnemonic behind "&" and the text of its shortcut behind a tab.
+/// One entry. A label has its mnemonic after "&" and the text of its shortcut after a tab.
 struct MenuEntry {
     MenuKind kind = MenuKind::Separator;
     std::string_view label;             ///< Empty for a separator.

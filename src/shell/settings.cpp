@@ -20,7 +20,7 @@ constexpr std::uint32_t flagsNumber = 0;
 constexpr std::size_t bytesInWord = 4;
 constexpr std::size_t edgeCount = 4;  // of a rectangle
 
-/// The words one behind the other, each with its lowest byte first.
+/// The words one after the other, each with its lowest byte first.
 SettingBlock blockOf(std::span<const std::uint32_t> words) {
     SettingBlock block;
     for (const std::uint32_t word : words) {
@@ -31,7 +31,7 @@ SettingBlock blockOf(std::span<const std::uint32_t> words) {
     return block;
 }
 
-/// The whole words of a block; what remains behind them is left out.
+/// The whole words of a block; what remains after them is left out.
 std::vector<std::uint32_t> wordsOf(const SettingBlock& block) {
     std::vector<std::uint32_t> words(block.size() / bytesInWord);
     for (std::size_t i = 0; i < words.size() * bytesInWord; ++i) {

@@ -42,7 +42,7 @@ struct UserDialogs {
     std::function<void(const std::wstring& text)> showHint = [](const std::wstring&) {};
 };
 
-/// The system's dialogs. The current folder is the same behind them as before.
+/// The system's dialogs. The current folder is the same after them as before.
 UserDialogs systemDialogs();
 
 }  // namespace calquo

@@ -8,7 +8,7 @@
 #include "widgets/handles.h"
 #include "widgets/windows_api.h"
 
-// Needs <windows.h> in front of it.
+// Needs <windows.h> before it.
 #include <commdlg.h>
 
 namespace calquo {

@@ -12,7 +12,7 @@ namespace calquo {
 /// The first of the names whose font is installed; the last when none is.
 const wchar_t* installedFont(std::span<const wchar_t* const> names);
 
-/// The size in pixels of a line of text; an "&" is not shown but underlines the character behind it.
+/// The size in pixels of a line of text; an "&" is not shown but underlines the character after it.
 Size extentOf(FontHandle font, const std::wstring& text);
 
 /// The height of text that is broken into lines of at most `width` pixels.

@@ -19,37 +19,37 @@ public:
         std::sort(edges.begin(), edges.end());
         edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
         for (const int edge : edges) {
-            const double place =
-                places_.empty()
+            const double pixels =
+                edges_.empty()
                     ? std::round(edge * pixelsPerUnit)
-                    : places_.back().pixels + std::max(1.0, std::round((edge - places_.back().units) * pixelsPerUnit));
-            places_.push_back({edge, place});
+                    : edges_.back().pixels + std::max(1.0, std::round((edge - edges_.back().units) * pixelsPerUnit));
+            edges_.push_back({edge, pixels});
         }
     }
 
     double operator()(int units) const {
-        const auto behind =
-            std::find_if(places_.begin(), places_.end(), [&](const Place& place) { return place.units >= units; });
-        if (behind == places_.end()) {
-            return places_.empty() ? units * pixelsPerUnit_ : beside(places_.back(), units);
+        const auto after =
+            std::find_if(edges_.begin(), edges_.end(), [&](const Edge& edge) { return edge.units >= units; });
+        if (after == edges_.end()) {
+            return edges_.empty() ? units * pixelsPerUnit_ : beside(edges_.back(), units);
         }
-        if (behind == places_.begin()) {
-            return beside(*behind, units);
+        if (after == edges_.begin()) {
+            return beside(*after, units);
         }
-        const Place& ahead = *(behind - 1);
-        return ahead.pixels + (behind->pixels - ahead.pixels) * (units - ahead.units) / (behind->units - ahead.units);
+        const Edge& before = *(after - 1);
+        return before.pixels + (after->pixels - before.pixels) * (units - before.units) / (after->units - before.units);
     }
 
 private:
-    struct Place {
+    struct Edge {
         int units;
         double pixels;
     };
 
-    double beside(const Place& place, int units) const { return place.pixels + (units - place.units) * pixelsPerUnit_; }
+    double beside(const Edge& edge, int units) const { return edge.pixels + (units - edge.units) * pixelsPerUnit_; }
 
     double pixelsPerUnit_;
-    std::vector<Place> places_;
+    std::vector<Edge> edges_;
 };
 
 /// The corners on the screen, with the leftmost and the topmost in the first column and row of pixels.

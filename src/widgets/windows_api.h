@@ -12,6 +12,6 @@
 #endif
 
 #include <windows.h>
-// Need <windows.h> in front of them.
+// Need <windows.h> before them.
 #include <commctrl.h>
 #include <richedit.h>

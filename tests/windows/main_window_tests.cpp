@@ -149,10 +149,10 @@ TEST(MainWindow, StandsWhereItStoodUnlessNoScreenShowsIt) {
     const RECT stood{70, 80, 770, 480};
     EXPECT_EQ(shown(placeOnScreen(Program(storedRectangle(70, 80, 770, 480)).handle())), shown(stood));
     const RECT half = placeOnScreen(Program().handle());
-    RECT desk{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
-    EXPECT_EQ(half.right - half.left, (desk.right - desk.left) / 2);
-    EXPECT_EQ(half.bottom - half.top, (desk.bottom - desk.top) / 2);
+    RECT usable{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &usable, 0);
+    EXPECT_EQ(half.right - half.left, (usable.right - usable.left) / 2);
+    EXPECT_EQ(half.bottom - half.top, (usable.bottom - usable.top) / 2);
     for (const RECT& hostile : {RECT{-32000, -32000, -31840, -31972}, RECT{5000, 5000, 5700, 5400},
                                 RECT{700, 400, 100, 100}, RECT{100, 100, 100, 100}, RECT{0, 0, 1 << 30, 1 << 30}}) {
         const Program program(storedRectangle(hostile.left, hostile.top, hostile.right, hostile.bottom));
@@ -167,15 +167,15 @@ TEST(MainWindow, StoresEveryRectangleThatTheSystemReports) {
     EXPECT_EQ(program.storage().written.back(), L"Window Rect");
 }
 
-TEST(MainWindow, MaximizedItCoversTheDeskWithOnePixelOfItsFrameInView) {
+TEST(MainWindow, MaximizedItCoversTheUsableAreaWithOnePixelOfItsFrameInView) {
     Program program;
     const RECT window = placeOnScreen(program.handle());
-    RECT inner = program.client(), desk{};
+    RECT inner = program.client(), usable{};
     MapWindowPoints(program.handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &desk, 0);
-    const RECT expected{desk.left - (inner.left - window.left) + 1, desk.top - (inner.top - window.top) + 1,
-                        desk.right + (window.right - inner.right) - 1,
-                        desk.bottom + (window.bottom - inner.bottom) - 1};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &usable, 0);
+    const RECT expected{usable.left - (inner.left - window.left) + 1, usable.top - (inner.top - window.top) + 1,
+                        usable.right + (window.right - inner.right) - 1,
+                        usable.bottom + (window.bottom - inner.bottom) - 1};
     MINMAXINFO limits{};
     SendMessageW(program.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     // Of a maximized window the system wants the size, and how large it may be made.

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "held_key.h"
 #include "dialogs/dialog_window.h"
+#include "held_key.h"
 #include "widgets/kept_exception.h"
 
 namespace calquo {

@@ -7,10 +7,10 @@
 #include <filesystem>
 #include <optional>
 
-#include "desk.h"
 #include "file_folder.h"
 #include "support/repeated.h"
 #include "widgets/handles.h"
+#include "work_area_fixture.h"
 #include "workarea/file_fault.h"
 
 namespace calquo {
@@ -38,8 +38,8 @@ struct Sheet {
     }
 
     FileFolder folder;
-    Desk desk;
-    WorkAreaFile file{desk.workArea()};
+    WorkAreaFixture fixture;
+    WorkAreaFile file{fixture.workArea()};
 };
 
 /// Holds a file open, as another program might.
@@ -88,7 +88,7 @@ TEST(WorkAreaFile, PlainTextComesBackByteForByte) {
     for (const std::string& bytes : files) {
         SCOPED_TRACE(testing::PrintToString(bytes.substr(0, 40)));
         Sheet sheet;
-        sheet.desk.type("8 = 8");
+        sheet.fixture.type("8 = 8");
         sheet.folder.put(L"in.txt", bytes);
         ASSERT_EQ(sheet.read(L"in.txt"), std::nullopt);
         ASSERT_EQ(sheet.write(L"out.txt"), std::nullopt);
@@ -100,8 +100,8 @@ TEST(WorkAreaFile, TheFormOfTheTextThatWasReadHoldsForTheNextSave) {
     Sheet sheet;
     sheet.folder.put(L"legacy.txt", "5 \x80\n");
     ASSERT_EQ(sheet.read(L"legacy.txt"), std::nullopt);
-    EXPECT_EQ(sheet.desk.text(), L"5 \u20AC\n");
-    sheet.desk.type("+\n");
+    EXPECT_EQ(sheet.fixture.text(), L"5 \u20AC\n");
+    sheet.fixture.type("+\n");
     ASSERT_EQ(sheet.write(L"legacy.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"legacy.txt"), "5 \x80\n+\n");
     // A failure to read is no reading.
@@ -117,22 +117,22 @@ TEST(WorkAreaFile, TheFormOfTheTextThatWasReadHoldsForTheNextSave) {
 TEST(WorkAreaFile, RichTextKeepsItsStyles) {
     Sheet sheet;
     for (const wchar_t* line : {L"2+3", L"2+", L"\u221E+\u0100\u4E2D\U0001F600{\\b}", L""}) {
-        sheet.desk.type(line);
-        sheet.desk.press(VK_RETURN);
-        sheet.desk.select(1'000, 1'000);
-        sheet.desk.press(VK_RETURN, VK_CONTROL);
+        sheet.fixture.type(line);
+        sheet.fixture.press(VK_RETURN);
+        sheet.fixture.select(1'000, 1'000);
+        sheet.fixture.press(VK_RETURN, VK_CONTROL);
     }
-    const std::wstring picture = sheet.desk.picture();
+    const std::wstring picture = sheet.fixture.picture();
     ASSERT_EQ(sheet.write(L"Sheet.RTF"), std::nullopt);
     const std::string bytes = sheet.folder.bytes(L"Sheet.RTF");
     EXPECT_TRUE(bytes.starts_with("{\\rtf1"));
     EXPECT_EQ(bytes.find_first_of("\0\x80\xC2\xE2\xF0"sv), std::string::npos);
 
     Sheet other;
-    other.desk.type("8 = 8");
+    other.fixture.type("8 = 8");
     other.folder.put(L"x.rtf", bytes);
     ASSERT_EQ(other.read(L"x.rtf"), std::nullopt);
-    EXPECT_EQ(other.desk.picture(), picture);
+    EXPECT_EQ(other.fixture.picture(), picture);
     ASSERT_EQ(other.write(L"x.rtf"), std::nullopt);
     EXPECT_EQ(other.folder.bytes(L"x.rtf"), bytes);
 }
@@ -145,7 +145,7 @@ TEST(WorkAreaFile, OtherProgramsStylesStayToo) {
     ASSERT_EQ(sheet.read(L"x.rtf"), std::nullopt);
     ASSERT_EQ(sheet.write(L"y.rtf"), std::nullopt);
     ASSERT_EQ(sheet.read(L"y.rtf"), std::nullopt);
-    EXPECT_EQ(sheet.desk.text(), L"large slanted red");
+    EXPECT_EQ(sheet.fixture.text(), L"large slanted red");
     struct Row {
         std::size_t place;
         DWORD effects;
@@ -154,10 +154,10 @@ TEST(WorkAreaFile, OtherProgramsStylesStayToo) {
     };
     for (const Row& row : {Row{0, 0, 0, L"Arial"}, Row{8, CFE_ITALIC, 0, L"Courier New"},
                            Row{14, CFE_UNDERLINE, RGB(255, 0, 0), L"Arial"}}) {
-        sheet.desk.select(row.place, row.place + 1);
+        sheet.fixture.select(row.place, row.place + 1);
         CHARFORMAT2W format{};
         format.cbSize = sizeof format;
-        SendMessageW(sheet.desk.control(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+        SendMessageW(sheet.fixture.control(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
         EXPECT_EQ(format.dwEffects & (CFM_BOLD | CFM_ITALIC | CFM_UNDERLINE), row.effects) << row.place;
         EXPECT_EQ(format.yHeight, 400) << row.place;
         EXPECT_EQ(format.crTextColor, row.color) << row.place;
@@ -173,30 +173,30 @@ TEST(WorkAreaFile, WhatIsReadDoesNotLookLikeWhatItReplacesAndUndoBringsThatBack)
         Sheet sheet;
         sheet.folder.put(L"x.txt", "new\r\ntext");
         sheet.folder.put(L"x.rtf", "{\\rtf1 new\\par text\\par}");
-        sheet.desk.type("2+3");
-        sheet.desk.press(VK_RETURN);
-        const std::wstring before = sheet.desk.picture();
+        sheet.fixture.type("2+3");
+        sheet.fixture.press(VK_RETURN);
+        const std::wstring before = sheet.fixture.picture();
         ASSERT_EQ(sheet.read(name), std::nullopt);
-        EXPECT_EQ(sheet.desk.picture(), L"new\ntext|");
-        sheet.desk.undo();
-        EXPECT_EQ(sheet.desk.picture(), before);
-        sheet.desk.select(0, 3);
-        sheet.desk.press(VK_DELETE);
-        ASSERT_EQ(sheet.desk.picture(), L"|< = 5>\n\n5");
+        EXPECT_EQ(sheet.fixture.picture(), L"new\ntext|");
+        sheet.fixture.undo();
+        EXPECT_EQ(sheet.fixture.picture(), before);
+        sheet.fixture.select(0, 3);
+        sheet.fixture.press(VK_DELETE);
+        ASSERT_EQ(sheet.fixture.picture(), L"|< = 5>\n\n5");
         ASSERT_EQ(sheet.read(name), std::nullopt);
-        EXPECT_EQ(sheet.desk.picture(), L"new\ntext|");
+        EXPECT_EQ(sheet.fixture.picture(), L"new\ntext|");
         sheet.folder.put(name, "");
         ASSERT_EQ(sheet.read(name), std::nullopt);
-        EXPECT_EQ(sheet.desk.text(), L"");
+        EXPECT_EQ(sheet.fixture.text(), L"");
     }
 }
 
 /// The work area before something that must not change it.
 struct Snapshot {
-    explicit Snapshot(Desk& desk)
-        : picture((desk.select(1, 2), desk.picture())),
-          canUndo(SendMessageW(desk.control(), EM_CANUNDO, 0, 0)),
-          canRedo(SendMessageW(desk.control(), EM_CANREDO, 0, 0)) {}
+    explicit Snapshot(WorkAreaFixture& fixture)
+        : picture((fixture.select(1, 2), fixture.picture())),
+          canUndo(SendMessageW(fixture.control(), EM_CANUNDO, 0, 0)),
+          canRedo(SendMessageW(fixture.control(), EM_CANREDO, 0, 0)) {}
     friend bool operator==(const Snapshot&, const Snapshot&) = default;
 
     std::wstring picture;
@@ -223,20 +223,20 @@ TEST(WorkAreaFile, AFileThatCannotBeReadLeavesTheWorkAreaAsItWas) {
         {L"large.txt", repeated(10'000'000, "2+3*4\r\n"), FileFailure::TooLarge},
     };
     Sheet sheet;
-    sheet.desk.type("2+3");
-    sheet.desk.press(VK_RETURN);
+    sheet.fixture.type("2+3");
+    sheet.fixture.press(VK_RETURN);
     for (const Row& row : rows) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(row.name)));
-        const Snapshot before(sheet.desk);
+        const Snapshot before(sheet.fixture);
         sheet.folder.put(row.name, row.bytes);
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(sheet.read(row.name), row.failure);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
-        EXPECT_EQ(Snapshot(sheet.desk).picture, before.picture);
-        EXPECT_EQ(Snapshot(sheet.desk).canUndo, before.canUndo);
+        EXPECT_EQ(Snapshot(sheet.fixture).picture, before.picture);
+        EXPECT_EQ(Snapshot(sheet.fixture).canUndo, before.canUndo);
     }
-    sheet.desk.undo();
-    EXPECT_EQ(sheet.desk.text(), L"2+3");
+    sheet.fixture.undo();
+    EXPECT_EQ(sheet.fixture.text(), L"2+3");
 }
 
 // --- Saving ---------------------------------------------------------------------------------------------------------
@@ -244,12 +244,12 @@ TEST(WorkAreaFile, AFileThatCannotBeReadLeavesTheWorkAreaAsItWas) {
 TEST(WorkAreaFile, ASaveReplacesTheProgramsOwnFileAndKeepsAForeignOne) {
     Sheet sheet;
     const std::string old(100'000, 'x');
-    sheet.desk.type("2+3");
+    sheet.fixture.type("2+3");
     sheet.folder.put(L"x.txt", old);
     ASSERT_EQ(sheet.write(L"x.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "2+3");
     EXPECT_EQ(sheet.folder.bytes(L"x.txt.bak"), old);
-    sheet.desk.type("+4");
+    sheet.fixture.type("+4");
     ASSERT_EQ(sheet.write(L"X.TXT"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "2+3+4");
     EXPECT_EQ(sheet.folder.bytes(L"x.txt.bak"), old);
@@ -269,10 +269,10 @@ TEST(WorkAreaFile, AnUnchangedTextIsNotWritten) {
         EXPECT_EQ(sheet.folder.bytes(name), bytes);
     }
     // Undo brings another text back, which no file holds.
-    sheet.desk.undo();
+    sheet.fixture.undo();
     ASSERT_EQ(sheet.write(L"y.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"y.txt"), "of another program");
-    sheet.desk.press(VK_RETURN, VK_CONTROL);
+    sheet.fixture.press(VK_RETURN, VK_CONTROL);
     ASSERT_EQ(sheet.write(L"y.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"y.txt").find("of another program"), 0u);
     EXPECT_NE(sheet.folder.bytes(L"y.txt"), "of another program");
@@ -284,7 +284,7 @@ TEST(WorkAreaFile, AFileKeepsItsAttributes) {
     sheet.folder.put(L"x.txt", "old");
     constexpr DWORD attributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE;
     SetFileAttributesW(sheet.folder.path(L"x.txt").c_str(), attributes);
-    sheet.desk.type("2+3");
+    sheet.fixture.type("2+3");
     ASSERT_EQ(sheet.write(L"x.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "2+3");
     EXPECT_EQ(GetFileAttributesW(sheet.folder.path(L"x.txt").c_str()), attributes);
@@ -292,7 +292,7 @@ TEST(WorkAreaFile, AFileKeepsItsAttributes) {
 
 TEST(WorkAreaFile, WhatCannotBeReadOrReplacedStaysAsItWas) {
     Sheet sheet;
-    sheet.desk.type("2+3");
+    sheet.fixture.type("2+3");
     for (const wchar_t* name : {L"readonly.txt", L"held.txt", L"locked.txt", L"written.txt", L"file"}) {
         sheet.folder.put(name, "old");
     }
@@ -322,13 +322,13 @@ TEST(WorkAreaFile, WhatCannotBeReadOrReplacedStaysAsItWas) {
         const OpenFile locked(sheet.folder.path(L"locked.txt"), GENERIC_READ, shareNothing);
         const OpenFile written(sheet.folder.path(L"written.txt"), GENERIC_READ | GENERIC_WRITE, shareAll);
         const OpenFile held(sheet.folder.path(L"held.txt"), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
-        const Snapshot before(sheet.desk);
+        const Snapshot before(sheet.fixture);
         for (const Row& row : rows) {
             SCOPED_TRACE(testing::PrintToString(std::wstring(row.name)));
             EXPECT_TRUE(!row.reading || sheet.read(row.name) == row.reading);
             EXPECT_TRUE(!row.saving || sheet.write(row.name) == row.saving);
             EXPECT_EQ(sheet.folder.names(), names);
-            EXPECT_EQ(Snapshot(sheet.desk), before);
+            EXPECT_EQ(Snapshot(sheet.fixture), before);
         }
     }
     for (const wchar_t* name : {L"readonly.txt", L"held.txt", L"locked.txt", L"written.txt", L"file"}) {

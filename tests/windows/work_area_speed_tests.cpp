@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <functional>
 
-#include "desk.h"
+#include "work_area_fixture.h"
 
 namespace calquo {
 namespace {
@@ -19,23 +19,23 @@ DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) 
 }
 
 /// A work area of many lines, and the milliseconds that a new line at its end took.
-struct LongDesk {
-    explicit LongDesk(std::size_t lines) {
+struct LongText {
+    explicit LongText(std::size_t lines) {
         std::string text;
         for (std::size_t line = 0; line < lines; ++line) {
             text += "2+3*4 = 14\r\n";
         }
         std::string_view rest = text;
         EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, readPiece};
-        SendMessageW(desk.control(), EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
+        SendMessageW(fixture.control(), EM_STREAMIN, SF_TEXT, reinterpret_cast<LPARAM>(&stream));
     }
 
     void measure() {
-        SendMessageW(desk.control(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
-        desk.type("\n2+");
+        SendMessageW(fixture.control(), EM_SETSEL, 0x7FFFFFFF, 0x7FFFFFFF);
+        fixture.type("\n2+");
         settle();
-        typing.push_back(timeOf([&] { desk.type("3"); }));
-        enter.push_back(timeOf([&] { desk.press(VK_RETURN); }));
+        typing.push_back(timeOf([&] { fixture.type("3"); }));
+        enter.push_back(timeOf([&] { fixture.press(VK_RETURN); }));
     }
 
     double timeOf(const std::function<void()>& action) {
@@ -47,14 +47,14 @@ struct LongDesk {
 
     /// Paints what is to be painted and serves whatever else waits.
     void settle() {
-        UpdateWindow(desk.control());
+        UpdateWindow(fixture.control());
         MSG message{};
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
             DispatchMessageW(&message);
         }
     }
 
-    Desk desk;
+    WorkAreaFixture fixture;
     std::vector<double> typing, enter;  ///< One character, and Enter behind it.
 };
 
@@ -65,24 +65,25 @@ double median(std::vector<double> times) {
 
 TEST(WorkAreaSpeed, EnterDoesNotSlowDownWithTheLength) {
     // A screenful is what every window paints and scrolls; the rest must not count.
-    LongDesk desks[] = {LongDesk(40), LongDesk(10'000), LongDesk(100'000)};
+    LongText fixtures[] = {LongText(40), LongText(10'000), LongText(100'000)};
     // In turns, so that a change of the machine's speed meets all alike.
     for (int round = 0; round < 11; ++round) {
-        for (LongDesk& desk : desks) {
-            desk.measure();
+        for (LongText& fixture : fixtures) {
+            fixture.measure();
         }
     }
-    const double few = median(desks[0].enter);
+    const double few = median(fixtures[0].enter);
     std::printf(
         "Enter at 10,000 lines takes %.2f times, at 100,000 lines %.2f times that at 40 lines; a character %.2f and "
         "%.2f times.\n",
-        median(desks[1].enter) / few, median(desks[2].enter) / few, median(desks[1].typing) / median(desks[0].typing),
-        median(desks[2].typing) / median(desks[0].typing));
-    EXPECT_LT(median(desks[1].enter), 2 * few);
+        median(fixtures[1].enter) / few, median(fixtures[2].enter) / few,
+        median(fixtures[1].typing) / median(fixtures[0].typing),
+        median(fixtures[2].typing) / median(fixtures[0].typing));
+    EXPECT_LT(median(fixtures[1].enter), 2 * few);
     // Wine's control walks from the text's start to find a place, and to paint: a typed character shows what that
     // costs. An Enter may search twice more, for its line and its result.
-    const double searching = median(desks[2].typing) - median(desks[0].typing);
-    EXPECT_LT(median(desks[2].enter), 2 * (few + searching) + searching);
+    const double searching = median(fixtures[2].typing) - median(fixtures[0].typing);
+    EXPECT_LT(median(fixtures[2].enter), 2 * (few + searching) + searching);
 }
 
 }  // namespace

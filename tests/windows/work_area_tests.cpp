@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "desk.h"
+#include "work_area_fixture.h"
 #include "workarea/record.h"
 
 namespace calquo {
@@ -46,18 +46,18 @@ constexpr EnterRow enterRows[] = {
 TEST(WorkArea, EnterRewritesTheLineInOneStepForUndo) {
     for (const EnterRow& row : enterRows) {
         SCOPED_TRACE(row.line);
-        Desk desk;
-        desk.type(row.line);
-        desk.press(VK_RETURN);
-        EXPECT_EQ(desk.picture(), wide(row.after));
-        if (desk.text() == wide(row.line)) {
+        WorkAreaFixture fixture;
+        fixture.type(row.line);
+        fixture.press(VK_RETURN);
+        EXPECT_EQ(fixture.picture(), wide(row.after));
+        if (fixture.text() == wide(row.line)) {
             continue;
         }
-        const std::wstring after = desk.text();
-        desk.undo();
-        EXPECT_EQ(desk.text(), wide(row.line));
-        desk.redo();
-        EXPECT_EQ(desk.text(), after);
+        const std::wstring after = fixture.text();
+        fixture.undo();
+        EXPECT_EQ(fixture.text(), wide(row.line));
+        fixture.redo();
+        EXPECT_EQ(fixture.text(), after);
     }
 }
 
@@ -81,15 +81,15 @@ constexpr InPlaceRow inPlaceRows[] = {
 TEST(WorkArea, EvaluationIntoTheSelectionReplacesNothingElse) {
     for (const InPlaceRow& row : inPlaceRows) {
         SCOPED_TRACE(row.line);
-        Desk desk;
-        desk.type(row.line);
-        desk.select(row.begin, row.end);
-        desk.press(VK_F9);
-        EXPECT_EQ(desk.picture(), wide(row.after));
-        if (desk.text() != wide(row.line)) {
-            desk.undo();
+        WorkAreaFixture fixture;
+        fixture.type(row.line);
+        fixture.select(row.begin, row.end);
+        fixture.press(VK_F9);
+        EXPECT_EQ(fixture.picture(), wide(row.after));
+        if (fixture.text() != wide(row.line)) {
+            fixture.undo();
         }
-        EXPECT_EQ(desk.text(), wide(row.line));
+        EXPECT_EQ(fixture.text(), wide(row.line));
     }
 }
 
@@ -121,59 +121,59 @@ TEST(WorkArea, KeysActAtTheCaretOnly) {
     };
     for (const KeyRow& row : rows) {
         SCOPED_TRACE(row.text);
-        Desk desk;
-        desk.type(row.text);
-        desk.select(row.place, row.place);
-        desk.press(row.key, row.modifier);
-        EXPECT_EQ(desk.picture(), row.after);
+        WorkAreaFixture fixture;
+        fixture.type(row.text);
+        fixture.select(row.place, row.place);
+        fixture.press(row.key, row.modifier);
+        EXPECT_EQ(fixture.picture(), row.after);
     }
 }
 
 TEST(WorkArea, TypingGoesOnFromTheCarriedResultInNormalStyle) {
-    Desk desk;
-    desk.type("2+3");
-    desk.press(VK_RETURN);
-    desk.type("*4");
-    EXPECT_EQ(desk.picture(), L"2+3< = 5>\n\n5*4|");
-    desk.press(VK_RETURN);
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_RETURN);
+    fixture.type("*4");
+    EXPECT_EQ(fixture.picture(), L"2+3< = 5>\n\n5*4|");
+    fixture.press(VK_RETURN);
     // Each evaluation and each stretch of typing is one step back.
     for (const wchar_t* before : {L"2+3 = 5\n\n5*4", L"2+3 = 5\n\n5", L"2+3", L""}) {
-        desk.undo();
-        EXPECT_EQ(desk.text(), before);
+        fixture.undo();
+        EXPECT_EQ(fixture.text(), before);
     }
 }
 
 TEST(WorkArea, WhatIsTypedBesideAResultIsNormal) {
-    Desk desk;
-    desk.type("2+3");
-    desk.press(VK_RETURN);
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_RETURN);
     // The expression is deleted and another typed, right before the old result.
-    desk.select(0, 3);
-    desk.press(VK_DELETE);
-    desk.type("4*5");
-    EXPECT_EQ(desk.picture(), L"4*5|< = 5>\n\n5");
-    desk.select(7, 7);
-    desk.type("\n6");
-    EXPECT_EQ(desk.picture(), L"4*5< = 5>\n6|\n\n5");
-    desk.select(0, 0);
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
+    fixture.select(0, 3);
+    fixture.press(VK_DELETE);
+    fixture.type("4*5");
+    EXPECT_EQ(fixture.picture(), L"4*5|< = 5>\n\n5");
+    fixture.select(7, 7);
+    fixture.type("\n6");
+    EXPECT_EQ(fixture.picture(), L"4*5< = 5>\n6|\n\n5");
+    fixture.select(0, 0);
+    fixture.press(VK_RETURN);
+    EXPECT_EQ(fixture.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
 }
 
 TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
-    Desk desk;
+    WorkAreaFixture fixture;
     const std::wstring line = L"8+\u221E+\u044F\u4E2D\U0001F600";
-    desk.type(line);
-    ASSERT_EQ(desk.text(), line);
-    desk.press(VK_RETURN);
+    fixture.type(line);
+    ASSERT_EQ(fixture.text(), line);
+    fixture.press(VK_RETURN);
     // An infinity sign is no 8, whatever a code page makes of it.
-    EXPECT_EQ(desk.picture(), L"8+|\u221E+\u044F\u4E2D\U0001F600< = Error (invalid format)>");
-    desk.undo();
-    EXPECT_EQ(desk.text(), line);
-    desk.select(line.size(), line.size());
-    desk.type(L" = \u221E");
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.text(), line + L" = Error (invalid format)");
+    EXPECT_EQ(fixture.picture(), L"8+|\u221E+\u044F\u4E2D\U0001F600< = Error (invalid format)>");
+    fixture.undo();
+    EXPECT_EQ(fixture.text(), line);
+    fixture.select(line.size(), line.size());
+    fixture.type(L" = \u221E");
+    fixture.press(VK_RETURN);
+    EXPECT_EQ(fixture.text(), line + L" = Error (invalid format)");
 }
 
 TEST(WorkArea, ALongLineIsEvaluatedWhole) {
@@ -183,24 +183,24 @@ TEST(WorkArea, ALongLineIsEvaluatedWhole) {
     }
     for (const std::size_t place : {std::size_t{0}, std::size_t{1000}, sum.size()}) {
         SCOPED_TRACE(place);
-        Desk desk;
-        desk.type(L"1\n");
-        SendMessageW(desk.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(sum.c_str()));
-        desk.type(L"\n7");
-        desk.select(2 + place, 2 + place);
-        desk.press(VK_RETURN);
-        EXPECT_EQ(desk.text(), L"1\n" + sum + L" = 2,000\n\n2,000\n7");
-        EXPECT_EQ(desk.caret(), 2 + sum.size() + 8 + 2 + 5);
+        WorkAreaFixture fixture;
+        fixture.type(L"1\n");
+        SendMessageW(fixture.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(sum.c_str()));
+        fixture.type(L"\n7");
+        fixture.select(2 + place, 2 + place);
+        fixture.press(VK_RETURN);
+        EXPECT_EQ(fixture.text(), L"1\n" + sum + L" = 2,000\n\n2,000\n7");
+        EXPECT_EQ(fixture.caret(), 2 + sum.size() + 8 + 2 + 5);
     }
 }
 
 TEST(WorkArea, TheHelpKeyIsTheMainWindowsCommand) {
-    Desk desk;
-    desk.type("2+3");
-    desk.press(VK_F1);
-    desk.press(VK_F1, VK_SHIFT);
-    EXPECT_EQ(desk.commands, (std::vector<unsigned>{2592, 2592}));
-    EXPECT_EQ(desk.picture(), L"2+3|");
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_F1);
+    fixture.press(VK_F1, VK_SHIFT);
+    EXPECT_EQ(fixture.commands, (std::vector<unsigned>{2592, 2592}));
+    EXPECT_EQ(fixture.picture(), L"2+3|");
 }
 
 WNDPROC beforeReplacing;
@@ -213,14 +213,14 @@ LRESULT CALLBACK answerThatResultsReplace(HWND window, UINT code, WPARAM first, 
 }
 
 TEST(WorkArea, EnterAsksTheControlWhetherResultsReplace) {
-    Desk desk;
-    EXPECT_EQ(SendMessageW(desk.control(), WM_USER + 3, 0, 0), 0);
+    WorkAreaFixture fixture;
+    EXPECT_EQ(SendMessageW(fixture.control(), WM_USER + 3, 0, 0), 0);
     beforeReplacing = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(desk.control(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(answerThatResultsReplace)));
-    desk.type("2+3");
-    desk.select(0, 2);
-    desk.press(VK_RETURN);
-    EXPECT_EQ(desk.picture(), L"5|3");
+        SetWindowLongPtrW(fixture.control(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(answerThatResultsReplace)));
+    fixture.type("2+3");
+    fixture.select(0, 2);
+    fixture.press(VK_RETURN);
+    EXPECT_EQ(fixture.picture(), L"5|3");
 }
 
 /// The rows of the line files that need no options.
@@ -259,15 +259,15 @@ TEST(WorkArea, ShowsTheRecordsOfTheLineFiles) {
     const std::vector<std::string> rows = plainRows();
     ASSERT_GT(rows.size(), 100u);
     constexpr std::size_t sampleSize = 100;
-    Desk desk;
+    WorkAreaFixture fixture;
     for (std::size_t index = 0; index < rows.size(); index += rows.size() / sampleSize + 1) {
         SCOPED_TRACE(rows[index]);
         const std::string_view expression = expressionOf(rows[index]);
-        desk.select(0, 10'000);
-        desk.press(VK_DELETE);
-        desk.type(expression);
-        desk.press(VK_RETURN);
-        EXPECT_EQ(desk.picture(), expectedPicture(rows[index], expression));
+        fixture.select(0, 10'000);
+        fixture.press(VK_DELETE);
+        fixture.type(expression);
+        fixture.press(VK_RETURN);
+        EXPECT_EQ(fixture.picture(), expectedPicture(rows[index], expression));
     }
 }
 

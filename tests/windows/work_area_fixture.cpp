@@ -1,5 +1,5 @@
-// The desk's window, keys and pictures.
-#include "desk.h"
+// The fixture's window, keys and pictures.
+#include "work_area_fixture.h"
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@
 namespace calquo {
 namespace {
 
-constexpr wchar_t className[] = L"Desk of a test";
+constexpr wchar_t className[] = L"Window of a test";
 
 LRESULT CALLBACK receive(HWND window, UINT code, WPARAM first, LPARAM second) {
     auto* const commands = reinterpret_cast<std::vector<unsigned>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
@@ -41,24 +41,24 @@ std::wstring wide(std::string_view text) {
     return units;
 }
 
-Desk::TopLevelWindow::TopLevelWindow(Desk& desk) {
+WorkAreaFixture::TopLevelWindow::TopLevelWindow(WorkAreaFixture& fixture) {
     WNDCLASSW description{};
     description.lpfnWndProc = receive;
     description.lpszClassName = className;
     RegisterClassW(&description);
     handle = CreateWindowExW(0, className, L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
                              nullptr, nullptr);
-    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&desk.commands));
+    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&fixture.commands));
 }
 
-Desk::TopLevelWindow::~TopLevelWindow() { DestroyWindow(handle); }
+WorkAreaFixture::TopLevelWindow::~TopLevelWindow() { DestroyWindow(handle); }
 
-Desk::Desk() : top_(*this), workArea_(top_.handle, 1, 2592, [] { return defaultFormats[0]; }) {
+WorkAreaFixture::WorkAreaFixture() : top_(*this), workArea_(top_.handle, 1, 2592, [] { return defaultFormats[0]; }) {
     workArea_.moveTo({0, 0, 780, 560});
     workArea_.giveFocus();
 }
 
-void Desk::type(std::wstring_view text) {
+void WorkAreaFixture::type(std::wstring_view text) {
     for (const wchar_t unit : text) {
         if (unit == L'\n') {
             press(VK_RETURN, VK_CONTROL);
@@ -68,7 +68,7 @@ void Desk::type(std::wstring_view text) {
     }
 }
 
-void Desk::press(int key, int modifier) {
+void WorkAreaFixture::press(int key, int modifier) {
     const HeldKey held(modifier);
     const bool alt = modifier == VK_MENU;
     SendMessageW(control(), alt ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(key), 1);
@@ -80,15 +80,15 @@ void Desk::press(int key, int modifier) {
     rethrowKeptException();
 }
 
-void Desk::select(std::size_t begin, std::size_t end) {
+void WorkAreaFixture::select(std::size_t begin, std::size_t end) {
     SendMessageW(control(), EM_SETSEL, begin, static_cast<LPARAM>(end));
 }
 
-void Desk::undo() { SendMessageW(control(), EM_UNDO, 0, 0); }
+void WorkAreaFixture::undo() { SendMessageW(control(), EM_UNDO, 0, 0); }
 
-void Desk::redo() { SendMessageW(control(), EM_REDO, 0, 0); }
+void WorkAreaFixture::redo() { SendMessageW(control(), EM_REDO, 0, 0); }
 
-std::wstring Desk::text() const {
+std::wstring WorkAreaFixture::text() const {
     std::wstring units(static_cast<std::size_t>(SendMessageW(control(), WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
     const LRESULT length = SendMessageW(control(), WM_GETTEXT, units.size(), reinterpret_cast<LPARAM>(units.data()));
     units.resize(static_cast<std::size_t>(length));
@@ -96,13 +96,13 @@ std::wstring Desk::text() const {
     return units;
 }
 
-std::size_t Desk::caret() const {
+std::size_t WorkAreaFixture::caret() const {
     CHARRANGE range{};
     SendMessageW(control(), EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
     return static_cast<std::size_t>(range.cpMax);
 }
 
-std::wstring Desk::picture() {
+std::wstring WorkAreaFixture::picture() {
     const std::wstring units = text();
     const std::size_t place = caret();
     std::wstring drawn;

@@ -13,9 +13,9 @@ namespace calquo {
 /// Characters of a test row as UTF-16: each byte one unit.
 std::wstring wide(std::string_view text);
 
-class Desk {
+class WorkAreaFixture {
 public:
-    Desk();
+    WorkAreaFixture();
 
     HWND control() const { return workArea_.handle(); }
     WorkArea& workArea() { return workArea_; }
@@ -41,7 +41,7 @@ public:
 
 private:
     struct TopLevelWindow {
-        explicit TopLevelWindow(Desk& desk);
+        explicit TopLevelWindow(WorkAreaFixture& fixture);
         ~TopLevelWindow();
         HWND handle;
     };
