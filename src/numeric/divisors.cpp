@@ -41,7 +41,7 @@ std::uint64_t includeInMultiple(std::uint64_t word, Words& factors) {
     const Montgomery field(word);
     // The product modulo the word, times a power of 2^-64, which has no factor in common with it. It is taken in four
     // parts, whose chains of multiplications the processor runs side by side.
-    std::array<std::uint64_t, 4> parts;
+    std::array<std::uint64_t, 4> parts = {};
     parts.fill(field.one());
     for (std::size_t index = 0; index < factors.size(); ++index) {
         std::uint64_t& part = parts[index % parts.size()];
