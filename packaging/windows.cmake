@@ -15,20 +15,26 @@ configure_file(${PROJECT_SOURCE_DIR}/LICENSE ${texts}/LICENSE.txt @ONLY NEWLINE_
 set(installer_target_win64 amd64-unicode)
 set(installer_target_win32 x86-unicode)
 
+set(make_setup ${MAKENSIS} -V2 -DNAME=${PROJECT_NAME} -DSITE=${CALQUO_SITE} -DFILES=${packages}/${package_name}
+    -DTARGET=${installer_target_${CALQUO_WINDOWS}} -DICON=${PROJECT_SOURCE_DIR}/resources/calquo.ico)
+set(setup_script ${CMAKE_CURRENT_SOURCE_DIR}/installer.nsi)
 add_custom_target(package
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/pack_windows ${packages} ${package_name} ${CMAKE_STRIP} $<TARGET_FILE:Calquo>
             $<TARGET_FILE:calq> ${CMAKE_BINARY_DIR}/Calquo2.chm ${texts}/README.txt ${texts}/LICENSE.txt ${texts}/THIRD_PARTY.txt
-    COMMAND ${MAKENSIS} -V2 -DNAME=${PROJECT_NAME} -DVERSION=${PROJECT_VERSION} -DSITE=${CALQUO_SITE}
-            -DFILES=${packages}/${package_name} -DOUTPUT=${packages}/${package_name}-setup.exe
-            -DTARGET=${installer_target_${CALQUO_WINDOWS}} -DICON=${PROJECT_SOURCE_DIR}/resources/calquo.ico
-            ${CMAKE_CURRENT_SOURCE_DIR}/installer.nsi
+    COMMAND ${make_setup} -DVERSION=${PROJECT_VERSION} -DOUTPUT=${packages}/${package_name}-setup.exe ${setup_script}
     COMMAND ${CMAKE_COMMAND} -E chdir ${packages} ${CMAKE_COMMAND} -E sha256sum ${package_name}.zip
             ${package_name}-setup.exe > ${packages}/${package_name}.sha256
     COMMENT "Packing ${packages}"
     VERBATIM)
 add_dependencies(package Calquo calq help_file)
 
-# Packs, installs silently, starts, uninstalls.
+# The same programs as a later version, for the tests of the setup.
+add_custom_target(later_setup
+    COMMAND ${make_setup} -DVERSION=99.0 -DOUTPUT=${CMAKE_BINARY_DIR}/later-setup.exe ${setup_script}
+    VERBATIM)
+add_dependencies(later_setup package)
+
+# Packs; installs, repairs, upgrades and uninstalls, silently and by hand.
 add_test(NAME installer
     COMMAND ${PROJECT_SOURCE_DIR}/tests/windows/installer ${CALQUO_WINDOWS} ${CMAKE_BINARY_DIR})
 set_tests_properties(installer PROPERTIES LABELS windows TIMEOUT 300 RUN_SERIAL ON)
