@@ -28,7 +28,12 @@ public:
     /// Calquo2.hhp, .hhc and .hhk. Throws std::ios_base::failure.
     void write(const std::filesystem::path& folder) const;
 
+    /// Writes the pages for a web server into a folder, and search_index.js; search.js belongs beside it. Throws
+    /// std::ios_base::failure.
+    void writeSite(const std::filesystem::path& folder) const;
+
 private:
+    std::string searchIndex() const;
     std::string pageHtml(std::size_t chapter) const;
     std::string wayTo(std::size_t chapter) const;
     std::string contentsHtml() const;

@@ -1,16 +1,19 @@
-// write_help SOURCE TARGET: writes the help of the folder SOURCE as HTML, and what the help compiler needs, to TARGET.
+// write_help SOURCE TARGET SITE: writes the help of the folder SOURCE as HTML, and what the help compiler needs, to
+// TARGET, and the pages for a web server to SITE.
 #include <cstdio>
 #include <exception>
 
 #include "book.h"
 
 int main(int count, char** arguments) {
-    if (count != 3) {
-        std::fputs("Usage: write_help SOURCE TARGET\n", stderr);
+    if (count != 4) {
+        std::fputs("Usage: write_help SOURCE TARGET SITE\n", stderr);
         return 2;
     }
     try {
-        calquo::Book(arguments[1]).write(arguments[2]);
+        const calquo::Book book(arguments[1]);
+        book.write(arguments[2]);
+        book.writeSite(arguments[3]);
         return 0;
     } catch (const calquo::MarkupFault& fault) {
         std::fprintf(stderr, "%s\n", fault.message.c_str());

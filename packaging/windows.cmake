@@ -19,8 +19,8 @@ set(make_setup ${MAKENSIS} -V2 -DNAME=${PROJECT_NAME} -DSITE=${CALQUO_SITE} -DFI
     -DTARGET=${installer_target_${CALQUO_WINDOWS}} -DICON=${PROJECT_SOURCE_DIR}/resources/calquo.ico)
 set(setup_script ${CMAKE_CURRENT_SOURCE_DIR}/installer.nsi)
 add_custom_target(package
-    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/pack_windows ${packages} ${package_name} ${CMAKE_STRIP} $<TARGET_FILE:Calquo>
-            $<TARGET_FILE:calq> ${CMAKE_BINARY_DIR}/Calquo2.chm ${texts}/README.txt ${texts}/LICENSE.txt ${texts}/THIRD_PARTY.txt
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/pack_windows ${packages} ${package_name} ${CMAKE_STRIP}
+            ${CALQUO_HELP_PAGES}/site $<TARGET_FILE:Calquo> $<TARGET_FILE:calq> ${CMAKE_BINARY_DIR}/Calquo2.chm ${texts}/README.txt ${texts}/LICENSE.txt ${texts}/THIRD_PARTY.txt
     COMMAND ${make_setup} -DVERSION=${PROJECT_VERSION} -DOUTPUT=${packages}/${package_name}-setup.exe ${setup_script}
     COMMAND ${CMAKE_COMMAND} -E chdir ${packages} ${CMAKE_COMMAND} -E sha256sum ${package_name}.zip
             ${package_name}-setup.exe > ${packages}/${package_name}.sha256
