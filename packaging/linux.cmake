@@ -28,7 +28,10 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/README.txt ${PROJECT_SOURCE_DIR}/LICEN
     ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${documents})
 
 add_test(NAME install COMMAND ${PROJECT_SOURCE_DIR}/tests/packaging/install ${CMAKE_BINARY_DIR})
-set_tests_properties(install PROPERTIES LABELS core)
+add_test(NAME manifests
+    COMMAND ${CMAKE_COMMAND} -DWORK=${CMAKE_BINARY_DIR}/manifests -DSITE=${CALQUO_SITE}
+            -P ${PROJECT_SOURCE_DIR}/tests/packaging/check_manifests.cmake)
+set_tests_properties(install manifests PROPERTIES LABELS core)
 
 set(CPACK_PACKAGE_NAME calq)
 set(CPACK_PACKAGE_VENDOR "the ${PROJECT_NAME} developers")

@@ -1,0 +1,27 @@
+# Writes the manifests for winget and scoop into PACKAGES/winget and PACKAGES/scoop, with the names, sizes and checksums
+# of the setups and zips in the folder PACKAGES. SITE is the maker's, where they are published, in a folder downloads/VERSION.
+cmake_minimum_required(VERSION 3.25)
+
+set(site ${SITE})
+foreach(width win64 win32)
+    foreach(kind setup zip)
+        string(REPLACE "setup" "-setup.exe" ending ${kind})
+        string(REPLACE "zip" ".zip" ending ${ending})
+        file(GLOB package ${PACKAGES}/calquo-*-${width}${ending})
+        list(LENGTH package count)
+        if(NOT count EQUAL 1)
+            message(FATAL_ERROR "${PACKAGES} has ${count} packages calquo-*-${width}${ending}, not 1")
+        endif()
+        cmake_path(GET package FILENAME name_${width}_${kind})
+        file(SIZE ${package} size_${width}_${kind})
+        file(SHA256 ${package} sha256_${width}_${kind})
+    endforeach()
+endforeach()
+string(REGEX REPLACE "calquo-(.*)-win64\\.zip" "\\1" version ${name_win64_zip})
+set(downloads https://${site}/downloads/${version})
+
+set(templates ${CMAKE_CURRENT_LIST_DIR})
+configure_file(${templates}/winget/version.yaml ${PACKAGES}/winget/Calquo.Calquo.yaml @ONLY)
+configure_file(${templates}/winget/locale.yaml ${PACKAGES}/winget/Calquo.Calquo.locale.en-US.yaml @ONLY)
+configure_file(${templates}/winget/installer.yaml ${PACKAGES}/winget/Calquo.Calquo.installer.yaml @ONLY)
+configure_file(${templates}/scoop/calquo.json ${PACKAGES}/scoop/calquo.json @ONLY)
