@@ -2,6 +2,7 @@
 // the user chooses.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "shell/command_ids.h"
@@ -23,8 +24,18 @@ public:
     /// the user wants to stay.
     bool saveDefaultAtExit();
 
+    /// Reads the file that the program was started with; that there is none is a failure. Nothing is left to undo.
+    void readAtStartup(const std::wstring& file);
+
     void readDefault();
     void saveDefault();
+
+    /// Saves to the file that was read or saved last, and lets the user choose one when there is none.
+    void saveAgain();
+    /// Reads the file that a message of the system's tells of by its word parameter.
+    void readDropped(std::uintptr_t drop);
+    /// Carries out the command of a key of the work area; false when it has none.
+    bool hearKey(const KeyEvent& event);
 
     /// Lets the user choose a file, and does with it what the command says: makes it the default file, reads it, or
     /// saves to it.
@@ -34,12 +45,14 @@ private:
     std::wstring defaultFile() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
+    std::wstring write(const std::wstring& file);
 
     WindowHandle owner_;
     WorkArea& workArea_;
     Settings& settings_;
     const UserDialogs& dialogs_;
     WorkAreaFile file_;
+    std::wstring lastFile_;  ///< Was read or saved last; empty before that.
 };
 
 }  // namespace calquo

@@ -1,6 +1,7 @@
 // What the file commands do, and whom they ask.
 #include "shell/file_commands.h"
 
+#include "shell/dropped_files.h"
 #include "shell/file_messages.h"
 #include "widgets/windows_api.h"
 #include "workarea/disk.h"
@@ -24,7 +25,11 @@ private:
 }  // namespace
 
 FileCommands::FileCommands(WindowHandle owner, WorkArea& workArea, Settings& settings, const UserDialogs& dialogs)
-    : owner_(owner), workArea_(workArea), settings_(settings), dialogs_(dialogs), file_(workArea) {}
+    : owner_(owner), workArea_(workArea), settings_(settings), dialogs_(dialogs), file_(workArea) {
+    workArea_.offerOtherKeys([this](const KeyEvent& event) { return hearKey(event); });
+    acceptFiles(owner_);
+    acceptFiles(workArea_.handle());
+}
 
 std::wstring FileCommands::defaultFile() const { return fullFileName(settings_.text(TextSetting::DefaultFile)); }
 
@@ -33,11 +38,17 @@ void FileCommands::readDefaultAtStartup() {
     try {
         const WaitCursor busy;
         file_.read(file);
+        lastFile_ = file;
     } catch (const FileFault& fault) {
         if (!isAbsence(fault.failure)) {
             dialogs_.showBox(owner_, readFailedBox(file, fault));
         }
     }
+    workArea_.forgetSteps();
+}
+
+void FileCommands::readAtStartup(const std::wstring& file) {
+    read(fullFileName(file));
     workArea_.forgetSteps();
 }
 
@@ -48,9 +59,10 @@ bool FileCommands::saveDefaultAtExit() {
     const std::wstring file = defaultFile();
     for (;;) {
         try {
-            const WaitCursor busy;
-            file_.write(file);
+            write(file);
             return true;
+        } catch (const SaveCancelled&) {
+            return false;
         } catch (const FileFault& fault) {
             if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
                 return false;
@@ -83,6 +95,7 @@ void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
         file_.read(file);
+        lastFile_ = file;
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
     }
@@ -90,13 +103,54 @@ void FileCommands::read(const std::wstring& file) {
 
 void FileCommands::save(const std::wstring& file) {
     try {
-        const WaitCursor busy;
-        const std::wstring kept = file_.write(file);
+        const std::wstring kept = write(file);
+        lastFile_ = file;
         if (!kept.empty()) {
             dialogs_.showHint(keptFileHint(kept));
         }
+    } catch (const SaveCancelled&) {
+        // As the user wants it.
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, saveFailedBox(file, fault));
+    }
+}
+
+std::wstring FileCommands::write(const std::wstring& file) {
+    const WaitCursor busy;
+    return file_.write(file, [&](const FileFault& fault) {
+        return dialogs_.showBox(owner_, cannotBeReadAgainBox(file, fault)) == BoxAnswer::Ok;
+    });
+}
+
+void FileCommands::saveAgain() {
+    if (lastFile_.empty()) {
+        actOnChosenFile(Command::SaveAsFile);
+    } else {
+        save(lastFile_);
+    }
+}
+
+void FileCommands::readDropped(std::uintptr_t drop) {
+    const std::wstring file = takeDroppedFile(drop);
+    if (!file.empty()) {
+        read(file);
+    }
+}
+
+bool FileCommands::hearKey(const KeyEvent& event) {
+    // With Alt as well, a key types a character on some keyboards.
+    if (!event.control || event.shift || event.alt) {
+        return false;
+    }
+    switch (event.key) {
+        case 'S':
+            saveAgain();
+            return true;
+        case 'O':
+            actOnChosenFile(Command::ReadFromFile);
+            return true;
+        default:
+            return false;
     }
 }
 

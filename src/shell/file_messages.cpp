@@ -54,6 +54,13 @@ BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault) {
     return box;
 }
 
+BoxText cannotBeReadAgainBox(const std::wstring& file, const FileFault& fault) {
+    return {BoxKind::OkOrCancel, wideProgramName,
+            L"Calquo will not be able to read the work area again from the file\n" + file + L"\n\n" + reasonOf(fault) +
+                L"\n\nOK saves it all the same. Cancel saves nothing: then you can divide the work area and save its "
+                L"parts."};
+}
+
 std::wstring keptFileHint(const std::wstring& kept) { return L"The file that had this name is kept as " + kept; }
 
 }  // namespace calquo

@@ -20,6 +20,8 @@ BoxText readFailedBox(const std::wstring& file, const FileFault& fault);
 BoxText saveFailedBox(const std::wstring& file, const FileFault& fault);
 /// At the program's end: Cancel keeps it open.
 BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault);
+/// Before a save of what could not be read from the file again: Ok saves it all the same.
+BoxText cannotBeReadAgainBox(const std::wstring& file, const FileFault& fault);
 
 /// A save has left a foreign file under another name.
 std::wstring keptFileHint(const std::wstring& kept);

@@ -23,8 +23,8 @@ class MainWindow : public Window {
 public:
     /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
     /// there; `settings` must outlive the window. The user is asked by `dialogs`. Raises InternalFault when the system
-    /// refuses.
-    explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs());
+    /// refuses. `sheet` names a file that is read instead of the default one, when it is not empty.
+    explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs(), std::wstring sheet = {});
     ~MainWindow() override;
 
     /// Whether a menu entry carries its mark.
@@ -49,6 +49,7 @@ protected:
     bool onKey(const KeyEvent& event) override;
     bool onMenuKey() override { return true; }  // ours has opened already
     bool onCommand(const Notification& notification) override;
+    bool onFilesDropped(std::uintptr_t drop) override;
 
     bool onPaint() override;
     bool onPaintBackground(DrawingContext context) override;
@@ -69,6 +70,7 @@ private:
 
     Settings& settings_;
     UserDialogs dialogs_;
+    std::wstring sheet_;
     MainMenu menu_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;

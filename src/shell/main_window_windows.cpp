@@ -48,9 +48,10 @@ Rectangle maximizedRectangleOf(HWND window) {
 
 }  // namespace
 
-MainWindow::MainWindow(Settings& settings, UserDialogs dialogs)
+MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, std::wstring sheet)
     : settings_(settings),
       dialogs_(std::move(dialogs)),
+      sheet_(std::move(sheet)),
       panels_([this](const PanelEntry& panel, const PanelButton& button) {
           pressButton(*workArea_, panel, button, settings_.angleOption());
       }) {
@@ -97,8 +98,10 @@ void MainWindow::onCreate() {
     }
     moveWhereItCanBeReached();
     layOut();
-    if (isChecked(identifierOf(Command::ReadDefaultAtStartup))) {
-        // After the layout: the text is broken into lines once, at the width that it will have.
+    // After the layout: the text is broken into lines once, at the width that it will have.
+    if (!sheet_.empty()) {
+        files_->readAtStartup(sheet_);
+    } else if (isChecked(identifierOf(Command::ReadDefaultAtStartup))) {
         files_->readDefaultAtStartup();
     }
     seedRandomFromClock();
@@ -285,6 +288,11 @@ bool MainWindow::onKey(const KeyEvent& event) {
         const Rectangle panel = windowRectangle(caption_->left().handle());
         menu_.open(handle(), {panel.left + buttonSize() / 2, panel.top + buttonSize() / 2});
     }
+    return true;
+}
+
+bool MainWindow::onFilesDropped(std::uintptr_t drop) {
+    files_->readDropped(drop);
     return true;
 }
 

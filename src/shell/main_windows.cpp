@@ -1,6 +1,7 @@
 // Calquo.exe: one instance, its settings, one main window and the message loop.
 #include <optional>
 
+#include "shell/command_line.h"
 #include "shell/main_window.h"
 #include "shell/message_loop.h"
 #include "shell/registry_storage.h"
@@ -24,7 +25,7 @@ int runProgram(int showCommand) {
     Settings settings(registry);
     settings.loadAll();
     applyToEngine(settings);
-    MainWindow window(settings);
+    MainWindow window(settings, systemDialogs(), fileOnCommandLine(GetCommandLineW()));
     ShowWindow(window.handle(), showCommand);
     // Painted at once, before everything that waits in the queue by now.
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -13,6 +13,7 @@ namespace calquo {
 enum class BoxKind : std::uint8_t {
     Failure,        ///< The stop icon and Ok.
     RetryOrCancel,  ///< The stop icon.
+    OkOrCancel,     ///< The warning icon; the Enter key cancels.
 };
 enum class BoxAnswer : std::uint8_t { Ok, Retry, Cancel };
 

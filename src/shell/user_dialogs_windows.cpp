@@ -29,6 +29,7 @@ struct BoxRow {
 constexpr BoxRow boxRows[] = {
     {BoxKind::Failure, MB_OK | MB_ICONSTOP},
     {BoxKind::RetryOrCancel, MB_RETRYCANCEL | MB_ICONSTOP},
+    {BoxKind::OkOrCancel, MB_OKCANCEL | MB_ICONWARNING | MB_DEFBUTTON2},
 };
 
 BoxAnswer answerOf(int button) {

@@ -138,6 +138,8 @@ Window::Result Window::dispatch(const Message& message) {
         case WM_COMMAND:
             return dealtWith(
                 onCommand({LOWORD(message.wParam), HIWORD(message.wParam), reinterpret_cast<HWND>(message.lParam)}));
+        case WM_DROPFILES:
+            return dealtWith(onFilesDropped(message.wParam));
         case WM_CREATE:
         case WM_DESTROY:
         case WM_CLOSE:

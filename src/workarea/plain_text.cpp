@@ -29,7 +29,7 @@ constexpr char16_t byteOrderMark = 0xFEFF;
 /// The characters that Windows-1252 has in place of the C1 controls, 80 to 9F; all others have their own number in
 /// Unicode.
 constexpr std::size_t firstC1 = 0x80;
-constexpr std::array<char16_t, 32> windows1252 = {
+constexpr std::array<char16_t, 32> ownCharacters = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
@@ -56,18 +56,46 @@ bool isUtf8(std::string_view bytes) {
     return true;
 }
 
-TextEncoding encodingOf(std::string_view bytes) {
-    for (const MarkRow& row : markRows) {
-        if (!bytes.starts_with(row.mark)) {
-            continue;
-        }
-        const bool valid = isUtf16(row.encoding) ? bytes.size() % bytesInUnit == 0 : isUtf8(bytes);
-        return valid ? row.encoding : TextEncoding::Windows1252;
-    }
-    return isUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252;
+std::u16string decodeWindows1252(std::string_view bytes) {
+    std::u16string units(bytes.size(), u' ');
+    std::transform(bytes.begin(), bytes.end(), units.begin(), [](char byte) {
+        const auto code = static_cast<unsigned char>(byte);
+        const bool isOwn = code >= firstC1 && code < firstC1 + ownCharacters.size();
+        return isOwn ? ownCharacters[code - firstC1] : char16_t{code};
+    });
+    return units;
 }
 
-std::u16string unitsOf(std::string_view bytes, TextEncoding encoding) {
+std::string encodeWindows1252(std::u16string_view units) {
+    std::string bytes(units.size(), '?');
+    std::transform(units.begin(), units.end(), bytes.begin(), [](char16_t unit) {
+        const auto* const own = std::find(ownCharacters.begin(), ownCharacters.end(), unit);
+        const std::size_t code =
+            own != ownCharacters.end() ? firstC1 + static_cast<std::size_t>(own - ownCharacters.begin()) : unit;
+        return code <= 0xFF ? static_cast<char>(code) : '?';
+    });
+    return bytes;
+}
+
+TextEncoding encodingOf(std::string_view bytes, const CodePage& systemCodePage) {
+    for (const MarkRow& row : markRows) {
+        if (bytes.starts_with(row.mark) && (isUtf16(row.encoding) ? bytes.size() % bytesInUnit == 0 : isUtf8(bytes))) {
+            return row.encoding;
+        }
+    }
+    if (isUtf8(bytes)) {
+        return TextEncoding::Utf8;
+    }
+    return systemCodePage.decode(bytes) ? TextEncoding::SystemCodePage : TextEncoding::Windows1252;
+}
+
+std::u16string unitsOf(std::string_view bytes, TextEncoding encoding, const CodePage& systemCodePage) {
+    if (encoding == TextEncoding::SystemCodePage) {
+        return systemCodePage.decode(bytes).value_or(std::u16string());
+    }
+    if (encoding == TextEncoding::Windows1252) {
+        return decodeWindows1252(bytes);
+    }
     std::u16string units;
     units.reserve(isUtf16(encoding) ? bytes.size() / bytesInUnit : bytes.size());
     if (isUtf16(encoding)) {
@@ -76,12 +104,6 @@ std::u16string unitsOf(std::string_view bytes, TextEncoding encoding) {
             const auto lowByte = static_cast<unsigned char>(bytes[index + low]);
             const auto highByte = static_cast<unsigned char>(bytes[index + 1 - low]);
             units += static_cast<char16_t>(highByte << 8 | lowByte);
-        }
-    } else if (encoding == TextEncoding::Windows1252) {
-        for (const char byte : bytes) {
-            const auto code = static_cast<unsigned char>(byte);
-            const bool isOwn = code >= firstC1 && code < firstC1 + windows1252.size();
-            units += isOwn ? windows1252[code - firstC1] : char16_t{code};
         }
     } else {
         while (!bytes.empty()) {
@@ -144,12 +166,12 @@ LineEnd commonLineEnd(std::u16string_view units) {
     return LineEnd::CarriageReturnLineFeed;
 }
 
-void refuseTooMuchText(std::u16string_view units) {
+void refuseTooMuchText(std::u16string_view units, std::uint64_t mostCost) {
     TextCost cost;
     forEachUnit(
         units, [&](char16_t) { cost.addCharacter(); }, [&](LineEnd) { cost.endLine(); });
     cost.endLine();
-    if (cost.isTooMuch()) {
+    if (cost.total() > mostCost) {
         throw FileFault{FileFailure::TooMuchText, {}};
     }
 }
@@ -184,38 +206,29 @@ void appendAsUtf16(std::string& bytes, std::u16string_view units, TextEncoding e
     }
 }
 
-/// The text in Windows-1252; false where a character is missing there, or the bytes would be read as another text.
-bool appendAsWindows1252(std::string& bytes, std::u16string_view units) {
-    for (const char16_t unit : units) {
-        const auto own = std::find(windows1252.begin(), windows1252.end(), unit);
-        if (own != windows1252.end()) {
-            bytes += static_cast<char>(firstC1 + static_cast<std::size_t>(own - windows1252.begin()));
-        } else if (unit < firstC1 || (unit >= firstC1 + windows1252.size() && unit <= 0xFF)) {
-            bytes += static_cast<char>(unit);
-        } else {
-            return false;
-        }
-    }
-    return unitsOf(bytes, encodingOf(bytes)) == units;
-}
-
 }  // namespace
 
-PlainText decodePlainText(std::string_view bytes) {
-    const TextEncoding encoding = encodingOf(bytes);
-    const std::u16string units = unitsOf(bytes.substr(markOf(encoding).size()), encoding);
+const CodePage& windows1252() {
+    static const CodePage codePage{decodeWindows1252, encodeWindows1252};
+    return codePage;
+}
+
+PlainText decodePlainText(std::string_view bytes, const PlainTextRules& rules) {
+    const TextEncoding encoding = encodingOf(bytes, rules.systemCodePage);
+    const std::u16string units = unitsOf(bytes.substr(markOf(encoding).size()), encoding, rules.systemCodePage);
     if (units.find(u'\0') != std::u16string::npos) {
         throw FileFault{FileFailure::NotText, {}};
     }
-    refuseTooMuchText(units);
+    refuseTooMuchText(units, rules.mostCost);
     return {withLineEnds(units, LineEnd::CarriageReturn), {encoding, commonLineEnd(units)}};
 }
 
-std::string encodePlainText(std::u16string_view characters, TextForm form) {
+std::string encodePlainText(std::u16string_view characters, TextForm form, const CodePage& systemCodePage) {
     const std::u16string units = withLineEnds(characters, form.lineEnd);
-    std::string bytes;
-    if (form.encoding == TextEncoding::Windows1252) {
-        if (appendAsWindows1252(bytes, units)) {
+    if (form.encoding == TextEncoding::SystemCodePage || form.encoding == TextEncoding::Windows1252) {
+        const bool isSystems = form.encoding == TextEncoding::SystemCodePage;
+        std::string bytes = (isSystems ? systemCodePage : windows1252()).encode(units);
+        if (unitsOf(bytes, encodingOf(bytes, systemCodePage), systemCodePage) == units) {
             return bytes;
         }
         form.encoding = TextEncoding::Utf8;
@@ -223,7 +236,7 @@ std::string encodePlainText(std::u16string_view characters, TextForm form) {
     if (form.encoding == TextEncoding::Utf8 && units.starts_with(byteOrderMark)) {
         form.encoding = TextEncoding::Utf8WithMark;
     }
-    bytes = markOf(form.encoding);
+    std::string bytes(markOf(form.encoding));
     if (isUtf16(form.encoding)) {
         appendAsUtf16(bytes, units, form.encoding);
     } else {

@@ -29,12 +29,12 @@ class Scanner {
 public:
     explicit Scanner(std::string_view text) : text_(text) {}
 
-    void scan() {
+    void scan(std::uint64_t mostCost) {
         do {
             step();
         } while (depth_ > 0);
         cost_.endLine();
-        if (cost_.isTooMuch()) {
+        if (cost_.total() > mostCost) {
             fail(FileFailure::TooMuchText);
         }
     }
@@ -180,12 +180,12 @@ void appendByte(std::string& text, char byte) {
 
 }  // namespace
 
-std::string richTextToRead(std::string_view bytes) {
+std::string richTextToRead(std::string_view bytes, std::uint64_t mostCost) {
     if (!bytes.starts_with(signature) || (bytes.size() > signature.size() && isLetter(bytes[signature.size()]))) {
         fail(FileFailure::NotRichText);
     }
     Scanner scanner(bytes);
-    scanner.scan();
+    scanner.scan(mostCost);
     std::string text(bytes.substr(0, scanner.end()));
     text.erase(scanner.lastEndBegin(), scanner.lastEndLength());
     return text;

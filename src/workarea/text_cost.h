@@ -1,4 +1,4 @@
-// What a text costs the control that shows it: an upper bound, so that no file makes the program stand still.
+// What a text costs the control that shows it: an upper bound, so that no file takes all of the memory.
 #pragma once
 
 #include <cstddef>
@@ -6,25 +6,28 @@
 
 namespace calquo {
 
-/// Counts a text in short lines. A line of n characters counts 1 + (n / 64)^2: controls go over a long line once more
-/// for every row that they wrap off it, and some keep what is left each time.
+/// Counts a text in short lines of memory. Wine's control takes some 5 kilobytes for a line (2.5 in 32-bit programs),
+/// and 0.3 kilobytes for the square of each 64 characters of a line that it wraps, which also costs it some 30
+/// microseconds.
 class TextCost {
 public:
-    /// The most that is shown. A short line takes some 30 microseconds and 5 kilobytes (2.5 in 32-bit programs) in the
-    /// slowest control that was measured, Wine's.
-    static constexpr std::uint64_t most = sizeof(void*) == 8 ? 1'000'000 : 400'000;
-
     void addCharacter() { ++length_; }
     void endLine() {
         const std::uint64_t rows = length_ / 64;
-        total_ += 1 + rows * rows;
+        total_ += 1 + rows * rows / 8;
         length_ = 0;
     }
-    bool isTooMuch() const { return total_ > most; }
+    std::uint64_t total() const { return total_; }
 
 private:
     std::uint64_t length_ = 0;
     std::uint64_t total_ = 0;
 };
+
+/// The most that Wine's control shows within minutes, and in the memory that a program of this width may have.
+inline constexpr std::uint64_t mostInWine = sizeof(void*) == 8 ? 1'000'000 : 400'000;
+
+/// The most that the control of this machine shows: for the system's own, whatever fits a file.
+std::uint64_t mostTextCost();
 
 }  // namespace calquo

@@ -36,8 +36,11 @@ public:
     static const std::uint32_t resultReplaceQuery;
 
     /// An empty work area, whose results are written under what `format` gives at that time. The F1 key sends
-    /// `helpCommand` to `parent`.
+    /// `helpCommand` to `parent`, and files that are dropped on the work area go there, too.
     WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format);
+
+    /// Offers the keys that are none of the work area's own to `keys`, before the control gets them.
+    void offerOtherKeys(std::function<bool(const KeyEvent&)> keys) { otherKeys_ = std::move(keys); }
 
     CurrentLine currentLine() const;
 
@@ -59,6 +62,7 @@ public:
 
 protected:
     bool onKey(const KeyEvent& event) override;
+    bool onFilesDropped(std::uintptr_t drop) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
@@ -73,6 +77,7 @@ private:
 
     std::uint16_t helpCommand_;
     FormatSource format_;
+    std::function<bool(const KeyEvent&)> otherKeys_;
     bool resultReplaces_ = false;
 };
 

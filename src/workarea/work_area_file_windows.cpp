@@ -1,11 +1,16 @@
 // Between the bytes of files and the control's streams.
 #include "workarea/work_area_file.h"
 
+#include <limits>
 #include <new>
 
+#include "widgets/windows_api.h"
+#include "workarea/code_page.h"
+#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/file_kind.h"
 #include "workarea/rich_text.h"
+#include "workarea/text_cost.h"
 
 namespace calquo {
 namespace {
@@ -29,18 +34,37 @@ void requireTaken(bool taken) {
     }
 }
 
+PlainTextRules plainTextRules() { return {systemCodePage(), mostTextCost()}; }
+
+/// Throws when the bytes could not be read again.
+void refuseWhatCannotBeRead(FileKind kind, std::string_view bytes) {
+    if (bytes.size() > largestFile) {
+        throw FileFault{FileFailure::TooLarge, {}};
+    }
+    if (kind == FileKind::RichText) {
+        richTextToRead(bytes, mostTextCost());
+    } else {
+        decodePlainText(bytes, plainTextRules());
+    }
+}
+
 }  // namespace
+
+std::uint64_t mostTextCost() {
+    static const bool isWine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return isWine ? mostInWine : std::numeric_limits<std::uint64_t>::max();
+}
 
 void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {
         files_.read(name, [&](std::string_view bytes) {
             if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
-                requireTaken(workArea_.replaceContentByRichText(richTextToRead(bytes)));
+                requireTaken(workArea_.replaceContentByRichText(richTextToRead(bytes, mostTextCost())));
                 form_ = {};
             } else {
-                const PlainText text = decodePlainText(bytes);
-                const std::wstring characters(text.characters.begin(), text.characters.end());
-                requireTaken(workArea_.replaceContentByPlainText(characters));
+                const PlainText text = decodePlainText(bytes, plainTextRules());
+                const auto* const characters = reinterpret_cast<const wchar_t*>(text.characters.data());
+                requireTaken(workArea_.replaceContentByPlainText({characters, text.characters.size()}));
                 form_ = text.form;
             }
             return workArea_.revision();
@@ -48,19 +72,30 @@ void WorkAreaFile::read(const std::wstring& name) {
     });
 }
 
-std::wstring WorkAreaFile::write(const std::wstring& name) {
+std::wstring WorkAreaFile::write(const std::wstring& name, const UnreadableListener& mayBeUnreadable) {
     std::wstring kept;
     withMemoryFaults([&] {
         kept = files_.save(name, workArea_.revision(), [&] {
-            if (fileKindOf(name) == FileKind::RichText) {
-                return richTextToWrite(workArea_.contentAsRichText());
+            std::string bytes = bytesFor(fileKindOf(name));
+            try {
+                refuseWhatCannotBeRead(fileKindOf(name), bytes);
+            } catch (const FileFault& fault) {
+                if (!mayBeUnreadable(fault)) {
+                    throw SaveCancelled{};
+                }
             }
-            const std::wstring text = workArea_.contentAsPlainText();
-            const std::u16string units(text.begin(), text.end());
-            return encodePlainText(units, form_);
+            return bytes;
         });
     });
     return kept;
+}
+
+std::string WorkAreaFile::bytesFor(FileKind kind) const {
+    if (kind == FileKind::RichText) {
+        return richTextToWrite(workArea_.contentAsRichText());
+    }
+    const std::wstring text = workArea_.contentAsPlainText();
+    return encodePlainText({reinterpret_cast<const char16_t*>(text.data()), text.size()}, form_, systemCodePage());
 }
 
 bool WorkAreaFile::isInFile() { return files_.hold(workArea_.revision()); }

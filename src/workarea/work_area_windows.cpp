@@ -78,9 +78,14 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return !event.released && candidate.key == event.key && fits(candidate.modifiers, modified);
     });
     if (row == std::end(keyRows)) {
-        return TextArea::onKey(event);
+        return (!event.released && otherKeys_ && otherKeys_(event)) || TextArea::onKey(event);
     }
     (this->*row->act)();
+    return true;
+}
+
+bool WorkArea::onFilesDropped(std::uintptr_t drop) {
+    SendMessageW(parent(), WM_DROPFILES, drop, 0);
     return true;
 }
 

@@ -6,7 +6,11 @@
 #include <functional>
 
 #include "file_folder.h"
+#include "held_key.h"
 #include "program.h"
+
+// Needs <windows.h> before it.
+#include <shlobj.h>
 
 namespace calquo {
 namespace {
@@ -132,6 +136,68 @@ TEST(FileCommands, FailuresOfCommandsNameTheFileAndChangeNothing) {
     EXPECT_EQ(folder.names().size(), 1u);
 }
 
+TEST(FileCommands, KeysSaveToTheLastFileAndReadAnother) {
+    const FileFolder folder;
+    folder.put(L"b.txt", "7*8");
+    User user;
+    Program program({}, user.dialogs());
+    const auto press = [&](int key, int second = 0) {
+        const HeldKey other(second);
+        program.press(program.workArea(), WM_KEYDOWN, static_cast<WPARAM>(key), 1, VK_CONTROL);
+    };
+    program.setText(L"2+3");
+    press('S', VK_MENU);  // types a character on some keyboards
+    EXPECT_TRUE(user.requests.empty());
+    user.choice.name = folder.path(L"a.txt");
+    press('S');
+    ASSERT_EQ(user.requests.size(), 1u);
+    EXPECT_EQ(user.requests[0].dialog, FileDialog::Save);
+    program.setText(L"2+3+4");
+    press('S');
+    EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
+    user.choice.name = folder.path(L"b.txt");
+    press('O');
+    ASSERT_EQ(user.requests.size(), 2u);
+    EXPECT_EQ(user.requests[1].dialog, FileDialog::Open);
+    EXPECT_EQ(answerOf(program, L""), L"7*8 = 56\n\n56");
+    press('S');
+    EXPECT_EQ(folder.bytes(L"b.txt"), "7*8 = 56\r\n\r\n56");
+    EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
+    EXPECT_EQ(folder.names().size(), 2u);
+    EXPECT_EQ(user.requests.size(), 2u);
+}
+
+/// The message's parameter for files that are dropped.
+WPARAM dropOf(const std::wstring& file) {
+    const std::size_t bytes = (file.size() + 2) * sizeof(wchar_t);
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + bytes);
+    auto* const drop = static_cast<DROPFILES*>(GlobalLock(memory));
+    drop->pFiles = sizeof(DROPFILES);
+    drop->fWide = TRUE;
+    file.copy(reinterpret_cast<wchar_t*>(drop + 1), file.size());
+    GlobalUnlock(memory);
+    return reinterpret_cast<WPARAM>(memory);
+}
+
+TEST(FileCommands, ADroppedFileIsReadAsOneStep) {
+    const FileFolder folder;
+    folder.put(L"a b.txt", "7*8");
+    User user;
+    Program program({}, user.dialogs());
+    for (const HWND window : {program.handle(), program.workArea()}) {
+        EXPECT_NE(GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
+        program.setText(L"2+3");
+        SendMessageW(window, WM_DROPFILES, dropOf(folder.path(L"a b.txt")), 0);
+        EXPECT_EQ(program.text(), L"7*8");
+        SendMessageW(program.workArea(), EM_UNDO, 0, 0);
+        EXPECT_EQ(program.text(), L"2+3");
+    }
+    SendMessageW(program.handle(), WM_DROPFILES, dropOf(folder.path(L"none.txt")), 0);
+    ASSERT_EQ(user.boxes.size(), 1u);
+    EXPECT_TRUE(mentions(user.boxes[0], folder.path(L"none.txt")));
+    EXPECT_EQ(program.text(), L"2+3");
+}
+
 // --- The start ------------------------------------------------------------------------------------------------------
 
 TEST(FileCommands, TheStartReadsTheDefaultFileWhenWanted) {
@@ -158,6 +224,20 @@ TEST(FileCommands, TheStartIsSilentAboutAnAbsentFileAlone) {
         Program program(stored(file[0] == L'X' ? name : folder.path(name), ReadAtStartup), user.dialogs());
         EXPECT_EQ(user.boxes.size(), file.ends_with(L"d.rtf") ? 1u : 0u);
         EXPECT_EQ(answerOf(program, L"2+3"), L"2+3 = 5\n\n5");
+    }
+}
+
+TEST(FileCommands, TheFileOfTheCommandLineIsReadInsteadOfTheDefaultFile) {
+    const FileFolder folder;
+    folder.put(L"d.txt", "default");
+    folder.put(L"a.txt", "7*8");
+    for (const wchar_t* name : {L"a.txt", L"none.txt"}) {
+        User user;
+        Program program(stored(folder.path(L"d.txt"), ReadAtStartup), user.dialogs(), folder.path(name));
+        const bool isThere = name[0] == L'a';
+        EXPECT_EQ(user.boxes.size(), isThere ? 0u : 1u);
+        EXPECT_EQ(program.text(), isThere ? L"7*8" : L"");
+        EXPECT_EQ(SendMessageW(program.workArea(), EM_CANUNDO, 0, 0), FALSE);
     }
 }
 

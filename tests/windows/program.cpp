@@ -27,9 +27,10 @@ LRESULT CALLBACK closeMenu(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-Program::Program(MemoryStorage stored, UserDialogs dialogs) : storage_(std::move(stored)), settings_(storage_) {
+Program::Program(MemoryStorage stored, UserDialogs dialogs, std::wstring sheet)
+    : storage_(std::move(stored)), settings_(storage_) {
     settings_.loadAll();
-    window_.emplace(settings_, std::move(dialogs));
+    window_.emplace(settings_, std::move(dialogs), std::move(sheet));
     serveMessages();
 }
 

@@ -15,7 +15,8 @@ namespace calquo {
 class Program {
 public:
     /// A window on the settings that `stored` holds, whose user is asked by `dialogs`.
-    explicit Program(MemoryStorage stored = {}, UserDialogs dialogs = systemDialogs());
+    /// It is started with the file `sheet`, or with none.
+    explicit Program(MemoryStorage stored = {}, UserDialogs dialogs = systemDialogs(), std::wstring sheet = {});
 
     MainWindow& window() { return *window_; }
     HWND handle() const { return window_->handle(); }

@@ -6,16 +6,19 @@
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <tuple>
 
 #include "file_folder.h"
 #include "support/repeated.h"
 #include "widgets/handles.h"
 #include "work_area_fixture.h"
+#include "workarea/code_page.h"
 #include "workarea/file_fault.h"
 
 namespace calquo {
 namespace {
 
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 /// A work area with its files in a folder.
@@ -94,6 +97,53 @@ TEST(WorkAreaFile, PlainTextComesBackByteForByte) {
         ASSERT_EQ(sheet.write(L"out.txt"), std::nullopt);
         EXPECT_TRUE(sheet.folder.bytes(L"out.txt") == bytes);
     }
+}
+
+TEST(WorkAreaFile, TheSystemsCodePagesGoBothWays) {
+    for (const auto& [number, bytes, characters] :
+         {std::tuple{1251u, "\xCF\xE8"sv, u"\u041F\u0438"sv}, std::tuple{932u, "\x83\xCE"sv, u"\u03C0"sv}}) {
+        const CodePage page = codePageOf(number);
+        EXPECT_EQ(page.decode(bytes), characters);
+        EXPECT_EQ(page.encode(characters), bytes);
+    }
+    EXPECT_EQ(codePageOf(932).decode("\x83"), std::nullopt);
+}
+
+TEST(WorkAreaFile, WhatIsSavedIsReadAgain) {
+    // Numbers as wide as fixed point writes them: the control wraps each over a hundred rows.
+    std::string text;
+    for (int count = 0; count < 4; ++count) {
+        text += "1e4900 = 1" + repeated(1'633, ",000") + "\r\n\r\n";
+    }
+    Sheet sheet;
+    sheet.folder.put(L"in.txt", text);
+    ASSERT_EQ(sheet.read(L"in.txt"), std::nullopt);
+    for (const wchar_t* name : {L"x.rtf", L"x.txt"}) {
+        ASSERT_EQ(sheet.write(name), std::nullopt);
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+    }
+    EXPECT_TRUE(sheet.folder.bytes(L"x.txt") == text);
+}
+
+TEST(WorkAreaFile, WhatCouldNotBeReadAgainIsToldBeforeItIsSaved) {
+    Sheet sheet;
+    sheet.desk.workArea().replaceContentByPlainText(L"a\xFFFE\0b"s);
+    sheet.folder.put(L"x.txt", "old");
+    std::optional<FileFailure> told;
+    bool wanted = false;
+    const auto save = [&] {
+        sheet.file.write(sheet.folder.path(L"x.txt"), [&](const FileFault& fault) {
+            told = fault.failure;
+            return wanted;
+        });
+    };
+    EXPECT_THROW(save(), SaveCancelled);
+    EXPECT_EQ(told, FileFailure::NotText);
+    EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "old");
+    EXPECT_EQ(sheet.folder.names().size(), 1u);
+    wanted = true;
+    save();
+    EXPECT_NE(sheet.folder.bytes(L"x.txt"), "old");
 }
 
 TEST(WorkAreaFile, TheFormOfTheTextThatWasReadHoldsForTheNextSave) {

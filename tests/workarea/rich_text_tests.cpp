@@ -7,12 +7,13 @@
 
 #include "support/repeated.h"
 #include "workarea/file_fault.h"
-#include "workarea/text_cost.h"
 
 namespace calquo {
 namespace {
 
 using namespace std::string_view_literals;
+
+constexpr std::uint64_t mostCost = 1'000'000;
 
 TEST(RichText, EndsInFrontOfItsLastParagraphsEnd) {
     struct Row {
@@ -41,13 +42,13 @@ TEST(RichText, EndsInFrontOfItsLastParagraphsEnd) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.bytes);
-        EXPECT_EQ(richTextToRead(row.bytes), row.text);
+        EXPECT_EQ(richTextToRead(row.bytes, mostCost), row.text);
     }
 }
 
 std::optional<FileFailure> failureToRead(std::string_view bytes) {
     try {
-        richTextToRead(bytes);
+        richTextToRead(bytes, mostCost);
         return std::nullopt;
     } catch (const FileFault& fault) {
         return fault.failure;
@@ -80,11 +81,11 @@ TEST(RichText, WhatTheControlCouldNotTakeIsRefused) {
     EXPECT_EQ(failureToRead("{\\rtf1" + repeated(31, "{") + repeated(32, "}")), std::nullopt);
     EXPECT_EQ(failureToRead("{\\rtf1" + repeated(32, "{") + repeated(33, "}")), FileFailure::NestedTooDeeply);
 
-    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(TextCost::most - 1, "\\par\n") + "}"), std::nullopt);
-    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(TextCost::most, "\\par\n") + "}"), FileFailure::TooMuchText);
-    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(70'000, "x") + "}"), FileFailure::TooMuchText);
+    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(mostCost - 1, "\\par\n") + "}"), std::nullopt);
+    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(mostCost, "\\par\n") + "}"), FileFailure::TooMuchText);
+    EXPECT_EQ(failureToRead("{\\rtf1 " + repeated(200'000, "x") + "}"), FileFailure::TooMuchText);
     // A picture's digits are no text.
-    EXPECT_EQ(failureToRead("{\\rtf1{\\pict " + repeated(70'000, "f") + "}}"), std::nullopt);
+    EXPECT_EQ(failureToRead("{\\rtf1{\\pict " + repeated(200'000, "f") + "}}"), std::nullopt);
 }
 
 TEST(RichText, IsWrittenInAsciiForAllReaders) {
