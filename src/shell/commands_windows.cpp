@@ -65,6 +65,7 @@ void Commands::togglePanel(std::uint16_t identifier) {
     } else {
         targets_.panels.close(identifier);
     }
+    targets_.settings.setSelectedPanels(targets_.panels.identifiers());
     targets_.menu.setChecked(identifier, open);
     targets_.layOut();
 }

@@ -135,7 +135,6 @@ void MainWindow::shutDown() {
     if (!savedBeforeEnd_) {
         saveBeforeEnd();  // nobody has asked before
     }
-    settings_.setSelectedPanels(panels_.identifiers());
 }
 
 bool MainWindow::onClose() {

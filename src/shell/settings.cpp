@@ -46,7 +46,6 @@ struct Item {
     const wchar_t* name;
     SettingValue defaultValue;
     std::size_t blockSize = 0;  ///< What a block must have; 0 for any.
-    bool writtenAtOnce = false;
 };
 
 /// The items in the order in which they are saved.
@@ -55,10 +54,10 @@ const auto& items() {
         {flagsNumber, L"Flags", 0u},
         {13, L"Button Size", 0u},
         {14, L"Selected format", 0u},
-        {21, L"Window Rect", SettingBlock{}, edgeCount * bytesInWord, true},
-        {22, L"Selected Panels", SettingBlock{}, 0, true},
+        {21, L"Window Rect", SettingBlock{}, edgeCount * bytesInWord},
+        {22, L"Selected Panels", SettingBlock{}},
         {23, L"Numeric formats", blockOf(defaultFormats), defaultFormats.size() * bytesInWord},
-        {16, L"Default File", L".\\WorkArea.rtf", 0, true},
+        {16, L"Default File", L".\\WorkArea.rtf"},
         {18, L"Group Mark", L","},
         {17, L"Decimal Mark", L"."},
     });
@@ -112,8 +111,8 @@ const Type& Settings::held(std::uint32_t number) const {
 
 void Settings::hold(std::uint32_t number, SettingValue value) {
     const std::size_t row = rowOf(number);
-    values_[row] = std::move(value);
-    if (items()[row].writtenAtOnce) {
+    if (values_[row] != value) {
+        values_[row] = std::move(value);
         storage_.write(items()[row].name, values_[row]);
     }
 }

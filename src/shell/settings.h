@@ -1,5 +1,5 @@
-// The settings store: every persistent option in memory, loaded at the start and saved at the end, with typed views of
-// contents that anybody may have edited.
+// The settings store: every persistent option in memory, loaded at the start, saved when it changes and at the end, with
+// typed views of contents that anybody may have edited.
 #pragma once
 
 #include <cstdint>
@@ -60,7 +60,8 @@ struct Marks {
     bool operator==(const Marks&) const = default;
 };
 
-/// Held values are kept as they were stored, also where a typed view cannot use them and answers with a default.
+/// Held values are kept as they were stored, also where a typed view cannot use them and answers with a default. A change
+/// is written to the storage at once, so that it outlives a program that is killed.
 class Settings {
 public:
     /// Every item at its default; `storage` must outlive the store.
@@ -77,11 +78,9 @@ public:
     std::uint32_t number(NumberSetting setting) const;
     void setNumber(NumberSetting setting, std::uint32_t value);
     const std::wstring& text(TextSetting setting) const;
-    /// The default file is written to the storage at once.
     void setText(TextSetting setting, std::wstring text);
     const SettingBlock& block(BlockSetting setting) const;
-    /// The window rectangle and the selected panels are written to the storage at once. Raises 5 ("internal fault"),
-    /// changing nothing, for a size that the item does not have.
+    /// Raises 5 ("internal fault"), changing nothing, for a size that the item does not have.
     void setBlock(BlockSetting setting, std::span<const std::uint8_t> data);
 
     /// The first of the angle options that is on.
@@ -117,7 +116,7 @@ public:
 private:
     template <typename Type>
     const Type& held(std::uint32_t number) const;
-    /// Holds a value, and writes it where that is done at once.
+    /// Holds a value, and writes it when it is another than before.
     void hold(std::uint32_t number, SettingValue value);
 
     SettingsStorage& storage_;
