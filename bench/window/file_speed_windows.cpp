@@ -63,7 +63,7 @@ void makeSheet(const std::wstring& name) {
     const HWND window =
         CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 800, 600, nullptr, nullptr, nullptr, nullptr);
     NumericFormat format{};
-    WorkArea workArea(window, 1, 2, [&] { return format; });
+    WorkArea workArea(window, 1, {}, [&] { return format; });
     workArea.moveTo({0, 0, 780, 560});
     for (const NumericFormat kind : defaultFormats) {
         format = kind;

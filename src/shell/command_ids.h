@@ -13,6 +13,8 @@ namespace calquo {
 enum class Command : std::uint16_t {
     WorkArea = 1,  ///< Carried by the work area's own notifications.
     ClearWorkArea = 0x120,
+    BringBackWorkArea = 0x121,  ///< A key's; the menu does not have it.
+    SaveAgain = 0x162,          ///< A key's, too.
     ReadDefaultFile = 0x140,
     SaveDefaultFile = 0x141,
     ReadDefaultAtStartup = 0x142,

@@ -10,6 +10,7 @@
 #include "shell/main_menu.h"
 #include "shell/open_panels.h"
 #include "shell/settings.h"
+#include "workarea/recovery.h"
 #include "workarea/work_area.h"
 
 namespace calquo {
@@ -22,6 +23,8 @@ struct CommandTargets {
     OpenPanels& panels;
     WorkArea& workArea;
     FileCommands& files;
+    Recovery& recovery;
+    const UserDialogs& dialogs;
     /// Lays the window out anew and shows it.
     std::function<void()> layOut;
     /// Takes a dialog that has come up, which is to have the focus whenever the window is to pass it on.
@@ -48,8 +51,10 @@ private:
 
     void togglePanel(std::uint16_t identifier);
     void clearWorkArea(std::uint16_t identifier);
+    void bringBackWorkArea(std::uint16_t identifier);
     void readDefaultFile(std::uint16_t identifier);
     void saveDefaultFile(std::uint16_t identifier);
+    void saveAgain(std::uint16_t identifier);
     void chooseFile(std::uint16_t identifier);
     void toggleOption(std::uint16_t identifier);
     void toggleHiddenButtons(std::uint16_t identifier);

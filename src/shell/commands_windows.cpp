@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shell/command_ids.h"
+#include "shell/file_messages.h"
 #include "shell/help.h"
 #include "shell/menu_marks.h"
 #include "widgets/windows_api.h"
@@ -23,8 +24,10 @@ struct Commands::Row {
 const Commands::Row Commands::rows[] = {
     {panelCommands, &Commands::togglePanel},
     {Command::ClearWorkArea, &Commands::clearWorkArea},
+    {Command::BringBackWorkArea, &Commands::bringBackWorkArea},
     {Command::ReadDefaultFile, &Commands::readDefaultFile},
     {Command::SaveDefaultFile, &Commands::saveDefaultFile},
+    {Command::SaveAgain, &Commands::saveAgain},
     {Command::SelectDefaultFile, &Commands::chooseFile},
     {Command::ReadFromFile, &Commands::chooseFile},
     {Command::SaveAsFile, &Commands::chooseFile},
@@ -95,9 +98,17 @@ void Commands::toggleAngle(std::uint16_t identifier) {
 
 void Commands::clearWorkArea(std::uint16_t) { targets_.workArea.clear(); }
 
+void Commands::bringBackWorkArea(std::uint16_t) {
+    if (!targets_.recovery.bringBack()) {
+        targets_.dialogs.showHint(noCopyHint);
+    }
+}
+
 void Commands::readDefaultFile(std::uint16_t) { targets_.files.readDefault(); }
 
 void Commands::saveDefaultFile(std::uint16_t) { targets_.files.saveDefault(); }
+
+void Commands::saveAgain(std::uint16_t) { targets_.files.saveAgain(); }
 
 void Commands::chooseFile(std::uint16_t identifier) {
     targets_.files.actOnChosenFile(static_cast<Command>(identifier));

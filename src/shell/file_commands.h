@@ -21,8 +21,11 @@ public:
     void readDefaultAtStartup();
 
     /// Saves the work area to the default file, unless it is empty and nobody has touched it; false when that fails and
-    /// the user wants to stay.
-    bool saveDefaultAtExit();
+    /// the user wants to stay. Where nobody may be asked, a failure is left alone.
+    bool saveDefaultAtExit(bool mayAsk);
+
+    /// Whether a file that was read or saved holds the text.
+    bool isInFile() { return file_.isInFile(); }
 
     /// Reads the file that the program was started with; that there is none is a failure. Nothing is left to undo.
     void readAtStartup(const std::wstring& file);
@@ -34,8 +37,6 @@ public:
     void saveAgain();
     /// Reads the file that a message of the system's tells of by its word parameter.
     void readDropped(std::uintptr_t drop);
-    /// Carries out the command of a key of the work area; false when it has none.
-    bool hearKey(const KeyEvent& event);
 
     /// Lets the user choose a file, and does with it what the command says: makes it the default file, reads it, or
     /// saves to it.
@@ -45,7 +46,7 @@ private:
     std::wstring defaultFile() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
-    std::wstring write(const std::wstring& file);
+    std::wstring write(const std::wstring& file, bool mayAsk);
 
     WindowHandle owner_;
     WorkArea& workArea_;

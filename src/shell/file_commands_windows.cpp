@@ -26,7 +26,6 @@ private:
 
 FileCommands::FileCommands(WindowHandle owner, WorkArea& workArea, Settings& settings, const UserDialogs& dialogs)
     : owner_(owner), workArea_(workArea), settings_(settings), dialogs_(dialogs), file_(workArea) {
-    workArea_.offerOtherKeys([this](const KeyEvent& event) { return hearKey(event); });
     acceptFiles(owner_);
     acceptFiles(workArea_.handle());
 }
@@ -52,18 +51,21 @@ void FileCommands::readAtStartup(const std::wstring& file) {
     workArea_.forgetSteps();
 }
 
-bool FileCommands::saveDefaultAtExit() {
+bool FileCommands::saveDefaultAtExit(bool mayAsk) {
     if (workArea_.revision() == 0 && workArea_.isEmpty()) {
         return true;
     }
     const std::wstring file = defaultFile();
     for (;;) {
         try {
-            write(file);
+            write(file, mayAsk);
             return true;
         } catch (const SaveCancelled&) {
             return false;
         } catch (const FileFault& fault) {
+            if (!mayAsk) {
+                return true;
+            }
             if (dialogs_.showBox(owner_, saveFailedAtExitBox(file, fault)) != BoxAnswer::Retry) {
                 return false;
             }
@@ -103,7 +105,7 @@ void FileCommands::read(const std::wstring& file) {
 
 void FileCommands::save(const std::wstring& file) {
     try {
-        const std::wstring kept = write(file);
+        const std::wstring kept = write(file, true);
         lastFile_ = file;
         if (!kept.empty()) {
             dialogs_.showHint(keptFileHint(kept));
@@ -115,10 +117,10 @@ void FileCommands::save(const std::wstring& file) {
     }
 }
 
-std::wstring FileCommands::write(const std::wstring& file) {
+std::wstring FileCommands::write(const std::wstring& file, bool mayAsk) {
     const WaitCursor busy;
     return file_.write(file, [&](const FileFault& fault) {
-        return dialogs_.showBox(owner_, cannotBeReadAgainBox(file, fault)) == BoxAnswer::Ok;
+        return !mayAsk || dialogs_.showBox(owner_, cannotBeReadAgainBox(file, fault)) == BoxAnswer::Ok;
     });
 }
 
@@ -134,23 +136,6 @@ void FileCommands::readDropped(std::uintptr_t drop) {
     const std::wstring file = takeDroppedFile(drop);
     if (!file.empty()) {
         read(file);
-    }
-}
-
-bool FileCommands::hearKey(const KeyEvent& event) {
-    // With Alt as well, a key types a character on some keyboards.
-    if (!event.control || event.shift || event.alt) {
-        return false;
-    }
-    switch (event.key) {
-        case 'S':
-            saveAgain();
-            return true;
-        case 'O':
-            actOnChosenFile(Command::ReadFromFile);
-            return true;
-        default:
-            return false;
     }
 }
 

@@ -23,6 +23,10 @@ BoxText saveFailedAtExitBox(const std::wstring& file, const FileFault& fault);
 /// Before a save of what could not be read from the file again: Ok saves it all the same.
 BoxText cannotBeReadAgainBox(const std::wstring& file, const FileFault& fault);
 
+/// The last run has left text that is in no file, and what brings it back.
+inline constexpr wchar_t unsavedCopyHint[] = L"Your last sheet was not saved. Ctrl+Shift+T brings it back.";
+/// There is no earlier text to bring back.
+inline constexpr wchar_t noCopyHint[] = L"No earlier sheet is kept.";
 /// A save has left a foreign file under another name.
 std::wstring keptFileHint(const std::wstring& kept);
 

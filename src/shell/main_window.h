@@ -14,17 +14,25 @@
 #include "shell/settings.h"
 #include "shell/user_dialogs.h"
 #include "shell/window_layout.h"
+#include "widgets/hint_line.h"
 #include "widgets/window.h"
+#include "workarea/recovery.h"
 #include "workarea/work_area.h"
 
 namespace calquo {
+
+/// The files that a window begins with.
+struct StartFiles {
+    std::wstring sheet = {};           ///< Is read instead of the default file; none when empty.
+    std::wstring recoveryFolder = {};  ///< Where the work area is kept; nowhere when empty.
+};
 
 class MainWindow : public Window {
 public:
     /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
     /// there; `settings` must outlive the window. The user is asked by `dialogs`. Raises InternalFault when the system
-    /// refuses. `sheet` names a file that is read instead of the default one, when it is not empty.
-    explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs(), std::wstring sheet = {});
+    /// refuses.
+    explicit MainWindow(Settings& settings, UserDialogs dialogs = systemDialogs(), StartFiles files = {});
     ~MainWindow() override;
 
     /// Whether a menu entry carries its mark.
@@ -36,7 +44,7 @@ protected:
     void onCreate() override;
     void onDestroy() override;
     bool onClose() override;
-    bool maySessionEnd() override { return saveBeforeEnd(); }
+    bool maySessionEnd(bool critical) override;
     void onSessionEnd(bool ends) override;
 
     bool onMoved() override;
@@ -47,6 +55,7 @@ protected:
     WindowHandle focusTarget() const override;
 
     bool onKey(const KeyEvent& event) override;
+    void onPressInside() override { hideHint(); }
     bool onMenuKey() override { return true; }  // ours has opened already
     bool onCommand(const Notification& notification) override;
     bool onFilesDropped(std::uintptr_t drop) override;
@@ -55,7 +64,12 @@ protected:
     bool onPaintBackground(DrawingContext context) override;
 
 private:
-    bool saveBeforeEnd();
+    /// The dialogs, before which the work area is kept.
+    UserDialogs keepingDialogs(UserDialogs dialogs);
+    void tell(const std::wstring& hint);
+    void hideHint();
+
+    bool saveBeforeEnd(bool mayAsk);
     void shutDown();
 
     void runCaptionCommand(CaptionCommand command, WindowHandle button);
@@ -70,11 +84,13 @@ private:
 
     Settings& settings_;
     UserDialogs dialogs_;
-    std::wstring sheet_;
+    StartFiles startFiles_;
     MainMenu menu_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
     std::unique_ptr<FileCommands> files_;
+    std::unique_ptr<Recovery> recovery_;
+    std::unique_ptr<HintLine> hint_;  ///< Made with the first hint.
     OpenPanels panels_;
     std::unique_ptr<Commands> commands_;
     WindowHandle lastFocus_ = nullptr;

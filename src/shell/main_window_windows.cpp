@@ -5,6 +5,7 @@
 
 #include "numeric/random.h"
 #include "shell/command_ids.h"
+#include "shell/file_messages.h"
 #include "shell/menu_marks.h"
 #include "shell/menu_tree.h"
 #include "values/program.h"
@@ -41,6 +42,13 @@ private:
     Action action_;
 };
 
+std::vector<KeyCommand> keyCommands() {
+    return {{VK_F1, Modifiers::Any, identifierOf(Command::HelpContents)},
+            {'S', Modifiers::Control, identifierOf(Command::SaveAgain)},
+            {'O', Modifiers::Control, identifierOf(Command::ReadFromFile)},
+            {'T', Modifiers::ControlShift, identifierOf(Command::BringBackWorkArea)}};
+}
+
 /// The maximized window on the screen that a window is on.
 Rectangle maximizedRectangleOf(HWND window) {
     return maximizedRectangle(screenOf(window).usableArea, windowAround({}, windowStyle));
@@ -48,10 +56,10 @@ Rectangle maximizedRectangleOf(HWND window) {
 
 }  // namespace
 
-MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, std::wstring sheet)
+MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files)
     : settings_(settings),
-      dialogs_(std::move(dialogs)),
-      sheet_(std::move(sheet)),
+      dialogs_(keepingDialogs(std::move(dialogs))),
+      startFiles_(std::move(files)),
       panels_([this](const PanelEntry& panel, const PanelButton& button) {
           pressButton(*workArea_, panel, button, settings_.angleOption());
       }) {
@@ -84,12 +92,19 @@ MainWindow::~MainWindow() { destroy(); }
 void MainWindow::onCreate() {
     setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, screenDotsPerInch())));
     caption_ = std::make_unique<CaptionStrip>(handle());
-    workArea_ =
-        std::make_unique<WorkArea>(handle(), identifierOf(Command::WorkArea), identifierOf(Command::HelpContents),
-                                   [this] { return settings_.format(settings_.selectedFormat()); });
+    workArea_ = std::make_unique<WorkArea>(
+        handle(), identifierOf(Command::WorkArea), keyCommands(),
+        [this] { return settings_.format(settings_.selectedFormat()); },
+        WorkAreaListener{[this] {
+                             hideHint();
+                             recovery_->keepWaiting();
+                         },
+                         [this] { recovery_->keep(); }});
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
+    recovery_ = std::make_unique<Recovery>(
+        *workArea_, [this] { return files_->isInFile(); }, startFiles_.recoveryFolder);
     commands_ = std::make_unique<Commands>(CommandTargets{handle(), settings_, menu_, panels_, *workArea_, *files_,
-                                                          [this] { layOutAndRefresh(); },
+                                                          *recovery_, dialogs_, [this] { layOutAndRefresh(); },
                                                           [this](WindowHandle dialog) { lastFocus_ = dialog; }});
     workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isMarked(identifier, settings_); });
@@ -99,10 +114,13 @@ void MainWindow::onCreate() {
     moveWhereItCanBeReached();
     layOut();
     // After the layout: the text is broken into lines once, at the width that it will have.
-    if (!sheet_.empty()) {
-        files_->readAtStartup(sheet_);
+    if (!startFiles_.sheet.empty()) {
+        files_->readAtStartup(startFiles_.sheet);
     } else if (isChecked(identifierOf(Command::ReadDefaultAtStartup))) {
         files_->readDefaultAtStartup();
+    }
+    if (recovery_->hasUnsavedCopy()) {
+        dialogs_.showHint(unsavedCopyHint);
     }
     seedRandomFromClock();
     created_ = true;
@@ -123,8 +141,14 @@ void MainWindow::onSessionEnd(bool ends) {
     savedBeforeEnd_ = false;
 }
 
-bool MainWindow::saveBeforeEnd() {
-    savedBeforeEnd_ = !isChecked(identifierOf(Command::SaveDefaultAtExit)) || files_->saveDefaultAtExit();
+bool MainWindow::maySessionEnd(bool critical) {
+    // The system may not wait for the end.
+    recovery_->keepNow();
+    return saveBeforeEnd(!critical);
+}
+
+bool MainWindow::saveBeforeEnd(bool mayAsk) {
+    savedBeforeEnd_ = !isChecked(identifierOf(Command::SaveDefaultAtExit)) || files_->saveDefaultAtExit(mayAsk);
     return savedBeforeEnd_;
 }
 
@@ -133,12 +157,13 @@ void MainWindow::shutDown() {
         return;  // what is stored is worth more than the half of a window
     }
     if (!savedBeforeEnd_) {
-        saveBeforeEnd();  // nobody has asked before
+        saveBeforeEnd(true);  // nobody has asked before
     }
+    recovery_->keepAtEnd();
 }
 
 bool MainWindow::onClose() {
-    if (saveBeforeEnd()) {
+    if (saveBeforeEnd(true)) {
         destroy();
     }
     return true;
@@ -148,6 +173,9 @@ bool MainWindow::onClose() {
 
 void MainWindow::onActivation(Activation activation) {
     const bool active = activation != Activation::Inactive;
+    if (!active && recovery_ != nullptr) {
+        recovery_->keep();
+    }
     if (!active && IsChild(handle(), GetFocus()) != 0) {
         lastFocus_ = GetFocus();
     } else if (activation == Activation::ByClick) {
@@ -172,6 +200,41 @@ bool MainWindow::onPaint() {
     const Painting painting(handle());
     caption_->paint(painting.context(), layout().title);
     return true;
+}
+
+// --- Hints ----------------------------------------------------------------------------------------------------------
+
+UserDialogs MainWindow::keepingDialogs(UserDialogs dialogs) {
+    const auto keep = [this] {
+        if (recovery_ != nullptr) {
+            recovery_->keep();
+        }
+    };
+    return {[keep, show = std::move(dialogs.showBox)](WindowHandle owner, const BoxText& box) {
+                keep();
+                return show(owner, box);
+            },
+            [keep, choose = std::move(dialogs.chooseFile)](WindowHandle owner, const FileRequest& request) {
+                keep();
+                return choose(owner, request);
+            },
+            [this, show = std::move(dialogs.showHint)](const std::wstring& hint) {
+                tell(hint);
+                show(hint);
+            }};
+}
+
+void MainWindow::tell(const std::wstring& hint) {
+    if (hint_ == nullptr) {
+        hint_ = std::make_unique<HintLine>(handle());
+    }
+    hint_->tell(hint, layout().workArea);
+}
+
+void MainWindow::hideHint() {
+    if (hint_ != nullptr) {
+        hint_->hide();
+    }
 }
 
 std::optional<Color> MainWindow::backgroundOf(WindowHandle child) const {

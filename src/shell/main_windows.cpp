@@ -25,7 +25,9 @@ int runProgram(int showCommand) {
     Settings settings(registry);
     settings.loadAll();
     applyToEngine(settings);
-    MainWindow window(settings, systemDialogs(), fileOnCommandLine(GetCommandLineW()));
+    MainWindow window(settings, systemDialogs(), {fileOnCommandLine(GetCommandLineW()), recoveryFolder()});
+    // After an update that ends programs or the session; a crash has its own reasons.
+    RegisterApplicationRestart(nullptr, RESTART_NO_CRASH | RESTART_NO_HANG);
     ShowWindow(window.handle(), showCommand);
     // Painted at once, before everything that waits in the queue by now.
     RedrawWindow(window.handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

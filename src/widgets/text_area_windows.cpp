@@ -16,7 +16,8 @@ namespace {
 constexpr wchar_t controlLibrary[] = L"Riched20.dll";
 constexpr wchar_t controlClass[] = L"RichEdit20A";
 constexpr wchar_t unicodeClass[] = L"RichEdit20W";
-constexpr DWORD controlStyle = WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
+constexpr DWORD controlStyle =
+    WS_VSCROLL | WS_CLIPSIBLINGS | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
 constexpr UINT unicodeCodePage = 1200;
 constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
 

@@ -100,8 +100,9 @@ protected:
     virtual void onDestroy() {}
     virtual void onGone() {}
     virtual bool onClose() { return false; }
-    /// Whether the system may end the session; it has then ended, or not.
-    virtual bool maySessionEnd() { return true; }
+    /// Whether the system may end the session; it has then ended, or not. A critical end comes whatever the answer, and
+    /// leaves no time for questions.
+    virtual bool maySessionEnd(bool /*critical*/) { return true; }
     virtual void onSessionEnd(bool /*ends*/) {}
 
     virtual bool onMoved() { return false; }
@@ -119,6 +120,8 @@ protected:
     /// The system would open the window's menu for a key that was pressed alone.
     virtual bool onMenuKey() { return false; }
     virtual bool onMouse(const MouseEvent&) { return false; }
+    /// A mouse button goes down in a child window or on the frame.
+    virtual void onPressInside() {}
     virtual bool onTimer(std::uintptr_t /*timer*/) { return false; }
     virtual bool onCommand(const Notification&) { return false; }
     /// Files were dropped on the window; the system tells of them by `drop`.

@@ -178,7 +178,7 @@ Window::Result Window::dispatchLife(const Message& message) {
         case WM_CLOSE:
             return dealtWith(onClose());
         case WM_QUERYENDSESSION:
-            return maySessionEnd() ? 1 : 0;
+            return maySessionEnd((message.lParam & ENDSESSION_CRITICAL) != 0) ? 1 : 0;
         case WM_ENDSESSION:
             onSessionEnd(message.wParam != 0);
             return 0;
@@ -235,6 +235,15 @@ Window::Result Window::dispatchInput(const Message& message) {
             return takeMouse(MouseAction::Release, message);
         case WM_CAPTURECHANGED:
             return takeMouse(MouseAction::CaptureLost, message);
+        case WM_PARENTNOTIFY:
+            if (LOWORD(message.wParam) != WM_CREATE && LOWORD(message.wParam) != WM_DESTROY) {
+                onPressInside();
+            }
+            return std::nullopt;
+        case WM_NCLBUTTONDOWN:
+        case WM_NCRBUTTONDOWN:
+            onPressInside();
+            return std::nullopt;
         case WM_TIMER:
             return dealtWith(onTimer(message.wParam));
         default:

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "format/numeric_format.h"
 #include "widgets/text_area.h"
@@ -27,6 +28,22 @@ struct LineRange {
     std::size_t end = 0;
 };
 
+/// The modifier keys that a key command wants: none of them, at least one, any or none, or exactly these.
+enum class Modifiers : std::uint8_t { None, Some, Any, Control, ControlShift };
+
+/// A key that sends a command to the work area's parent.
+struct KeyCommand {
+    std::uint32_t key;  ///< The system's virtual key.
+    Modifiers modifiers;
+    std::uint16_t command;
+};
+
+/// Hears what happens in the work area.
+struct WorkAreaListener {
+    std::function<void()> keyPressed = [] {};  ///< Before the key does anything.
+    std::function<void()> evaluated = [] {};   ///< A line has its answer, and shows it.
+};
+
 class WorkArea : public TextArea {
 public:
     using FormatSource = std::function<NumericFormat()>;
@@ -35,12 +52,10 @@ public:
     /// A rich edit control has no message of this number.
     static const std::uint32_t resultReplaceQuery;
 
-    /// An empty work area, whose results are written under what `format` gives at that time. The F1 key sends
-    /// `helpCommand` to `parent`, and files that are dropped on the work area go there, too.
-    WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format);
-
-    /// Offers the keys that are none of the work area's own to `keys`, before the control gets them.
-    void offerOtherKeys(std::function<bool(const KeyEvent&)> keys) { otherKeys_ = std::move(keys); }
+    /// An empty work area, whose results are written under what `format` gives at that time. Files that are dropped on
+    /// it go to `parent`.
+    WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCommand> keyCommands, FormatSource format,
+             WorkAreaListener listener = {});
 
     CurrentLine currentLine() const;
 
@@ -71,13 +86,12 @@ private:
 
     void evaluate();
     void evaluateIntoSelection();
-    void askForHelp();
 
     void apply(const Paragraph& line, const LineEdit& edit);
 
-    std::uint16_t helpCommand_;
+    std::vector<KeyCommand> keyCommands_;
     FormatSource format_;
-    std::function<bool(const KeyEvent&)> otherKeys_;
+    WorkAreaListener listener_;
     bool resultReplaces_ = false;
 };
 

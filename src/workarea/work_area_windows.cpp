@@ -34,9 +34,22 @@ StyledRun controlRun(const StyledText& piece) {
     return {controlText(piece.text), piece.style == TextStyle::Result ? resultStyle : normalStyle};
 }
 
-enum class Modifiers { Released, Held, Any };
-
-bool fits(Modifiers wanted, bool held) { return wanted == Modifiers::Any || (wanted == Modifiers::Held) == held; }
+bool fits(Modifiers wanted, const KeyEvent& event) {
+    const bool any = event.shift || event.control || event.alt;
+    switch (wanted) {
+        case Modifiers::None:
+            return !any;
+        case Modifiers::Some:
+            return any;
+        case Modifiers::Any:
+            return true;
+        case Modifiers::Control:
+            return event.control && !event.shift && !event.alt;
+        case Modifiers::ControlShift:
+            return event.control && event.shift && !event.alt;
+    }
+    return false;
+}
 
 /// Holds a mode on while it lives.
 class ModeOn {
@@ -62,26 +75,34 @@ struct WorkArea::KeyRow {
 };
 
 const WorkArea::KeyRow WorkArea::keyRows[] = {
-    {VK_RETURN, Modifiers::Released, &WorkArea::evaluate},
+    {VK_RETURN, Modifiers::None, &WorkArea::evaluate},
     // Left to itself, the control makes line breaks of several kinds, by the modifier held.
-    {VK_RETURN, Modifiers::Held, &WorkArea::insertLineEnd},
-    {VK_F1, Modifiers::Any, &WorkArea::askForHelp},
-    {VK_F9, Modifiers::Released, &WorkArea::evaluateIntoSelection},
+    {VK_RETURN, Modifiers::Some, &WorkArea::insertLineEnd},
+    {VK_F9, Modifiers::None, &WorkArea::evaluateIntoSelection},
 };
 
-WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::uint16_t helpCommand, FormatSource format)
-    : TextArea(parent, command, normalStyle), helpCommand_(helpCommand), format_(std::move(format)) {}
+WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCommand> keyCommands, FormatSource format,
+                   WorkAreaListener listener)
+    : TextArea(parent, command, normalStyle),
+      keyCommands_(std::move(keyCommands)),
+      format_(std::move(format)),
+      listener_(std::move(listener)) {}
 
 bool WorkArea::onKey(const KeyEvent& event) {
-    const bool modified = event.shift || event.control || event.alt;
-    const auto* const row = std::ranges::find_if(keyRows, [&](const KeyRow& candidate) {
-        return !event.released && candidate.key == event.key && fits(candidate.modifiers, modified);
-    });
-    if (row == std::end(keyRows)) {
-        return (!event.released && otherKeys_ && otherKeys_(event)) || TextArea::onKey(event);
+    if (event.released) {
+        return TextArea::onKey(event);
     }
-    (this->*row->act)();
-    return true;
+    listener_.keyPressed();
+    const auto isMeant = [&](const auto& row) { return row.key == event.key && fits(row.modifiers, event); };
+    if (const auto* const row = std::ranges::find_if(keyRows, isMeant); row != std::end(keyRows)) {
+        (this->*row->act)();
+        return true;
+    }
+    if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
+        SendMessageW(parent(), WM_COMMAND, row->command, 0);
+        return true;
+    }
+    return TextArea::onKey(event);
 }
 
 bool WorkArea::onFilesDropped(std::uintptr_t drop) {
@@ -106,14 +127,14 @@ void WorkArea::evaluate() {
         };
         apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_()));
     }
+    UpdateWindow(handle());
+    listener_.evaluated();
 }
 
 void WorkArea::evaluateIntoSelection() {
     const ModeOn replacing(resultReplaces_);
     evaluate();
 }
-
-void WorkArea::askForHelp() { SendMessageW(parent(), WM_COMMAND, helpCommand_, 0); }
 
 CurrentLine WorkArea::currentLine() const {
     const TextRange selected = selection();

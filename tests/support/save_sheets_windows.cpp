@@ -29,7 +29,7 @@ int main(int count, char** arguments) {
     const std::wstring ending = L"." + wideText(arguments[2]);
     const HWND window =
         CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW, 0, 0, 600, 400, nullptr, nullptr, nullptr, nullptr);
-    WorkArea workArea(window, 1, 2, [] { return defaultFormats[0]; });
+    WorkArea workArea(window, 1, {}, [] { return defaultFormats[0]; });
     workArea.moveTo({0, 0, 600, 400});
     WorkAreaFile file(workArea);
     const std::wstring sheets[] = {sheetOf(L"1/3 = 0.33333"), sheetOf(L"2 pi = 6.28319 \u221E")};

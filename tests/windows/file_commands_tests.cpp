@@ -233,7 +233,7 @@ TEST(FileCommands, TheFileOfTheCommandLineIsReadInsteadOfTheDefaultFile) {
     folder.put(L"a.txt", "7*8");
     for (const wchar_t* name : {L"a.txt", L"none.txt"}) {
         User user;
-        Program program(stored(folder.path(L"d.txt"), ReadAtStartup), user.dialogs(), folder.path(name));
+        Program program(stored(folder.path(L"d.txt"), ReadAtStartup), user.dialogs(), {folder.path(name), {}});
         const bool isThere = name[0] == L'a';
         EXPECT_EQ(user.boxes.size(), isThere ? 0u : 1u);
         EXPECT_EQ(program.text(), isThere ? L"7*8" : L"");
@@ -369,6 +369,10 @@ TEST(FileCommands, TheEndOfTheSessionSavesOrWaits) {
     User user;
     Program program(stored(folder.path(L"none\\d.txt"), SaveAtExit), user.dialogs());
     program.setText(L"2+3");
+    // An end that comes anyway leaves no time for a box.
+    EXPECT_EQ(SendMessageW(program.handle(), WM_QUERYENDSESSION, 0, ENDSESSION_CRITICAL), TRUE);
+    SendMessageW(program.handle(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_TRUE(user.boxes.empty());
     EXPECT_EQ(SendMessageW(program.handle(), WM_QUERYENDSESSION, 0, 0), FALSE);
     SendMessageW(program.handle(), WM_ENDSESSION, FALSE, 0);
     EXPECT_EQ(user.boxes.size(), 1u);

@@ -41,9 +41,9 @@ std::string FileFolder::bytes(std::wstring_view name) const {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::vector<std::wstring> FileFolder::names() const {
+std::vector<std::wstring> FileFolder::namesIn(std::wstring_view folder) const {
     std::vector<std::wstring> names;
-    for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+    for (const auto& entry : std::filesystem::directory_iterator(path(folder))) {
         names.push_back(entry.path().filename().wstring());
     }
     std::sort(names.begin(), names.end());

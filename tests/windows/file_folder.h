@@ -22,7 +22,9 @@ public:
     /// All bytes of a file; "(none)" when there is none.
     std::string bytes(std::wstring_view name) const;
     /// What is in the folder, in order.
-    std::vector<std::wstring> names() const;
+    std::vector<std::wstring> names() const { return namesIn(L""); }
+    /// The same of a folder in it.
+    std::vector<std::wstring> namesIn(std::wstring_view folder) const;
 
 private:
     std::wstring path_;

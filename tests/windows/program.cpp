@@ -27,10 +27,10 @@ LRESULT CALLBACK closeMenu(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-Program::Program(MemoryStorage stored, UserDialogs dialogs, std::wstring sheet)
+Program::Program(MemoryStorage stored, UserDialogs dialogs, StartFiles files)
     : storage_(std::move(stored)), settings_(storage_) {
     settings_.loadAll();
-    window_.emplace(settings_, std::move(dialogs), std::move(sheet));
+    window_.emplace(settings_, std::move(dialogs), std::move(files));
     serveMessages();
 }
 

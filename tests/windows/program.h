@@ -15,8 +15,7 @@ namespace calquo {
 class Program {
 public:
     /// A window on the settings that `stored` holds, whose user is asked by `dialogs`.
-    /// It is started with the file `sheet`, or with none.
-    explicit Program(MemoryStorage stored = {}, UserDialogs dialogs = systemDialogs(), std::wstring sheet = {});
+    explicit Program(MemoryStorage stored = {}, UserDialogs dialogs = systemDialogs(), StartFiles files = {});
 
     MainWindow& window() { return *window_; }
     HWND handle() const { return window_->handle(); }

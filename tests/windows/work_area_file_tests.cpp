@@ -127,7 +127,7 @@ TEST(WorkAreaFile, WhatIsSavedIsReadAgain) {
 
 TEST(WorkAreaFile, WhatCouldNotBeReadAgainIsToldBeforeItIsSaved) {
     Sheet sheet;
-    sheet.desk.workArea().replaceContentByPlainText(L"a\xFFFE\0b"s);
+    sheet.fixture.workArea().replaceContentByPlainText(L"a\xFFFE\0b"s);
     sheet.folder.put(L"x.txt", "old");
     std::optional<FileFailure> told;
     bool wanted = false;

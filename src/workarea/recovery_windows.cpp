@@ -1,0 +1,175 @@
+// The folder and the files of the kept copies.
+#include "workarea/recovery.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "values/program.h"
+#include "widgets/windows_api.h"
+#include "workarea/file_fault.h"
+
+namespace calquo {
+namespace {
+
+std::wstring environmentText(const wchar_t* name) {
+    std::wstring text(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
+    text.resize(GetEnvironmentVariableW(name, text.data(), static_cast<DWORD>(text.size())));
+    return text;
+}
+
+/// The copy's name among those of all sessions, for programs of any version.
+std::wstring mutexName(const std::wstring& copy) {
+    return std::wstring(L"Global\\").append(wideProgramName).append(L" ").append(copy);
+}
+
+std::wstring nameOfThisRun() {
+    SYSTEMTIME now{};
+    GetSystemTime(&now);
+    return copyName({now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, now.wMilliseconds,
+                     GetCurrentProcessId()});
+}
+
+/// Makes a folder with those above it that are missing.
+void makeFolder(const std::wstring& folder) {
+    if (CreateDirectoryW(folder.c_str(), nullptr) == 0 && GetLastError() == ERROR_PATH_NOT_FOUND) {
+        const std::size_t end = folder.find_last_of(L'\\');
+        if (end != std::wstring::npos) {
+            makeFolder(folder.substr(0, end));
+            CreateDirectoryW(folder.c_str(), nullptr);
+        }
+    }
+}
+
+std::vector<std::wstring> fileNamesIn(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return names;
+    }
+    do {
+        names.emplace_back(found.cFileName);
+    } while (FindNextFileW(search, &found) != 0);
+    FindClose(search);
+    return names;
+}
+
+}  // namespace
+
+std::wstring recoveryFolder() {
+    const std::wstring data = environmentText(L"LOCALAPPDATA");
+    if (data.empty()) {
+        return data;
+    }
+    std::wstring folder = data;
+    // Without the version: a newer program finds what an older one has kept.
+    for (const std::string_view level : {makersSite, programName, "Kept Sheets"}) {
+        folder += L'\\';
+        folder.append(level.begin(), level.end());
+    }
+    return folder;
+}
+
+RunningCopyMark::RunningCopyMark(const std::wstring& copy)
+    : mutex_(CreateMutexW(nullptr, FALSE, mutexName(copy).c_str())) {}
+
+RunningCopyMark::~RunningCopyMark() {
+    if (mutex_ != nullptr) {
+        CloseHandle(mutex_);
+    }
+}
+
+bool RunningCopyMark::isSet(const std::wstring& copy) {
+    const HANDLE mutex = OpenMutexW(SYNCHRONIZE, FALSE, mutexName(copy).c_str());
+    if (mutex != nullptr) {
+        CloseHandle(mutex);
+    }
+    return mutex != nullptr;
+}
+
+Recovery::Recovery(WorkArea& workArea, std::function<bool()> isSaved, std::wstring folder)
+    : workArea_(workArea),
+      isSaved_(std::move(isSaved)),
+      file_(workArea),
+      folder_(std::move(folder)),
+      copy_(nameOfThisRun()),
+      running_(copy_) {}
+
+std::vector<std::wstring> Recovery::endedCopies() const {
+    std::vector<std::wstring> copies;
+    if (!folder_.empty()) {
+        copies = copiesNewestFirst(fileNamesIn(folder_));
+    }
+    std::erase_if(copies, RunningCopyMark::isSet);
+    return copies;
+}
+
+bool Recovery::hasUnsavedCopy() const {
+    const std::vector<std::wstring> copies = endedCopies();
+    return !copies.empty() && !isSavedCopy(copies.front());
+}
+
+bool Recovery::bringBack() {
+    for (const std::wstring& copy : endedCopies()) {
+        if (std::ranges::find(broughtBack_, copy) != broughtBack_.end()) {
+            continue;
+        }
+        broughtBack_.push_back(copy);
+        try {
+            file_.read(path(copy));
+            return true;
+        } catch (const FileFault&) {
+            // The one before may be readable.
+        }
+    }
+    broughtBack_.clear();
+    return false;
+}
+
+void Recovery::keep() {
+    isWaiting_ = true;
+    keepWaiting();
+}
+
+void Recovery::keepWaiting() {
+    if (isWaiting_ && pace_.allows(WritingPace::Clock::now())) {
+        keepNow();
+    }
+}
+
+void Recovery::keepNow() {
+    isWaiting_ = false;
+    // What was emptied on purpose is worth more as it was before, and what was only read is safe where it is.
+    if (folder_.empty() || file_.isInFile() || workArea_.isEmpty() || (!isWritten_ && isSaved_())) {
+        return;
+    }
+    const auto begin = WritingPace::Clock::now();
+    try {
+        if (!isWritten_) {
+            makeFolder(folder_);
+            removeOldCopies();
+        }
+        file_.write(path(copy_));
+        isWritten_ = true;
+    } catch (const FileFault&) {
+        isWaiting_ = true;
+    }
+    pace_.wrote(begin, WritingPace::Clock::now());
+}
+
+void Recovery::keepAtEnd() {
+    keepNow();
+    if (isWritten_ && (isSaved_() || workArea_.isEmpty())) {
+        MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str());
+    }
+}
+
+void Recovery::removeOldCopies() const {
+    const std::vector<std::wstring> copies = endedCopies();
+    // This run's own will be one of those that stay.
+    for (std::size_t index = mostCopies - 1; index < copies.size(); ++index) {
+        DeleteFileW(path(copies[index]).c_str());
+    }
+}
+
+}  // namespace calquo

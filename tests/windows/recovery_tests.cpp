@@ -1,0 +1,123 @@
+// What is kept of the work area in the program's own folder, and how it comes back.
+#include "workarea/recovery.h"
+
+#include <gtest/gtest.h>
+
+#include "file_folder.h"
+#include "program.h"
+#include "shell/file_messages.h"
+
+namespace calquo {
+namespace {
+
+constexpr unsigned clear = 0x120, bringBack = 0x121, saveDefault = 0x141;
+
+/// A run of the program that keeps its work area in the folder "Kept" of a test's own.
+struct Execution {
+    explicit Execution(const FileFolder& folder)
+        : program(settingsFor(folder),
+                  {.showBox = {},
+                   .chooseFile = {},
+                   .showHint = [this](const std::wstring& text) { hints.push_back(text); }},
+                  {{}, folder.path(L"Kept\\Sheets")}) {}
+
+    static MemoryStorage settingsFor(const FileFolder& folder) {
+        MemoryStorage storage;
+        storage.values[L"Default File"] = folder.path(L"d.txt");
+        return storage;
+    }
+
+    void evaluate(std::wstring_view line) {
+        for (const wchar_t unit : line) {
+            SendMessageW(program.workArea(), WM_CHAR, unit, 1);
+        }
+        SendMessageW(program.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+    }
+
+    std::vector<std::wstring> hints;
+    Program program;
+};
+
+/// The copies, newest first.
+std::vector<std::wstring> copiesIn(const FileFolder& folder) {
+    std::vector<std::wstring> names = folder.namesIn(L"Kept\\Sheets");
+    const std::vector<std::wstring> copies = copiesNewestFirst(names);
+    EXPECT_EQ(copies.size(), names.size());
+    return copies;
+}
+
+TEST(Recovery, WhatRunsHaveLeftComesBackOneAfterTheOther) {
+    const FileFolder folder;
+    for (const wchar_t* line : {L"1+1", L"2+2", L"3+3", L"4+4", L"5+5", L"6+6"}) {
+        Execution run(folder);
+        run.evaluate(line);
+        run.program.close();
+    }
+    EXPECT_EQ(copiesIn(folder).size(), mostCopies);
+    Execution run(folder);
+    EXPECT_EQ(run.hints, std::vector<std::wstring>{unsavedCopyHint});
+    EXPECT_EQ(run.program.text(), L"");
+    run.evaluate(L"7+7");
+    EXPECT_EQ(copiesIn(folder).size(), mostCopies);
+    // A run that goes on in another session keeps its own.
+    Execution other(folder);
+    other.evaluate(L"8+8");
+    EXPECT_EQ(copiesIn(folder).size(), mostCopies + 1);
+    for (const wchar_t* text : {L"6+6 = 12\n\n12", L"5+5 = 10\n\n10", L"4+4 = 8\n\n8", L"3+3 = 6\n\n6"}) {
+        run.program.command(bringBack);
+        EXPECT_EQ(run.program.text(), text);
+    }
+    SendMessageW(run.program.workArea(), EM_UNDO, 0, 0);
+    EXPECT_EQ(run.program.text(), L"4+4 = 8\n\n8");
+    EXPECT_EQ(run.hints.size(), 1u);
+    run.program.command(bringBack);
+    EXPECT_EQ(run.hints.back(), noCopyHint);
+    EXPECT_EQ(run.program.text(), L"4+4 = 8\n\n8");
+    run.program.command(bringBack);
+    EXPECT_EQ(run.program.text(), L"6+6 = 12\n\n12");
+}
+
+TEST(Recovery, OnlyTextThatNoFileHoldsIsToldOf) {
+    const FileFolder folder;
+    const auto work = [&](bool saves, bool clears) {
+        Execution run(folder);
+        run.evaluate(L"2+3");
+        if (saves) {
+            run.program.command(saveDefault);
+        }
+        if (clears) {
+            run.program.command(clear);
+        }
+        run.program.close();
+    };
+    const auto isTold = [&](bool saves, bool clears) {
+        work(saves, clears);
+        const std::vector<std::wstring> copies = copiesIn(folder);
+        EXPECT_EQ(copies.size(), 1u);
+        EXPECT_NE(folder.bytes(L"Kept\\Sheets\\" + copies[0]).find("2+3"), std::string::npos);
+        const bool told = !Execution(folder).hints.empty();
+        DeleteFileW(folder.path(L"Kept\\Sheets\\" + copies[0]).c_str());
+        return told;
+    };
+    EXPECT_TRUE(isTold(false, false));
+    EXPECT_FALSE(isTold(true, false));
+    EXPECT_FALSE(isTold(false, true));
+}
+
+TEST(Recovery, TextIsKeptWhereItMayEndUnasked) {
+    const FileFolder folder;
+    Execution run(folder);
+    const auto keptText = [&] { return folder.bytes(L"Kept\\Sheets\\" + copiesIn(folder).front()); };
+    run.program.setText(L"first");
+    SendMessageW(run.program.handle(), WM_ACTIVATE, WA_INACTIVE, 0);
+    EXPECT_NE(keptText().find("first"), std::string::npos);
+    run.program.setText(L"second");
+    SendMessageW(run.program.handle(), WM_QUERYENDSESSION, 0, 0);
+    EXPECT_NE(keptText().find("second"), std::string::npos);
+    run.program.setText(L"third");
+    SendMessageW(run.program.handle(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_NE(keptText().find("third"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace calquo
