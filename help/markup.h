@@ -7,7 +7,7 @@
 //
 // A block ```lines shows lines of the work area, "EXPRESSION = RESULT", and so do the columns "Line" and "Result" of a
 // table and code in the text that holds " = ": tests evaluate them all. "<!-- calq: OPTION... -->" gives calq's options
-// for the next block or table. A block ```console shows commands behind "$ " with their output, ```text anything else.
+// for the next block or table. A block ```console shows commands after "$ " with their output, ```text anything else.
 // Any other block, ```KIND ARGUMENT, stands for a table made from the program's own ones; see tables.h.
 //
 // "<!-- index: TERM; TERM -->" leads from terms of the index to the heading above it.

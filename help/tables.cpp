@@ -1,4 +1,4 @@
-// Each table is made row by row from the constant table behind it; see tables.h.
+// Each table is made row by row from a constant table of the program; see tables.h.
 #include "tables.h"
 
 #include <algorithm>
