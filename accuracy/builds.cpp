@@ -10,9 +10,8 @@
 
 namespace calquo {
 
-std::vector<std::vector<std::string>> ask(const Session& session, const std::vector<std::string>& lines,
-                                          NumericFormat word) {
-    const std::filesystem::path asked = session.folder / "lines", answered = session.folder / "answers";
+std::vector<std::vector<std::string>> ask(const Run& run, const std::vector<std::string>& lines, NumericFormat word) {
+    const std::filesystem::path asked = run.folder / "lines", answered = run.folder / "answers";
     {
         std::ofstream file(asked);
         for (const std::string& line : lines) {
@@ -22,7 +21,7 @@ std::vector<std::vector<std::string>> ask(const Session& session, const std::vec
     char digits[9];
     std::snprintf(digits, sizeof digits, "%08X", word);
     std::vector<std::vector<std::string>> answers;
-    for (const Build& build : session.builds) {
+    for (const Build& build : run.builds) {
         const std::string command =
             build.command + " --word " + digits + " <'" + asked.string() + "' >'" + answered.string() + "'";
         const int status = std::system(command.c_str());
@@ -42,9 +41,9 @@ std::vector<std::vector<std::string>> ask(const Session& session, const std::vec
     return answers;
 }
 
-void printHeading(const Session& session, const std::string& firstColumns, const std::string& lastColumn) {
+void printHeading(const Run& run, const std::string& firstColumns, const std::string& lastColumn) {
     std::string heading = "| " + firstColumns + " |";
-    for (const Build& build : session.builds) {
+    for (const Build& build : run.builds) {
         heading += " " + build.name + " |";
     }
     heading += lastColumn.empty() ? "" : " " + lastColumn + " |";

@@ -15,7 +15,7 @@ struct Build {
 };
 
 /// What a section of the page is made from.
-struct Session {
+struct Run {
     int count;  ///< Of random arguments for each row.
     std::uint64_t seed;
     std::string only;  ///< The function to be measured; empty for all.
@@ -25,15 +25,14 @@ struct Session {
 
 /// The answers of each build to all lines, under a word of format. Throws std::runtime_error unless there is one a
 /// line.
-std::vector<std::vector<std::string>> ask(const Session& session, const std::vector<std::string>& lines,
-                                          NumericFormat word);
+std::vector<std::vector<std::string>> ask(const Run& run, const std::vector<std::string>& lines, NumericFormat word);
 
 /// Prints the heading of a table that has a column for each build.
-void printHeading(const Session& session, const std::string& firstColumns, const std::string& lastColumn = "");
+void printHeading(const Run& run, const std::string& firstColumns, const std::string& lastColumn = "");
 
 /// Each prints a table of the page, and what is wrong to the other stream. Returns whether all is well.
-bool measureFunctions(const Session& session);
-bool measureReading(const Session& session);
-bool measureWriting(const Session& session);
+bool measureFunctions(const Run& run);
+bool measureReading(const Run& run);
+bool measureWriting(const Run& run);
 
 }  // namespace calquo

@@ -23,7 +23,7 @@ constexpr const char* usage =
 
 struct Section {
     std::string_view name;
-    bool (*measure)(const Session&);
+    bool (*measure)(const Run&);
 };
 
 constexpr Section sections[] = {
@@ -53,32 +53,32 @@ private:
 };
 
 /// Takes the value of an option. False for an option that there is not.
-bool setOption(Session& session, const std::string& option, const char* value) {
+bool setOption(Run& run, const std::string& option, const char* value) {
     if (option == "--count") {
-        session.count = static_cast<int>(std::strtol(value, nullptr, 10));
+        run.count = static_cast<int>(std::strtol(value, nullptr, 10));
     } else if (option == "--seed") {
-        session.seed = std::strtoull(value, nullptr, 10);
+        run.seed = std::strtoull(value, nullptr, 10);
     } else if (option == "--only") {
-        session.only = value;
+        run.only = value;
     } else if (option == "--folder") {
-        session.folder = value;
+        run.folder = value;
     } else {
         return false;
     }
     return true;
 }
 
-bool readArguments(int count, char** arguments, Session& session) {
+bool readArguments(int count, char** arguments, Run& run) {
     for (int i = 2; i < count; ++i) {
         const std::string argument = arguments[i];
         const std::size_t equals = argument.find('=');
         if (!argument.starts_with("--") && equals != std::string::npos) {
-            session.builds.push_back({argument.substr(0, equals), argument.substr(equals + 1)});
-        } else if (++i == count || !setOption(session, argument, arguments[i])) {
+            run.builds.push_back({argument.substr(0, equals), argument.substr(equals + 1)});
+        } else if (++i == count || !setOption(run, argument, arguments[i])) {
             return false;
         }
     }
-    return session.count > 0 && !session.builds.empty();
+    return run.count > 0 && !run.builds.empty();
 }
 
 }  // namespace
@@ -88,16 +88,16 @@ int main(int count, char** arguments) {
     const auto* const section = std::find_if(std::begin(sections), std::end(sections),
                                              [&](const Section& one) { return count > 1 && one.name == arguments[1]; });
     try {
-        Session session{usualCount, RandomReals::seed, "", {}, {}};
-        if (section == std::end(sections) || !readArguments(count, arguments, session)) {
+        Run run{usualCount, RandomReals::seed, "", {}, {}};
+        if (section == std::end(sections) || !readArguments(count, arguments, run)) {
             std::fputs(usage, stderr);
             return 2;
         }
         const TemporaryFolder temporary;
-        if (session.folder.empty()) {
-            session.folder = temporary.path();
+        if (run.folder.empty()) {
+            run.folder = temporary.path();
         }
-        return section->measure(session) ? 0 : 1;
+        return section->measure(run) ? 0 : 1;
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "accuracy: %s\n", fault.what());
         return 2;

@@ -275,29 +275,29 @@ void checkCompleteness() {
 
 }  // namespace
 
-bool measureFunctions(const Session& session) {
+bool measureFunctions(const Run& run) {
     checkCompleteness();
-    RandomReals random(session.seed);
+    RandomReals random(run.seed);
     std::vector<std::vector<Question>> questions;
     std::vector<std::string> lines;
     for (const MeasuredFunction& function : measuredFunctions()) {
         std::vector<Question> ofRow;
-        const bool isWanted = session.only.empty() || session.only == function.name;
-        for (int i = 0; isWanted && i < session.count; ++i) {
+        const bool isWanted = run.only.empty() || run.only == function.name;
+        for (int i = 0; isWanted && i < run.count; ++i) {
             ofRow.push_back(questionFor(function, random));
             lines.push_back(ofRow.back().line + " '16");
         }
         questions.push_back(std::move(ofRow));
     }
-    const auto answers = ask(session, lines, losslessWord);
-    printHeading(session, "function | arguments", "worst argument");
+    const auto answers = ask(run, lines, losslessWord);
+    printHeading(run, "function | arguments", "worst argument");
     bool isWell = true;
     std::size_t line = 0;
     for (std::size_t i = 0; i < questions.size(); ++i) {
         if (questions[i].empty()) {
             continue;
         }
-        Row row(measuredFunctions()[i], session.builds.size());
+        Row row(measuredFunctions()[i], run.builds.size());
         for (const Question& question : questions[i]) {
             const Expected expected = expectedOf(measuredFunctions()[i], question);
             for (std::size_t build = 0; build < answers.size(); ++build) {

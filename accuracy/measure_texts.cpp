@@ -22,7 +22,7 @@ namespace {
 /// The rows of a table that has one for each of the everyday bases and one for all others.
 class RowsOfBases {
 public:
-    explicit RowsOfBases(const Session& session) { rows_.fill(std::vector<Cell>(session.builds.size())); }
+    explicit RowsOfBases(const Run& run) { rows_.fill(std::vector<Cell>(run.builds.size())); }
 
     void add(std::uint32_t base, std::size_t build, const WrittenError& error, const std::string& line,
              const std::string& answer) {
@@ -166,7 +166,7 @@ Real numberToWrite(const CheckedFormat& format, NumericFormat word, std::uint32_
 }
 
 /// Asks for as many numbers in each row of bases, and adds what is wrong with them.
-void addNumbers(const Session& session, int count, const CheckedFormat& format, NumericFormat word, RandomReals& random,
+void addNumbers(const Run& run, int count, const CheckedFormat& format, NumericFormat word, RandomReals& random,
                 RowsOfBases& rows) {
     struct Number {
         Real x;
@@ -182,7 +182,7 @@ void addNumbers(const Session& session, int count, const CheckedFormat& format, 
             lines.push_back(exactly(numbers.back().x) + " '" + std::to_string(base));
         }
     }
-    const auto answers = ask(session, lines, word);
+    const auto answers = ask(run, lines, word);
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         const auto [number, base] = numbers[i];
         BigFloat x;
@@ -199,18 +199,18 @@ void addNumbers(const Session& session, int count, const CheckedFormat& format, 
 
 }  // namespace
 
-bool measureReading(const Session& session) {
-    RandomReals random(session.seed);
+bool measureReading(const Run& run) {
+    RandomReals random(run.seed);
     std::vector<Numeral> literals;
     std::vector<std::string> lines;
-    for (int i = 0; i < session.count; ++i) {
+    for (int i = 0; i < run.count; ++i) {
         for (std::size_t row = 0; row < baseRows; ++row) {
             literals.push_back(literalIn(baseInRow(row, random), random));
             lines.push_back(textOf(literals.back()) + " '16");
         }
     }
-    const auto answers = ask(session, lines, losslessWord);
-    RowsOfBases rows(session);
+    const auto answers = ask(run, lines, losslessWord);
+    RowsOfBases rows(run);
     for (std::size_t i = 0; i < literals.size(); ++i) {
         BigFloat exact, nearest, answer;
         setTo(exact.get(), literals[i]);
@@ -222,19 +222,19 @@ bool measureReading(const Session& session) {
                      answers[build][i]);
         }
     }
-    printHeading(session, "base");
+    printHeading(run, "base");
     return rows.print("", true);
 }
 
-bool measureWriting(const Session& session) {
-    RandomReals random(session.seed);
+bool measureWriting(const Run& run) {
+    RandomReals random(run.seed);
     bool isWell = true;
-    printHeading(session, "format | base");
+    printHeading(run, "format | base");
     for (const CheckedFormat& format : checkedFormats()) {
-        RowsOfBases rows(session);
+        RowsOfBases rows(run);
         const int words = static_cast<int>(format.words.size());
         for (const NumericFormat word : format.words) {
-            addNumbers(session, (session.count + words - 1) / words, format, word, random, rows);
+            addNumbers(run, (run.count + words - 1) / words, format, word, random, rows);
         }
         isWell = rows.print(std::string(format.name()) + " | ", !format.writesFractions()) && isWell;
     }
