@@ -128,7 +128,7 @@ ReducedAngle reduceAngle(const SignedWide& x) {
     if (std::fabs(rounded) <= pi / 4) {
         return {0, x};
     }
-    // So far out its last bits are worth several turns either way.
+    // From 2^127 on, the error allowed is 2^7 radians, some 20 turns, so rounding x first makes nothing worse.
     return std::fabs(rounded) >= 0x1p127L ? reduceAngle(rounded) : reduceHalfTurns(x * inverseOfPi);
 }
 

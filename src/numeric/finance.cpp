@@ -50,7 +50,7 @@ Arguments readArguments(std::span<const Value> given, std::optional<std::size_t>
     return numbers;
 }
 
-/// The answer as a value; 18 for what is none.
+/// The answer as a value; 18 if it is too large to be one.
 Value finite(const SignedWide& answer) {
     const Real number = toReal(answer);
     if (std::isinf(number)) {
@@ -63,20 +63,21 @@ Value finite(const SignedWide& answer) {
 // g = e^(xp). In it the compounding period has no part but in the two conversions. Numbers are wide, so that neither
 // amounts that nearly cancel cost digits of the answer nor factors that nearly cancel the answer itself.
 
-/// The growth at which all is lost at once: steeper than any other.
+/// The growth at a rate of -100 % per period, the logarithm of 0: so large a negative number that toReal makes it
+/// minus infinity.
 constexpr SignedWide totalLoss(normalized({0, 1}, 1 << 16), true);
 
-/// Exponents of e from which on no amount is anything but 0 or beyond all numbers.
+/// For a larger exponent z, any amount but 0 times e^z is beyond all numbers, and any amount times e^-z counts as 0.
 constexpr Real largestExponent = 0x1p28L;
 
-/// The growth of a nominal annual rate; 18 for a rate that takes more than everything.
+/// The growth of a nominal annual rate; 18 for a rate below -100 % per compounding period.
 SignedWide growthOf(Real annualRate, Real compoundingPeriod) {
     const SignedWide continuous = SignedWide(annualRate) / secondsOfYear;
     const SignedWide perPeriod = continuous * compoundingPeriod;
     if (perPeriod.zero) {
         return continuous;
     }
-    // What rounds to everything counts as everything.
+    // A rate that rounds to -100 % counts as -100 %.
     const Real rounded = toReal(perPeriod);
     if (rounded < -1) {
         raise(ErrorCode::NoSolution);
@@ -249,7 +250,8 @@ private:
 Value missingAmount(const Balance& others, const Balance& unit, const SignedWide& growth) {
     const Balance::Integral known = others.at(growth);
     const Balance::Integral factor = unit.at(growth);
-    // Where all is lost but the first level, and neither is there, any amount fits.
+    // At a rate of -100 % only the first level of a balance keeps its value. If both balances are 0 there, every amount
+    // is a solution; the answer is 0.
     if (std::isinf(toReal(growth)) && !known.exponent.zero && !factor.exponent.zero) {
         return {0};
     }
@@ -335,9 +337,10 @@ Value dur(std::span<const Value> arguments) {
     }
     SignedWide duration = growth.zero ? change / payment * period : 0;
     if (!growth.zero) {
-        // e^(xT) = later / earlier, where both are V (g - 1) + payment g^t, for V the second and the first value, or
-        // that over g for a positive growth: kept + shrinking * e^z with z = -|x| p. They may be nothing but the
-        // latter.
+        // e^(xT) = later / earlier. Each is V (g - 1) + payment g^t: in `later` V is the second value, in `earlier` the
+        // first, and t is 1 for payments at the start of periods, otherwise 0. A positive growth has both divided by g.
+        // Either way each has the form kept + shrinking e^z with z = -|x| p. Where kept is 0, a Term holds the exponent
+        // z separately, as e^z may be too small to compute.
         const bool rises = signOf(growth) > 0;
         const SignedWide z = -absolute(growth * period);
         struct Term {
@@ -383,7 +386,8 @@ Value rate(std::span<const Value> arguments) {
         rates.push_back(
             annualRateOf(logarithmOfRatio(second, first, SignedWide(second) - first) / duration, compounding));
     } else {
-        // Beyond, the slowest of the exponentials outweighs all differences of amounts and times.
+        // For larger |x|, e^(-|x|u) over the shortest length u of a level is less than the ratio of any two amounts, so
+        // that the first level other than 0 decides the sign of the balance, and there is no zero.
         const Real apart = std::fabs(duration - period);
         const Real reach = 40000 / std::min({duration, period, apart > 0 ? apart : period});
         for (const Real sign : {-1.0L, 1.0L}) {
@@ -392,7 +396,7 @@ Value rate(std::span<const Value> arguments) {
             }
         }
     }
-    // Where all is lost, the last payment is left if it comes at the end.
+    // At a rate of -100 % per period, only a last payment at the end of its period is left as the second value.
     if (compounding > 0 && second == (timing == 1 ? 0 : payment)) {
         rates.push_back(SignedWide(-secondsOfYear) / compounding);
     }

@@ -1,4 +1,4 @@
-// Lists of values reduced to one: sums, means, spread, extremes, and the order of values behind them.
+// Lists of values reduced to one: sums, means, spread, extremes, and the order of values that these use.
 // Built from the checked complex operations, whose errors they raise at the item that fed the failing step. The empty
 // list deliberately yields 0 everywhere, its product included.
 #pragma once
