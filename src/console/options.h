@@ -38,7 +38,7 @@ struct OptionFault {
 
 /// Reads the arguments that follow the program's name. What begins with "--" is an option, up to a lone "--";
 /// everything else is an operand, so that "-2^2" is a line to evaluate. An option's argument follows it as the next
-/// argument or behind "=". Of an option given twice the last counts. Throws OptionFault.
+/// argument or after "=". Of an option given twice the last counts. Throws OptionFault.
 Options parseOptions(std::span<const char* const> arguments);
 
 /// What --help prints.

@@ -178,7 +178,8 @@ std::size_t Evaluator::rightOperand(Level level, const Operator& found, Value& v
     return length;
 }
 
-/// A bare operand behind the value so far multiplies it, or is the source unit of the conversion that follows.
+/// Reads a bare operand after the value so far: it multiplies that value, or is the source unit of the conversion that
+/// follows.
 std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
     const std::size_t start = line_.skipBlanks(index);
     if (!isBareOperandAt(start)) {
@@ -196,7 +197,7 @@ std::size_t Evaluator::juxtaposition(std::size_t index, Value& value) {
     return end - index;
 }
 
-/// target { "->" target }, from behind the first arrow on; only the last target counts.
+/// Reads target { "->" target } after the first arrow; only the last target counts.
 std::size_t Evaluator::conversion(const Operator& arrow, const Value& quantity, const Value& source, Value& value) {
     Operator last = arrow;
     Value target;
@@ -314,7 +315,7 @@ std::size_t Evaluator::nameOperand(std::size_t index, Value& value) {
 }
 
 /// With one argument in parentheses, the call of it; with two, the call of the complex number that they make, with at
-/// most one postfix operator; without parentheses right behind the name, the call of the signed operand that follows.
+/// most one postfix operator; without parentheses right after the name, the call of the signed operand that follows.
 std::size_t Evaluator::unaryCall(std::size_t nameEnd, UnaryFunction function, Value& value) {
     std::size_t end = line_.skipBlanks(nameEnd);
     Value argument;

@@ -19,7 +19,8 @@ constexpr std::size_t letterNumber(char letter) { return static_cast<std::size_t
 static_assert(std::all_of(keywordTable.begin() + 1, keywordTable.end(),
                           [](const Keyword& keyword) { return isLetter(keyword.name.front()); }));
 
-/// The index of the first name that begins with a letter or with a later one; behind the last letter's, the end.
+/// For each letter, the index of the first name that begins with it or with a later letter; after the last letter, the
+/// end of the table.
 constexpr std::array<std::size_t, letterCount + 1> firstWithLetter = [] {
     std::array<std::size_t, letterCount + 1> first{};
     std::size_t index = 1;

@@ -8,7 +8,7 @@ namespace calquo {
 /// The 80-bit extended float (64-bit mantissa) in which everything is computed.
 using Real = long double;
 
-/// Where in the evaluated line the literal behind a value stands, as 0-based character indices; -1 where unknown.
+/// Where the evaluated line has the literal that a value comes from: 0-based character indices; -1 where unknown.
 struct Positions {
     std::int32_t literalStart = -1;      ///< first character of the literal
     std::int32_t realPartEnd = -1;       ///< just past its real part

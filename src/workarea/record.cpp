@@ -75,7 +75,7 @@ std::string_view expressionOf(std::string_view line) {
         const std::string_view expression = withoutTrailingBlanks(line);
         return expression.empty() ? line : expression;
     }
-    // Deliberate: a single character in front of "=" is no expression either.
+    // Deliberate: a single character before "=" is no expression either.
     if (equals <= 1) {
         return line.substr(0, 0);
     }

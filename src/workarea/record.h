@@ -50,7 +50,7 @@ struct StyledText {
 };
 
 /// A change of a line's text, with offsets from the line's start. Only the characters from `begin` to `end` are
-/// replaced, so that nothing outside them is lost; a selection may make `end` lie behind the line.
+/// replaced, so that nothing outside them is lost; a selection may make `end` lie past the end of the line.
 struct LineEdit {
     bool changes = false;
     std::size_t begin = 0;
@@ -61,7 +61,7 @@ struct LineEdit {
 
 /// The edit that Enter makes on `line`: an empty line gets a new line; a line without an expression stays as it is; a
 /// number that prints as it was typed gets a new line; any other expression gets its result, an empty line, and the
-/// result once more with the caret behind it. A failed expression gets its error message, nothing is carried on, and
+/// result once more with the caret after it. A failed expression gets its error message, nothing is carried on, and
 /// the caret goes to the mistake.
 LineEdit editAfterEnter(std::string_view line, NumericFormat format);
 

@@ -160,7 +160,8 @@ private:
     std::size_t lastEndLength_ = 0;
 };
 
-/// Appends a character by its number, a question mark behind each for readers from before Unicode.
+/// Appends each UTF-16 unit of a character by its number, followed by the question mark that readers without Unicode
+/// show instead.
 void appendByNumber(std::string& text, char32_t code) {
     std::u16string units;
     appendUtf16(units, code);

@@ -8,7 +8,7 @@
 
 namespace calquo {
 
-/// The rich text in the bytes of a file, ready to be put in place of a selection: what lies behind its last brace is
+/// The rich text in the bytes of a file, ready to be put in place of a selection: what follows its last brace is
 /// left out, and so is the end of its last paragraph, which would begin another line. Throws FileFault: NotRichText,
 /// CutOff, NestedTooDeeply (controls have been seen to crash), TooMuchText where its TextCost is above `mostCost`.
 std::string richTextToRead(std::string_view bytes, std::uint64_t mostCost);
