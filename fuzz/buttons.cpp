@@ -1,4 +1,4 @@
-// Any button pressed on any line with any selection: the edit stays in the line, and so does the caret behind it.
+// Any button pressed on any line with any selection: the edit stays in the line, and so does the caret after the edit.
 #include <string>
 
 #include "panels/button_action.h"

@@ -105,7 +105,8 @@ Var PathBox
 !macro SHARED_FUNCTIONS un
 
 ; Returns $0: the program that runs in this session of the system, of any version and from any folder, or nothing.
-; Entries of the system's list have the process's number at 8 and its file's name behind 9 fields, one a pointer.
+; An entry of the system's list holds the process's number at offset 8, and its file's name after 9 fields, of which
+; one is a pointer.
 Function ${un}findRunning
     !if "${TARGET}" == "amd64-unicode"
         !define ENTRY_SIZE 568

@@ -99,7 +99,7 @@ std::string answerTo(const Row& row, const std::string& expression, std::size_t 
 
 bool isError(const std::string& answer) { return answer.starts_with("Error ("); }
 
-/// "'16 " in front of an expression, or " '16" behind it.
+/// "'16 " before an expression, or " '16" after it.
 struct OutputBaseDirective {
     std::string front, back;
 };

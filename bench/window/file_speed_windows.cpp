@@ -48,7 +48,7 @@ DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) 
     return 0;
 }
 
-/// Puts the text behind itself until it stands there so many times.
+/// Appends copies of the text until the work area holds it so many times.
 void repeat(const WorkArea& workArea, std::size_t times) {
     const std::string text = workArea.contentAsRichText();
     for (std::size_t count = 1; count < times; ++count) {

@@ -62,7 +62,7 @@ void run(int rounds) {
     // The first round only fills the system's caches.
     for (int round = 0; round <= rounds; ++round) {
         for (std::size_t turn = 0; turn < candidates.size(); ++turn) {
-            // Each comes behind each other one, which may leave something to be done behind.
+            // The order makes each program follow each of the others, as one may leave the system work to finish.
             const std::size_t place = round % 2 == 0 ? turn : candidates.size() - 1 - turn;
             Candidate& candidate = candidates[(place + static_cast<std::size_t>(round)) % candidates.size()];
             const Measured measured = measure(candidate);

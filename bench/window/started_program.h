@@ -27,7 +27,7 @@ double median(std::vector<double> values);
 /// The median of what each round says, since a machine may change its speed from one to the next.
 double medianRatio(std::span<const double> values, std::span<const double> ofLeast);
 
-/// The folder of this program, with a backslash behind it.
+/// The folder of this program, with a backslash at its end.
 std::wstring ownFolder();
 
 /// A program that is asked to close at the end of its measuring, and ended when it does not.

@@ -7,7 +7,7 @@
 
 #include "widgets/windows_api.h"
 
-// Needs <windows.h> in front of it.
+// Needs <windows.h> before it.
 #include <psapi.h>
 
 namespace calquo {

@@ -13,7 +13,7 @@
 namespace calquo {
 namespace {
 
-// Most digits everywhere: 31 significant, 31 fractional or denominator digits. The exponent limit is 0, because behind
+// Most digits everywhere: 31 significant, 31 fractional or denominator digits. The exponent limit is 0, because after
 // leading zeros 31 fractional digits would hold fewer significant ones.
 constexpr NumericFormat widest = field::significantDigits | field::digits;
 

@@ -54,7 +54,7 @@ std::string plainText(std::string_view html) {
     return text;
 }
 
-/// Takes what stands in front of `end` from the front of the HTML.
+/// Cuts off the start of the HTML, up to `end`, and returns it.
 std::string_view takeUntil(std::string_view& html, std::string_view end) {
     const std::string_view piece = html.substr(0, html.find(end));
     html.remove_prefix(piece.size());

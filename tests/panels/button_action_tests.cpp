@@ -167,7 +167,7 @@ const ActionRow actionRows[] = {
     {0xA113, "10", "255 '16|", "255|"},
     {0xA113, "10", "255|", "nothing"},
     {0xA113, "10", "'16 255|", "nothing"},
-    // The result behind an expression is not asked.
+    // The base of the result after an expression makes no difference.
     {0xA113, "'16", "255| = 255", "255| '16 = 255"},
     {0xA113, "'16", "255 = 255|", "255 '16 = 255|"},
     {0xA113, "'8", "255 '16 = 16'FF|", "255 '8 = 16'FF|"},

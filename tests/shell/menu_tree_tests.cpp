@@ -17,13 +17,13 @@
 namespace calquo {
 namespace {
 
-/// The character behind "&" in lower case; a blank when there is none.
+/// The character after "&" in lower case; a blank when there is none.
 char mnemonicOf(std::string_view label) {
     const std::size_t mark = label.find('&');
     return mark == std::string_view::npos ? ' ' : lowerCase(characterAt(label, mark + 1));
 }
 
-/// A menu in one line: for each entry its mnemonic with its identifier, which has "*" behind it for a check mark and
+/// A menu in one line: for each entry its mnemonic with its identifier, and after that "*" for a check mark and
 /// "o" for a radio mark; "-" for a separator, ">" for a submenu.
 std::string picture(const std::vector<MenuEntry>& entries) {
     const std::map<MenuKind, std::string_view> marks = {

@@ -72,8 +72,8 @@ inline std::uint32_t wholeNumberFrom(std::string_view digits, std::uint32_t base
 }
 
 /// The digits without their group marks. All groups have one size, but for the outermost one, which may be smaller: the
-/// first, or behind the decimal mark the last. Throws std::runtime_error where there are no digits, or other groups.
-inline std::string digitsOf(std::string_view text, bool behindMark, Numeral& numeral) {
+/// first, or after the decimal mark the last. Throws std::runtime_error where there are no digits, or other groups.
+inline std::string digitsOf(std::string_view text, bool afterMark, Numeral& numeral) {
     std::vector<std::size_t> groups(1);
     std::string digits;
     for (const char character : text) {
@@ -85,7 +85,7 @@ inline std::string digitsOf(std::string_view text, bool behindMark, Numeral& num
             ++groups.back();
         }
     }
-    if (behindMark) {
+    if (afterMark) {
         std::reverse(groups.begin(), groups.end());
     }
     if (groups.size() > 1 && numeral.groupSize == 0) {

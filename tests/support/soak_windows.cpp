@@ -3,7 +3,7 @@
 // status 1 when memory, drawing objects, windows or the time of a step have grown.
 #include "widgets/windows_api.h"
 
-// Needs <windows.h> in front of it.
+// Needs <windows.h> before it.
 #include <psapi.h>
 
 #include <algorithm>

@@ -34,9 +34,9 @@ inline bool isClosest(const mpq_class& fraction, const mpq_class& x, const mpz_c
     const mpz_class b = largestLike(inverse);
     const mpz_class d = largestLike(-inverse);
     const mpq_class before(mpz_class((p * b - 1) / q), b);
-    const mpq_class behind(mpz_class((p * d + 1) / q), d);
+    const mpq_class after(mpz_class((p * d + 1) / q), d);
     const mpq_class distance = abs(x - fraction);
-    return q <= limit && distance <= abs(x - before) && distance <= abs(x - behind);
+    return q <= limit && distance <= abs(x - before) && distance <= abs(x - after);
 }
 
 /// Without a sign. Throws std::runtime_error for anything else.

@@ -46,7 +46,7 @@ inline long exactLeadingPlace(mpfr_srcptr x, std::uint32_t base) {
 /// Which digit of a number is the last one written, and how.
 struct LastPlace {
     bool isScientific = false;
-    long place = 0;  ///< Behind the mark of the number itself; negative ahead of it.
+    long place = 0;  ///< Counted after the decimal mark of the number itself; negative before it.
 };
 
 /// The last place of positive x under a word of one of the kinds that write digits.

@@ -6,7 +6,7 @@
 #include "support/allocations.h"
 #include "widgets/windows_api.h"
 
-// Needs <windows.h> in front of it.
+// Needs <windows.h> before it.
 #include <winternl.h>
 
 namespace calquo {

@@ -32,7 +32,7 @@ public:
     /// The whole text; lines end with "\n".
     std::wstring text() const;
     std::size_t caret() const;
-    /// The whole text with "<...>" around the result style, "|" at the caret and "?" behind a character of any other
+    /// The whole text with "<...>" around the result style, "|" at the caret and "?" after a character of any other
     /// style.
     std::wstring picture();
 

@@ -55,7 +55,7 @@ struct LongText {
     }
 
     WorkAreaFixture fixture;
-    std::vector<double> typing, enter;  ///< One character, and Enter behind it.
+    std::vector<double> typing, enter;  ///< One character, and Enter after it.
 };
 
 double median(std::vector<double> times) {
