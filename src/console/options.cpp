@@ -68,7 +68,7 @@ struct OptionRow {
 constexpr OptionRow optionTable[] = {
     {"record", "", "write records, as the work area does: EXPRESSION = RESULT",
      [](Options& options, std::string_view) { options.record = true; }},
-    {"position", "", "append \" at N\" to errors: N characters stand before the mistake",
+    {"position", "", "append \" at N\" to errors: N characters come before the mistake",
      [](Options& options, std::string_view) { options.position = true; }},
     {"check", "", "evaluate saved records again (from files, or standard input)\nand list those whose result differs",
      [](Options& options, std::string_view) { options.check = true; }},
