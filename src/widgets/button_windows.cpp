@@ -193,8 +193,7 @@ void Button::redraw() { RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE 
 void Button::notify(ButtonNotice notice) {
     // The parent may destroy the button: nothing may be touched after this.
     if (notice != ButtonNotice::None) {
-        SendMessageW(parent(), WM_COMMAND, MAKEWPARAM(command(), static_cast<WORD>(notice)),
-                     reinterpret_cast<LPARAM>(handle()));
+        sendCommand(parent(), {command(), static_cast<std::uint16_t>(notice), handle()});
     }
 }
 

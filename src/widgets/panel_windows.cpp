@@ -113,8 +113,7 @@ bool Panel::onPaint() {
 }
 
 bool Panel::onCommand(const Notification& notification) {
-    SendMessageW(parent(), WM_COMMAND, MAKEWPARAM(notification.command, notification.code),
-                 reinterpret_cast<LPARAM>(notification.control));
+    sendCommand(parent(), notification);
     return true;
 }
 

@@ -54,7 +54,7 @@ class Window {
 public:
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
-    /// Destroys the window. Heirs that are to hear of it call destroy() in their own destructors.
+    /// Destroys the window. Derived classes that are to be told call destroy() in their own destructors.
     virtual ~Window() { destroy(); }
 
     /// The object that owns a window; null for windows that are none of the program's.
@@ -137,7 +137,10 @@ protected:
     virtual bool onDrawChild(WindowHandle /*child*/, DrawingContext, Size) { return false; }
     virtual std::optional<Color> textColorOf(WindowHandle /*child*/) const { return std::nullopt; }
 
-    /// Has the top-level window of this one hear of a key in place of the window's class.
+    /// Tells `receiver` what its onCommand() is called with; it may destroy this window before the call returns.
+    static void sendCommand(WindowHandle receiver, const Notification& notification);
+
+    /// Gives a key to the top-level window of this one, in place of the window's class.
     void passToTopLevel(const KeyEvent& event) const;
 
 private:

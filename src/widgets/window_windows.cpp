@@ -10,8 +10,11 @@ namespace {
 
 std::optional<std::intptr_t> dealtWith(bool yes) { return yes ? std::optional<std::intptr_t>(0) : std::nullopt; }
 
-/// From here on messages have names that programs agree on; those of a window's own stand below.
-constexpr UINT firstRegistered = 0xC000;
+/// Whether a message means something to windows of one class alone.
+bool isOfOneClass(UINT code) {
+    constexpr UINT firstRegistered = 0xC000;  // from here on messages have names that programs agree on
+    return code >= WM_USER && code < firstRegistered;
+}
 
 bool isHeld(int key) { return GetKeyState(key) < 0; }
 
@@ -112,6 +115,11 @@ Window* Window::of(WindowHandle window) {
     return isOurs ? Procedure::ownerOf(window) : nullptr;
 }
 
+void Window::sendCommand(WindowHandle receiver, const Notification& notification) {
+    SendMessageW(receiver, WM_COMMAND, MAKEWPARAM(notification.command, notification.code),
+                 reinterpret_cast<LPARAM>(notification.control));
+}
+
 void Window::passToTopLevel(const KeyEvent& event) const {
     if (Window* const topLevel = of(GetAncestor(handle(), GA_ROOT))) {
         topLevel->onKey(event);
@@ -134,37 +142,13 @@ std::intptr_t Window::forget(const Message& message) {
 // --- Messages -------------------------------------------------------------------------------------------------------
 
 Window::Result Window::dispatch(const Message& message) {
-    switch (message.code) {
-        case WM_COMMAND:
-            return dealtWith(
-                onCommand({LOWORD(message.wParam), HIWORD(message.wParam), reinterpret_cast<HWND>(message.lParam)}));
-        case WM_DROPFILES:
-            return dealtWith(onFilesDropped(message.wParam));
-        case WM_CREATE:
-        case WM_DESTROY:
-        case WM_CLOSE:
-        case WM_QUERYENDSESSION:
-        case WM_ENDSESSION:
-            return dispatchLife(message);
-        case WM_PAINT:
-        case WM_ERASEBKGND:
-        case WM_NCPAINT:
-        case WM_DRAWITEM:
-        case WM_CTLCOLORSTATIC:
-        case WM_CTLCOLORBTN:
-        case WM_CTLCOLOREDIT:
-            return dispatchPainting(message);
-        case WM_GETDLGCODE:
-        case WM_UNDO:
-        case EM_UNDO:
-            return onSimpleMessage(message.code);
-        default:
-            if (message.code >= WM_USER && message.code < firstRegistered) {
-                return onSimpleMessage(message.code);
-            }
-            const Result placed = dispatchPlacement(message);
-            return placed ? placed : dispatchInput(message);
+    for (const auto part :
+         {&Window::dispatchLife, &Window::dispatchPlacement, &Window::dispatchInput, &Window::dispatchPainting}) {
+        if (const Result result = (this->*part)(message)) {
+            return result;
+        }
     }
+    return std::nullopt;
 }
 
 Window::Result Window::dispatchLife(const Message& message) {
@@ -246,8 +230,17 @@ Window::Result Window::dispatchInput(const Message& message) {
             return std::nullopt;
         case WM_TIMER:
             return dealtWith(onTimer(message.wParam));
+        case WM_COMMAND:
+            return dealtWith(
+                onCommand({LOWORD(message.wParam), HIWORD(message.wParam), reinterpret_cast<HWND>(message.lParam)}));
+        case WM_DROPFILES:
+            return dealtWith(onFilesDropped(message.wParam));
+        case WM_GETDLGCODE:
+        case WM_UNDO:
+        case EM_UNDO:
+            return onSimpleMessage(message.code);
         default:
-            return std::nullopt;
+            return isOfOneClass(message.code) ? onSimpleMessage(message.code) : std::nullopt;
     }
 }
 
@@ -261,8 +254,12 @@ Window::Result Window::dispatchPainting(const Message& message) {
             return dealtWith(onPaintFrame());
         case WM_DRAWITEM:
             return takeDrawing(message);
-        default:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLOREDIT:
             return colorsOfChild(message);
+        default:
+            return std::nullopt;
     }
 }
 

@@ -51,6 +51,14 @@ bool fits(Modifiers wanted, const KeyEvent& event) {
     return false;
 }
 
+/// The place of a position in a line that starts at `start`, and the way back.
+std::size_t offsetIn(std::int32_t start, std::int32_t position) { return static_cast<std::size_t>(position - start); }
+std::int32_t positionOf(std::int32_t start, std::size_t offset) { return start + static_cast<std::int32_t>(offset); }
+
+TextRange textRange(std::int32_t start, std::size_t begin, std::size_t end) {
+    return {positionOf(start, begin), positionOf(start, end)};
+}
+
 /// Holds a mode on while it lives.
 class ModeOn {
 public:
@@ -99,7 +107,7 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
-        SendMessageW(parent(), WM_COMMAND, row->command, 0);
+        sendCommand(parent(), {row->command});
         return true;
     }
     return TextArea::onKey(event);
@@ -122,10 +130,8 @@ void WorkArea::evaluate() {
     if (SendMessageW(handle(), resultReplaceQuery, 0, 0) == 0) {
         apply(line, editAfterEnter(text, format_()));
     } else {
-        const auto offset = [&](std::int32_t position) {
-            return static_cast<std::size_t>(position - line.range.begin);
-        };
-        apply(line, editWithResult(text, offset(selected.begin), offset(selected.end), format_()));
+        const std::int32_t start = line.range.begin;
+        apply(line, editWithResult(text, offsetIn(start, selected.begin), offsetIn(start, selected.end), format_()));
     }
     UpdateWindow(handle());
     listener_.evaluated();
@@ -139,10 +145,9 @@ void WorkArea::evaluateIntoSelection() {
 CurrentLine WorkArea::currentLine() const {
     const TextRange selected = selection();
     const Paragraph line = paragraphAt(selected.begin);
-    const auto offset = [&](std::int32_t position) {
-        return static_cast<std::size_t>(std::clamp(position, line.range.begin, line.range.end) - line.range.begin);
-    };
-    return {languageText(line.text), line.range.begin, offset(selected.begin), offset(selected.end)};
+    const auto [start, end] = line.range;
+    return {languageText(line.text), start, offsetIn(start, std::clamp(selected.begin, start, end)),
+            offsetIn(start, std::clamp(selected.end, start, end))};
 }
 
 void WorkArea::typeCharacters(std::string_view characters) {
@@ -164,15 +169,14 @@ void WorkArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
 
 void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
                         std::size_t caret) {
-    const auto positionOf = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
-    const TextRange inside{positionOf(range.begin), positionOf(range.end)};
+    const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
-    replace(inside, {{text, normalStyle}}, positionOf(caret));
+    replace(inside, {{text, normalStyle}}, positionOf(line.start, caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
-    const auto positionOf = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
-    replace({positionOf(range.begin), positionOf(range.end)}, {{controlText(text), normalStyle}}, positionOf(caret));
+    replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
+            positionOf(line.start, caret));
 }
 
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
@@ -181,8 +185,8 @@ void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
     }
     std::vector<StyledRun> runs(edit.pieces.size());
     std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
-    const auto positionOf = [&](std::size_t offset) { return line.range.begin + static_cast<std::int32_t>(offset); };
-    replace({positionOf(edit.begin), positionOf(edit.end)}, runs, positionOf(edit.caret));
+    const std::int32_t start = line.range.begin;
+    replace(textRange(start, edit.begin, edit.end), runs, positionOf(start, edit.caret));
 }
 
 }  // namespace calquo
