@@ -67,6 +67,8 @@ protected:
     /// Creates the window, without a size; raises InternalFault when the system refuses.
     Component(const WidgetClass& widgetClass, const Creation& creation);
 
+    /// moveTo() has given the window another rectangle.
+    virtual void onPlaced() {}
     bool onMouse(const MouseEvent& event) override;
     void onGone() override { tooltip_.reset(); }
 

@@ -70,6 +70,7 @@ void Component::moveTo(const Rectangle& rectangle) {
     const UINT showing = std::exchange(placed_, true) ? 0U : static_cast<UINT>(SWP_SHOWWINDOW);
     SetWindowPos(handle(), nullptr, rectangle.left, rectangle.top, rectangle.width, rectangle.height + dropHeight_,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE | showing);
+    onPlaced();
 }
 
 void Component::show() { ShowWindow(handle(), SW_SHOWNA); }

@@ -45,9 +45,6 @@ public:
     /// control is not to be had.
     TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);
 
-    /// Moves the window to a rectangle in the parent's client area, and keeps a margin around the text.
-    void moveTo(const Rectangle& area);
-
     TextRange selection() const;
     void select(TextRange range);
 
@@ -84,6 +81,8 @@ public:
     void forgetSteps();
 
 protected:
+    /// Keeps a margin around the text.
+    void onPlaced() override;
     bool onKey(const KeyEvent& event) override;
     bool onCharacter(wchar_t character) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
@@ -106,7 +105,7 @@ private:
     CharacterStyle normal_;
     std::wstring fontName_;
     std::uint32_t revision_ = 0;
-    bool hasGoneBack_ = false;  ///< By undo or redo, of which the control's own mark for changes does not tell.
+    bool hasGoneBack_ = false;  ///< By undo or redo, which the control's modified flag does not show.
 };
 
 }  // namespace calquo

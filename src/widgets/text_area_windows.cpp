@@ -217,13 +217,10 @@ void TextArea::typeInNormalStyle() {
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
-void TextArea::moveTo(const Rectangle& area) {
-    if (area == rectangle()) {
-        return;  // the control breaks its lines anew for every rectangle
-    }
-    Component::moveTo(area);
+void TextArea::onPlaced() {
     const int space = scaledToScreen(margin, screenDotsPerInch());
-    RECT inside{space, space, area.width - space, area.height - space};
+    RECT inside{space, space, rectangle().width - space, rectangle().height - space};
+    // The control breaks its lines anew for every rectangle.
     SendMessageW(handle(), EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
 }
 
