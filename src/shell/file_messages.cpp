@@ -1,6 +1,10 @@
 // Titles and texts, each in one place.
 #include "shell/file_messages.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "values/errors.h"
 #include "values/program.h"
 
 namespace calquo {
@@ -27,9 +31,9 @@ constexpr wchar_t cannotSave[] = L"The work area cannot be saved to the file";
 }  // namespace
 
 FileRequest fileRequestOf(Command command, const std::wstring& defaultFile) {
-    const RequestRow* row = requestRows;
-    while (row->command != command) {
-        ++row;
+    const RequestRow* const row = std::ranges::find(requestRows, command, &RequestRow::command);
+    if (row == std::end(requestRows)) {
+        raise(ErrorCode::InternalFault);
     }
     return {row->dialog, row->title, defaultFile};
 }
