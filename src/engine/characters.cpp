@@ -7,10 +7,15 @@
 namespace calquo {
 
 consteval CharacterTable::CharacterTable() {
-    constexpr std::string_view initial =
-        "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\.,'@(); \t=+-*/^%!:>";
-    static_assert(initial.size() == std::tuple_size_v<decltype(characters_)>);
-    initial.copy(characters_.data(), initial.size());
+    constexpr std::string_view beforeMarks = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_\\";
+    constexpr std::array marks{defaultDecimalMark, defaultGroupMark};
+    constexpr std::string_view afterMarks = "'@(); \t=+-*/^%!:>";
+    static_assert(beforeMarks.size() == indexOf(TokenClass::DecimalMark));
+    static_assert(beforeMarks.size() + marks.size() + afterMarks.size() == std::tuple_size_v<decltype(characters_)>);
+    auto place = characters_.begin();
+    for (const std::string_view part : {beforeMarks, std::string_view(marks.data(), marks.size()), afterMarks}) {
+        place = std::ranges::copy(part, place).out;
+    }
     // The ">" at the end only completes an arrow.
     for (std::size_t index = firstClass; index + 1 < characters_.size(); ++index) {
         classes_[static_cast<unsigned char>(characters_[index])] = static_cast<TokenClass>(index - firstClass);

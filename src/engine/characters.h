@@ -31,6 +31,10 @@ enum class TokenClass : std::uint8_t {
     Arrow,  ///< "->"; the character of its row is not used for matching
 };
 
+/// What the two marks are until people choose others.
+constexpr char defaultDecimalMark = '.';
+constexpr char defaultGroupMark = ',';
+
 /// The digits between two group marks: what everybody writes, and what people may choose for results.
 constexpr std::uint32_t thousandsGroup = 3;
 constexpr std::uint32_t shortestGroup = 2;

@@ -58,8 +58,8 @@ const auto& items() {
         {22, L"Selected Panels", SettingBlock{}},
         {23, L"Numeric formats", blockOf(defaultFormats), defaultFormats.size() * bytesInWord},
         {16, L"Default File", L".\\WorkArea.rtf"},
-        {18, L"Group Mark", L","},
-        {17, L"Decimal Mark", L"."},
+        {18, L"Group Mark", std::wstring(1, defaultGroupMark)},
+        {17, L"Decimal Mark", std::wstring(1, defaultDecimalMark)},
     });
     return rows;
 }
@@ -247,7 +247,7 @@ Marks Settings::marks() const {
     marks.decimal = markOf(text(TextSetting::DecimalMark), marks.decimal);
     marks.group = markOf(text(TextSetting::GroupMark), marks.group);
     if (marks.group == marks.decimal) {
-        marks.group = marks.decimal == ',' ? '.' : ',';
+        marks.group = marks.decimal == defaultGroupMark ? defaultDecimalMark : defaultGroupMark;
     }
     return marks;
 }

@@ -1,5 +1,5 @@
-// The settings store: every persistent option in memory, loaded at the start, saved when it changes and at the end, with
-// typed views of contents that anybody may have edited.
+// The settings store: every persistent option in memory, loaded at the start, saved when it changes and at the end,
+// with typed views of contents that anybody may have edited.
 #pragma once
 
 #include <cstdint>
@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "engine/characters.h"
 #include "format/numeric_format.h"
 #include "panels/angle_options.h"
 
@@ -54,14 +55,14 @@ struct ScreenRectangle {
 
 /// The two characters of the language that the user chooses.
 struct Marks {
-    char decimal = '.';
-    char group = ',';
+    char decimal = defaultDecimalMark;
+    char group = defaultGroupMark;
 
     bool operator==(const Marks&) const = default;
 };
 
-/// Held values are kept as they were stored, also where a typed view cannot use them and answers with a default. A change
-/// is written to the storage at once, so that it outlives a program that is killed.
+/// Held values are kept as they were stored, also where a typed view cannot use them and answers with a default. A
+/// change is written to the storage at once, so that it outlives a program that is killed.
 class Settings {
 public:
     /// Every item at its default; `storage` must outlive the store.
