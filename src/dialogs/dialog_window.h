@@ -34,8 +34,8 @@ protected:
     /// Free for the commands of other widgets, from here on.
     static constexpr std::uint16_t firstCommand = 100;
 
-    /// Heirs close the dialog in their destructors, while they can still hear its last messages, and forget their
-    /// widgets in onGone(): their windows are gone by then.
+    /// Derived classes close the dialog in their destructors, while they can still receive its last messages, and
+    /// forget their widgets in onGone(): their windows are gone by then.
     DialogWindow() = default;
 
     /// Shows a new window, or brings the open one to the front, which stays as it is. Raises InternalFault when the

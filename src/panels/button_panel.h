@@ -13,7 +13,7 @@ namespace calquo {
 
 class ButtonPanel : public Panel {
 public:
-    /// Hears which button of the panel was pressed.
+    /// Is told which button of the panel was pressed.
     using Listener = std::function<void(const PanelEntry&, const PanelButton&)>;
 
     /// The panel of an entry, its rows one below the other.

@@ -8,7 +8,7 @@
 
 namespace calquo {
 
-/// Lets files be dropped on a window, which hears of them by the system's message.
+/// Lets files be dropped on a window, which is told of them by the system's message.
 void acceptFiles(WindowHandle window);
 
 /// The first of the files that a message tells of by its word parameter, with its whole path. Frees what the system

@@ -16,8 +16,8 @@ public:
 
     bool isChecked(std::uint16_t identifier) const;
     void setChecked(std::uint16_t identifier, bool on);
-    /// Gives every entry that can have a mark the one that `isMarked` says.
-    void showMarks(const std::function<bool(std::uint16_t)>& isMarked);
+    /// Checks, of the entries that can be checked, those for which `isOn` answers true, and clears the others.
+    void showMarks(const std::function<bool(std::uint16_t)>& isOn);
 
     /// Shows the whole menu with its top left corner at `corner`, a point of the screen, until the user has chosen or
     /// dismissed it; the choice is posted to `owner` as its command. Alt+F4 closes the owner from here as well.

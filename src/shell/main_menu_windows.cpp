@@ -47,13 +47,12 @@ void setMark(HMENU menu, std::uint16_t identifier, bool on) {
     CheckMenuItem(menu, identifier, static_cast<UINT>(MF_BYCOMMAND | (on ? MF_CHECKED : MF_UNCHECKED)));
 }
 
-void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu,
-                 const std::function<bool(std::uint16_t)>& isMarked) {
+void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu, const std::function<bool(std::uint16_t)>& isOn) {
     for (const MenuEntry& entry : entries) {
         if (entry.kind == MenuKind::Check || entry.kind == MenuKind::Radio) {
-            setMark(menu, entry.identifier, isMarked(entry.identifier));
+            setMark(menu, entry.identifier, isOn(entry.identifier));
         }
-        showMarksOf(entry.children, menu, isMarked);
+        showMarksOf(entry.children, menu, isOn);
     }
 }
 
@@ -91,9 +90,7 @@ bool MainMenu::isChecked(std::uint16_t identifier) const {
 
 void MainMenu::setChecked(std::uint16_t identifier, bool on) { setMark(menu_.get(), identifier, on); }
 
-void MainMenu::showMarks(const std::function<bool(std::uint16_t)>& isMarked) {
-    showMarksOf(mainMenu(), menu_.get(), isMarked);
-}
+void MainMenu::showMarks(const std::function<bool(std::uint16_t)>& isOn) { showMarksOf(mainMenu(), menu_.get(), isOn); }
 
 void MainMenu::open(WindowHandle owner, Point corner) const { track(menu_.get(), owner, corner); }
 

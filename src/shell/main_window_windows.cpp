@@ -107,7 +107,7 @@ void MainWindow::onCreate() {
                                                           *recovery_, dialogs_, [this] { layOutAndRefresh(); },
                                                           [this](WindowHandle dialog) { lastFocus_ = dialog; }});
     workArea_->giveFocus();
-    menu_.showMarks([this](std::uint16_t identifier) { return isMarked(identifier, settings_); });
+    menu_.showMarks([this](std::uint16_t identifier) { return isCheckedUnder(settings_, identifier); });
     for (const std::uint16_t identifier : settings_.selectedPanels()) {
         panels_.open(handle(), identifier);
     }

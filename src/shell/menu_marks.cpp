@@ -32,7 +32,7 @@ AngleOption angleOptionOf(std::uint16_t identifier) {
     return row == angleRows.end() ? AngleOption::None : row->option;
 }
 
-bool isMarked(std::uint16_t identifier, const Settings& settings) {
+bool isCheckedUnder(const Settings& settings, std::uint16_t identifier) {
     if (selectFormatCommands.contains(identifier)) {
         return settings.selectedFormat() == formatOf(selectFormatCommands, identifier);
     }

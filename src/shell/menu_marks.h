@@ -16,8 +16,8 @@ std::optional<BooleanSetting> booleanSettingOf(std::uint16_t identifier);
 /// The angle option that an entry chooses; AngleOption::None for an entry that chooses none.
 AngleOption angleOptionOf(std::uint16_t identifier);
 
-/// Whether the entry of an identifier has its mark under these settings: the selected format, an option that is on, the
+/// Whether the entry of an identifier is checked under these settings: the selected format, an option that is on, the
 /// angle option, or a selected panel.
-bool isMarked(std::uint16_t identifier, const Settings& settings);
+bool isCheckedUnder(const Settings& settings, std::uint16_t identifier);
 
 }  // namespace calquo

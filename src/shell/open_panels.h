@@ -13,7 +13,7 @@ namespace calquo {
 
 class OpenPanels {
 public:
-    /// `listener` hears which buttons of the panels are pressed.
+    /// `listener` is told which buttons of the panels are pressed.
     explicit OpenPanels(ButtonPanel::Listener listener) : listener_(std::move(listener)) {}
 
     /// Opens a panel of the catalogue on `parent`, below the others; nothing happens for another identifier.

@@ -29,7 +29,7 @@ TextBlock::TextBlock(WindowHandle parent, std::uint16_t command, std::string_vie
     : Label(parent, command, SS_LEFT | SS_NOPREFIX, text, textFont()) {}
 
 HitArea Label::onHitTest(HitArea byClass) const {
-    // The system's class lets the mouse through to the parent, and no tooltip would ever hear of it.
+    // The system's class lets the mouse through to the parent, and no tooltip would ever notice it.
     return description().empty() ? byClass : HitArea::Client;
 }
 

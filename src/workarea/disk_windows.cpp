@@ -200,7 +200,7 @@ public:
     }
 
     void replace(const std::wstring& name, const std::wstring& replacement) override {
-        takeOverMarks(name, replacement);
+        copyAttributes(name, replacement);
         // Rights that cannot be taken over are no reason to do without the file.
         constexpr DWORD flags = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
         require(ReplaceFileW(name.c_str(), replacement.c_str(), nullptr, flags, nullptr, nullptr), name);
@@ -232,7 +232,7 @@ public:
 private:
     /// Gives a file the attributes and the creation time of another one, also for where only its name can be given to
     /// it. Best effort.
-    static void takeOverMarks(const std::wstring& from, const std::wstring& to) {
+    static void copyAttributes(const std::wstring& from, const std::wstring& to) {
         WIN32_FILE_ATTRIBUTE_DATA data{};
         if (GetFileAttributesExW(from.c_str(), GetFileExInfoStandard, &data) == 0) {
             return;

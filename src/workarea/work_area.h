@@ -38,7 +38,7 @@ struct KeyCommand {
     std::uint16_t command;
 };
 
-/// Hears what happens in the work area.
+/// Is told what happens in the work area.
 struct WorkAreaListener {
     std::function<void()> keyPressed = [] {};  ///< Before the key does anything.
     std::function<void()> evaluated = [] {};   ///< A line has its answer, and shows it.

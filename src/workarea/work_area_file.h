@@ -17,7 +17,7 @@ struct SaveCancelled {};
 
 class WorkAreaFile {
 public:
-    /// Hears why a file could not be read again, before it is written; false leaves all as it is.
+    /// Is told why a file could not be read again, before it is written; false leaves all as it is.
     using UnreadableListener = std::function<bool(const FileFault&)>;
 
     /// Both must outlive this.

@@ -126,7 +126,7 @@ TEST(MenuTree, MarksShowTheSettings) {
         std::ostringstream marked;
         forEachMenu(mainMenu(), [&](const std::vector<MenuEntry>& entries) {
             for (const MenuEntry& entry : entries) {
-                if (isMarked(entry.identifier, settings)) {
+                if (isCheckedUnder(settings, entry.identifier)) {
                     marked << std::hex << std::uppercase << entry.identifier << ' ';
                 }
             }
