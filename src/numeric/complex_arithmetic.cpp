@@ -54,10 +54,11 @@ Value div(const Value& z, const Value& w) {
     reportErrorsAt(w);
     const Real n = squaredModulus(w);
     const Real re = addReal(mulReal(z.im, w.im), mulReal(z.re, w.re));
-    const Real im = subReal(mulReal(z.im, w.re), mulReal(z.re, w.im));
+    // The real part is divided before the imaginary one is looked at.
     if (n == 0) {
         raise(ErrorCode::DivisionByZero);
     }
+    const Real im = subReal(mulReal(z.im, w.re), mulReal(z.re, w.im));
     Value result;
     if (!isFinite(z) || std::isnan(n)) {
         result = Value(re / n, im / n);

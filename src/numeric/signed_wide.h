@@ -2,11 +2,15 @@
 // than one rounding is computed.
 //
 // The errors, for all of them: a sum, product, quotient or root is within 2^-122 of itself, a logarithm, exponential or
-// circular function of an exact argument within 2^-90. So a formula of some thirty such steps that never subtracts what
-// is nearly equal and inexact is within 2^-85 of itself, or of the larger part of a complex result, and its one
-// rounding at the end to an extended number is right but for one case in 2^20, and always within 0.500001 units in the
-// last place. The formulas keep to that: what may cancel are differences of given numbers, like 1 - x, and of their
-// products, which 128 bits hold exactly or of which the rest cannot matter.
+// circular function of an exact argument within 2^-90. Fewer than thirty such steps make 2^-85. Where a formula takes
+// e^x of an inexact x, the error of x counts in units of 1, and x is at most 2^14, the logarithm of the largest number:
+// that leaves 2^-75 of the result, or of its larger part where it is complex. So the one rounding at the end is right but
+// for one case in a thousand, and always within 0.5005 units in the last place.
+//
+// That holds while nothing cancels but differences of given numbers, like 1 - x, and of their products, which 128 bits
+// hold exactly or of which the rest cannot matter. Two cases are different: the squares of complex items cancel without
+// bounds, and are summed by exact_sum.h; and the angle of a complex power may be huge, of which the digits before its
+// point are lost to those after it: from 2^40 on, a bit of the result goes with each bit of the angle.
 #pragma once
 
 #include "values/wide_float.h"

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "numeric/complex_arithmetic.h"
+#include "numeric/exact_sum.h"
 #include "numeric/exponential.h"
 #include "numeric/wide_complex.h"
 #include "values/extended.h"
@@ -71,33 +72,56 @@ bool staysInRange(std::span<const Value> items) {
         items, [](const Value& item) { return std::fabs(item.re) < limit && std::fabs(item.im) < limit; });
 }
 
+/// n sum(x^2) - sum(x)^2 for real items. It is the same with the first item taken from each, after which there is
+/// little left to cancel: the difference is at least the sum of the squares.
+template <typename Number>
+Number scatterIn(std::span<const Value> items) {
+    Number sum = 0, squares = 0;
+    for (const Value& item : items) {
+        const Number distance = Number(item.re) - items.front().re;
+        sum = sum + distance;
+        squares = squares + distance * distance;
+    }
+    return squares * size(items).re - sum * sum;
+}
+
+/// The same within (n + 8) 2^-126 of the sum of the squares; of few small whole numbers exactly and by the short road.
+SignedWide scatter(std::span<const Value> items) {
+    // All sums are whole and below 2^64.
+    constexpr std::size_t few = 2048;
+    const auto small = [](const Value& item) {
+        return std::fabs(item.re) < 0x1p20L && item.re == static_cast<Real>(static_cast<int>(item.re));
+    };
+    const bool exact = items.size() <= few && std::ranges::all_of(items, small);
+    return exact ? scatterIn<Real>(items) : scatterIn<SignedWide>(items);
+}
+
 /// A part of each item.
 using Part = Real Value::*;
 
-/// n sum(ab) - sum(a) sum(b) for two parts a and b of the items. It is the same with those of the first item taken from
-/// each, after which there is little left to cancel: for a = b the difference is at least the sum of the squares.
-template <typename Number>
-Number scatterIn(std::span<const Value> items, Part a, Part b) {
-    Number sumOfA = 0, sumOfB = 0, products = 0;
+/// Adds n sum(ab) - sum(a) sum(b) for two parts a and b of the items, or takes it away.
+void addScatter(ExactSum& total, std::span<const Value> items, Part a, Part b, bool subtract = false) {
+    ExactSum products, sumOfA;
     for (const Value& item : items) {
-        const Number distance = Number(item.*a) - items.front().*a;
-        const Number other = a == b ? distance : Number(item.*b) - items.front().*b;
-        sumOfA = sumOfA + distance;
-        sumOfB = a == b ? sumOfA : sumOfB + other;
-        products = products + distance * other;
+        products.add(SignedWide(item.*a) * SignedWide(item.*b));
+        sumOfA.add(item.*a);
     }
-    return products * size(items).re - sumOfA * sumOfB;
+    const auto count = static_cast<std::int64_t>(items.size());
+    total.add(products, subtract ? -count : count);
+    sumOfA.forEachPart([&](const SignedWide& part) {
+        for (const Value& item : items) {
+            total.add(part * SignedWide(item.*b), !subtract);
+        }
+    });
 }
 
-/// The same within (n + 8) 2^-126 of the sum of the products; of few small whole numbers exactly and by the short road.
-SignedWide scatter(std::span<const Value> items, Part a, Part b) {
-    // All sums are whole and below 2^64.
-    constexpr std::size_t few = 2048;
-    const auto small = [](Real x) { return std::fabs(x) < 0x1p20L && x == static_cast<Real>(static_cast<int>(x)); };
-    const bool exact = items.size() <= few && std::ranges::all_of(items, [&](const Value& item) {
-                           return small(item.*a) && (a == b || small(item.*b));
-                       });
-    return exact ? scatterIn<Real>(items, a, b) : scatterIn<SignedWide>(items, a, b);
+/// n sum(z^2) - sum(z)^2. Squares of complex items cancel without bounds, so they are summed exactly.
+WideComplex complexScatter(std::span<const Value> items) {
+    ExactSum re, im;
+    addScatter(re, items, &Value::re, &Value::re);
+    addScatter(re, items, &Value::im, &Value::im, true);
+    addScatter(im, items, &Value::re, &Value::im);
+    return {re.value(), 2 * im.value()};
 }
 
 /// (sum2 - sum^2 / n) / divisor, or its root.
@@ -113,13 +137,9 @@ Value spread(std::span<const Value> items, Real divisor, Spread wanted) {
         }
     }
     const Real totalDivisor = size(items).re * divisor;
-    SignedWide re = scatter(items, &Value::re, &Value::re);
-    SignedWide im;
-    if (std::ranges::any_of(items, [](const Value& item) { return item.im != 0; })) {
-        re = re - scatter(items, &Value::im, &Value::im);
-        im = 2 * scatter(items, &Value::re, &Value::im) / totalDivisor;
-    }
-    const WideComplex variance = {re / totalDivisor, im};
+    const bool isComplex = std::ranges::any_of(items, [](const Value& item) { return item.im != 0; });
+    const WideComplex scattered = isComplex ? complexScatter(items) : WideComplex{scatter(items), 0};
+    const WideComplex variance = {scattered.re / totalDivisor, scattered.im / totalDivisor};
     return rounded(wanted == Spread::Variance ? variance : squareRoot(variance));
 }
 

@@ -120,9 +120,13 @@ const WideComplex& halved(const WideComplex& half, const Value& z) {
 
 /// Refuses what the steps of tanh refuse: |e^z + e^-z|^2 beyond the range, too. False for a NaN.
 bool startsHyperbolicTangent(const Value& z) {
-    refuseSteep(z);
-    neg(z);
+    // e^z comes before -z, and e^-z after it.
     reportErrorsAt(z);
+    if (z.re < lowestExponent || z.re > highestExponent) {
+        raise(ErrorCode::LimitExceeded);
+    }
+    neg(z);
+    refuseSteep(z);
     if (!isFinite(z)) {
         return false;
     }
