@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -102,7 +103,9 @@ void printWindow(HWND window, HWND workArea) {
     std::printf("focus %s\n", focusOf(window, workArea).c_str());
     std::printf("menus %d\n", countShown("#32768"));
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (child != workArea && isShown(child)) {
+        wchar_t name[16] = L"";
+        GetClassNameW(child, name, static_cast<int>(std::size(name)));
+        if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
             std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(child)));
             printButtons(child);
         }

@@ -91,6 +91,7 @@ public:
 
     /// Closes and empties everything, and says what is held then.
     Checkpoint rest() {
+        program_.storage().written.clear();  // the record of a test, which grows with every setting
         for (const PanelEntry& panel : panelCatalogue()) {
             if (program_.window().isChecked(panel.identifier)) {
                 program_.command(panel.identifier);
