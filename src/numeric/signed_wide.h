@@ -4,8 +4,8 @@
 // The errors, for all of them: a sum, product, quotient or root is within 2^-122 of itself, a logarithm, exponential or
 // circular function of an exact argument within 2^-90. Fewer than thirty such steps make 2^-85. Where a formula takes
 // e^x of an inexact x, the error of x counts in units of 1, and x is at most 2^14, the logarithm of the largest number:
-// that leaves 2^-75 of the result, or of its larger part where it is complex. So the one rounding at the end is right but
-// for one case in a thousand, and always within 0.5005 units in the last place.
+// that leaves 2^-75 of the result, or of its larger part where it is complex. So the one rounding at the end is right
+// but for one case in a thousand, and always within 0.5005 units in the last place.
 //
 // That holds while nothing cancels but differences of given numbers, like 1 - x, and of their products, which 128 bits
 // hold exactly or of which the rest cannot matter. Two cases are different: the squares of complex items cancel without
