@@ -68,7 +68,7 @@ SignedWide ExactSum::value() {
     };
     UInt128 mantissa = {digit(0) << digitBits | digit(1), digit(2) << digitBits | digit(3)};
     const int shift = leadingZeros(mantissa);
-    mantissa = shiftLeft(mantissa, shift) + UInt128{0, shift == 0 ? 0 : digit(4) >> (digitBits - shift)};
+    mantissa = shiftLeft(mantissa, shift) + UInt128{0, digit(4) << shift >> digitBits};
     return {WideFloat{mantissa, exponentOf(top - 1) - 3 * digitBits - shift}, negative};
 }
 

@@ -106,12 +106,19 @@ void Commands::bringBackWorkArea(std::uint16_t) {
 
 void Commands::readDefaultFile(std::uint16_t) { targets_.files.readDefault(); }
 
-void Commands::saveDefaultFile(std::uint16_t) { targets_.files.saveDefault(); }
+void Commands::saveDefaultFile(std::uint16_t) {
+    targets_.files.saveDefault();
+    targets_.recovery.keepSaved();
+}
 
-void Commands::saveAgain(std::uint16_t) { targets_.files.saveAgain(); }
+void Commands::saveAgain(std::uint16_t) {
+    targets_.files.saveAgain();
+    targets_.recovery.keepSaved();
+}
 
 void Commands::chooseFile(std::uint16_t identifier) {
     targets_.files.actOnChosenFile(static_cast<Command>(identifier));
+    targets_.recovery.keepSaved();
 }
 
 // --- Formats --------------------------------------------------------------------------------------------------------

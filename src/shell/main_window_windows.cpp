@@ -159,7 +159,7 @@ void MainWindow::shutDown() {
     if (!savedBeforeEnd_) {
         saveBeforeEnd(true);  // nobody has asked before
     }
-    recovery_->keepAtEnd();
+    recovery_->keepSaved();
 }
 
 bool MainWindow::onClose() {

@@ -48,8 +48,8 @@ public:
     void keepWaiting();
     /// Keeps the text where it has changed, whatever the pace.
     void keepNow();
-    /// Keeps the text at the end of the run, and notes whether anybody has to be told of it.
-    void keepAtEnd();
+    /// Keeps the text after a save and at the end of the run, and notes where nobody has to be told of it.
+    void keepSaved();
 
 private:
     std::wstring path(const std::wstring& copy) const { return folder_ + L'\\' + copy; }

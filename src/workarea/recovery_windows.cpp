@@ -151,13 +151,14 @@ void Recovery::keepNow() {
         }
         file_.write(path(copy_));
         isWritten_ = true;
+        DeleteFileW(path(savedCopyName(copy_)).c_str());
     } catch (const FileFault&) {
         isWaiting_ = true;
     }
     pace_.wrote(begin, WritingPace::Clock::now());
 }
 
-void Recovery::keepAtEnd() {
+void Recovery::keepSaved() {
     keepNow();
     if (isWritten_ && (isSaved_() || workArea_.isEmpty())) {
         MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str());

@@ -104,6 +104,19 @@ TEST(Recovery, OnlyTextThatNoFileHoldsIsToldOf) {
     EXPECT_FALSE(isTold(false, true));
 }
 
+TEST(Recovery, ASaveIsNotedAtOnceAndUntilTheTextChanges) {
+    const FileFolder folder;
+    Execution run(folder);
+    run.evaluate(L"2+3");
+    run.program.command(saveDefault);
+    ASSERT_EQ(copiesIn(folder).size(), 1u);
+    EXPECT_TRUE(isSavedCopy(copiesIn(folder).front()));
+    run.program.setText(L"7");
+    SendMessageW(run.program.handle(), WM_QUERYENDSESSION, 0, 0);
+    ASSERT_EQ(copiesIn(folder).size(), 1u);
+    EXPECT_FALSE(isSavedCopy(copiesIn(folder).front()));
+}
+
 TEST(Recovery, TextIsKeptWhereItMayEndUnasked) {
     const FileFolder folder;
     Execution run(folder);
