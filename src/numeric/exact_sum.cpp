@@ -1,6 +1,8 @@
 // Digits of 32 bits in words of 64, whose carries wait until the sum is asked for.
 #include "numeric/exact_sum.h"
 
+#include <bit>
+
 namespace calquo {
 
 void ExactSum::add(const SignedWide& term, bool subtract) {
@@ -67,7 +69,7 @@ SignedWide ExactSum::value() {
         return fromTop < top ? static_cast<std::uint64_t>(digits_[top - 1 - fromTop]) : 0;
     };
     UInt128 mantissa = {digit(0) << digitBits | digit(1), digit(2) << digitBits | digit(3)};
-    const int shift = leadingZeros(mantissa);
+    const int shift = std::countl_zero(static_cast<std::uint32_t>(digit(0)));
     mantissa = shiftLeft(mantissa, shift) + UInt128{0, digit(4) << shift >> digitBits};
     return {WideFloat{mantissa, exponentOf(top - 1) - 3 * digitBits - shift}, negative};
 }

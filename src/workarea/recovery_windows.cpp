@@ -57,11 +57,10 @@ std::vector<std::wstring> fileNamesIn(const std::wstring& folder) {
 }  // namespace
 
 std::wstring recoveryFolder() {
-    const std::wstring data = environmentText(L"LOCALAPPDATA");
-    if (data.empty()) {
-        return data;
+    std::wstring folder = environmentText(L"LOCALAPPDATA");
+    if (folder.empty()) {
+        return folder;
     }
-    std::wstring folder = data;
     // Without the version: a newer program finds what an older one has kept.
     for (const std::string_view level : {makersSite, programName, "Kept Sheets"}) {
         folder += L'\\';
