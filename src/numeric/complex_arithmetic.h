@@ -8,9 +8,6 @@
 
 namespace calquo {
 
-/// The imaginary unit.
-constexpr Value imaginaryUnit{0, 1};
-
 /// Makes errors point at a value's literal from now on; a value without one leaves the error position as it is.
 void reportErrorsAt(const Value& v);
 

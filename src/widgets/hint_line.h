@@ -14,7 +14,6 @@ public:
 
     /// Shows a text over the lower edge of an area of the parent, as high as it needs at that width.
     void tell(const std::wstring& text, const Rectangle& area);
-    bool isShown() const;
 
 protected:
     bool onPaint() override;

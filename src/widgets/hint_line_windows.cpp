@@ -38,8 +38,6 @@ void HintLine::tell(const std::wstring& text, const Rectangle& area) {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
-bool HintLine::isShown() const { return IsWindowVisible(handle()) != 0; }
-
 bool HintLine::onPaint() {
     const Painting painting(handle());
     const Size size = clientSize(handle());
