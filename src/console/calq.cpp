@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <new>
 
 #include "console/byte_streams.h"
 #include "engine/characters.h"
@@ -225,6 +226,8 @@ int runCalq(std::span<const char* const> arguments) {
         std::fprintf(stderr, "calq: %s\nTry calq --help.\n", fault.message.c_str());
     } catch (const StreamFault& fault) {
         std::fprintf(stderr, "calq: %s\n", fault.message.c_str());
+    } catch (const std::bad_alloc&) {
+        std::fputs("calq: there is not enough memory\n", stderr);
     }
     return notDone;
 }

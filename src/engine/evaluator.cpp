@@ -3,8 +3,10 @@
 // when nothing of its kind stands there.
 #include "engine/evaluator.h"
 
+#include <algorithm>
 #include <array>
 #include <memory_resource>
+#include <new>
 #include <span>
 #include <vector>
 
@@ -73,6 +75,7 @@ private:
     std::size_t group(std::size_t index, Value& value);
     std::size_t item(std::size_t index, Value& value);
     std::size_t argumentList(std::size_t index);
+    void makeRoomForArgument(std::size_t end);
 
     /// Whether a name or a group begins at an index.
     [[nodiscard]] bool isBareOperandAt(std::size_t index) const {
@@ -411,6 +414,19 @@ std::size_t Evaluator::item(std::size_t index, Value& value) {
     return length;
 }
 
+/// Makes room for the argument that ends at an index, and where that takes memory, for all that can follow it: each of
+/// them but the first of a call comes after a separator. So long lists are never copied.
+void Evaluator::makeRoomForArgument(std::size_t end) {
+    if (arguments_.size() < arguments_.capacity()) {
+        return;
+    }
+    setErrorPosition(position(end));
+    const std::string_view rest = line_.text().substr(end);
+    const auto separators = std::ranges::count(rest, TokenClass::ListSeparator, classOfCharacter);
+    arguments_.reserve(arguments_.size() + static_cast<std::size_t>(separators) +
+                       static_cast<std::size_t>(nestingLimit_) + 1);
+}
+
 /// argument list = "(" [ expression { ";" expression } ] ")"; the items are left on top of the arguments.
 std::size_t Evaluator::argumentList(std::size_t index) {
     const std::size_t first = line_.skipBlanks(index + 1);
@@ -424,6 +440,7 @@ std::size_t Evaluator::argumentList(std::size_t index) {
     std::size_t end = index;
     do {
         end += 1 + item(end + 1, value);
+        makeRoomForArgument(end);
         arguments_.push_back(value);
     } while (line_.isAt(TokenClass::ListSeparator, end));
     if (!line_.isAt(TokenClass::ListClose, end)) {
@@ -436,7 +453,11 @@ std::size_t Evaluator::argumentList(std::size_t index) {
 
 Evaluation evaluateLine(std::string_view line, int nestingLimit) {
     const FullPrecision precision;
-    return Evaluator(line, nestingLimit).evaluate();
+    try {
+        return Evaluator(line, nestingLimit).evaluate();
+    } catch (const std::bad_alloc&) {
+        raise(ErrorCode::LimitExceeded);
+    }
 }
 
 }  // namespace calquo

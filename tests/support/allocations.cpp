@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 #ifdef _WIN32
@@ -12,6 +13,20 @@ namespace {
 
 std::atomic<int> made = 0;
 std::atomic<int> deleted = 0;
+
+constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+std::atomic<std::size_t> bytesLeft = unlimited;
+
+/// Takes memory out of what is left, if there is a limit.
+void take(std::size_t size) {
+    if (bytesLeft == unlimited) {
+        return;
+    }
+    if (size > bytesLeft) {
+        throw std::bad_alloc();
+    }
+    bytesLeft -= size;
+}
 
 void* counted(void* memory) {
     if (memory == nullptr) {
@@ -24,9 +39,13 @@ void* counted(void* memory) {
 }  // namespace
 
 // The other forms of both end in these.
-void* operator new(std::size_t size) { return counted(std::malloc(size)); }
+void* operator new(std::size_t size) {
+    take(size);
+    return counted(std::malloc(size));
+}
 
 void* operator new(std::size_t size, std::align_val_t alignment) {
+    take(size);
     const auto unit = static_cast<std::size_t>(alignment);
 #ifdef _WIN32
     return counted(_aligned_malloc(size, unit));
@@ -60,5 +79,9 @@ namespace calquo {
 int allocationsMade() { return made; }
 
 int allocationsHeld() { return made - deleted; }
+
+MemoryLimit::MemoryLimit(std::size_t bytes) { bytesLeft = bytes; }
+
+MemoryLimit::~MemoryLimit() { bytesLeft = unlimited; }
 
 }  // namespace calquo

@@ -1,6 +1,8 @@
 // An operator new that keeps a book, for tests of what allocates and of what is left behind.
 #pragma once
 
+#include <cstddef>
+
 namespace calquo {
 
 /// How often operator new was called so far.
@@ -8,5 +10,14 @@ int allocationsMade();
 
 /// Results of operator new that have not been deleted.
 int allocationsHeld();
+
+/// While it lives, operator new gives no more than this many bytes in all, whatever is deleted meanwhile.
+class MemoryLimit {
+public:
+    explicit MemoryLimit(std::size_t bytes);
+    ~MemoryLimit();
+    MemoryLimit(const MemoryLimit&) = delete;
+    MemoryLimit& operator=(const MemoryLimit&) = delete;
+};
 
 }  // namespace calquo

@@ -1,7 +1,8 @@
-// What the road of a line leaves out.
+// What the answer to a line costs in memory, and what comes of it when there is none.
 #include <gtest/gtest.h>
 
 #include "support/allocations.h"
+#include "support/repeated.h"
 #include "workarea/record.h"
 
 namespace calquo {
@@ -22,6 +23,32 @@ TEST(Answer, OrdinaryLinesAllocateNothing) {
     const int before = allocationsMade();
     evaluateInto(answer, "sum(1;1;1;1;1;1;1;1;1;1;1;1;1;1;1;1;1)", defaultFormats[0]);
     EXPECT_GT(allocationsMade(), before) << "more arguments than have their place on the stack";
+}
+
+TEST(Answer, LongListsTakeAtMost64BytesAnItemAndAnErrorWhenThereAreNone) {
+    constexpr std::size_t count = 20000;
+    const std::string items = repeated(count - 1, "1;") + "1)";
+    Answer answer;
+    answer.text.reserve(100);
+    for (const char* name : {"sum", "median", "sd", "avgG", "max", "gcd", "gcf", "lcm", "(sum"}) {
+        const std::string line = std::string(name) + "(" + items + (name[0] == '(' ? ")" : "");
+        const MemoryLimit enough(64 * count);
+        evaluateInto(answer, line, defaultFormats[0]);
+        EXPECT_FALSE(answer.failed) << name;
+    }
+    const std::size_t place = std::string("median(").size() + 16 * 2 + 1;  // after those that stand on the stack
+    const std::string line = "median(" + items;
+    for (const std::size_t bytes : {std::size_t{0}, 52 * count}) {
+        {
+            const MemoryLimit few(bytes);
+            evaluateInto(answer, line, defaultFormats[0]);
+        }
+        EXPECT_TRUE(answer.failed);
+        EXPECT_EQ(answer.error, ErrorCode::LimitExceeded);
+        EXPECT_EQ(answer.position, bytes == 0 ? place : std::string("median").size());
+    }
+    evaluateInto(answer, line, defaultFormats[0]);
+    EXPECT_EQ(answer.text, "1");
 }
 
 }  // namespace
