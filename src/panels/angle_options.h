@@ -26,4 +26,14 @@ inline constexpr std::array angleRows = std::to_array<AngleRow>({
     {AngleOption::Radian, 0x8033, 11, "Buttons add \"&rad\" (basic unit)", " rad"},
 });
 
+/// The unit's name in the language; empty when the buttons add none.
+constexpr std::string_view angleUnitOf(AngleOption option) {
+    for (const AngleRow& row : angleRows) {
+        if (row.option == option) {
+            return row.suffix.substr(1);
+        }
+    }
+    return {};
+}
+
 }  // namespace calquo

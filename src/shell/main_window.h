@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "shell/caption_strip.h"
 #include "shell/commands.h"
@@ -67,6 +68,8 @@ private:
     /// The dialogs, before which the work area is kept.
     UserDialogs keepingDialogs(UserDialogs dialogs);
     void tell(const std::wstring& hint);
+    /// Shows what there is to tell about an evaluated line.
+    void tellAbout(std::string_view line, const Answer* answer);
     void hideHint();
 
     bool saveBeforeEnd(bool mayAsk);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "hints/hints.h"
 #include "numeric/random.h"
 #include "shell/command_ids.h"
 #include "shell/file_messages.h"
@@ -12,6 +13,7 @@
 #include "widgets/painting.h"
 #include "widgets/screens.h"
 #include "widgets/toolkit.h"
+#include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -99,7 +101,10 @@ void MainWindow::onCreate() {
                              hideHint();
                              recovery_->keepWaiting();
                          },
-                         [this] { recovery_->keep(); }});
+                         [this](std::string_view line, const Answer* answer) {
+                             recovery_->keep();
+                             tellAbout(line, answer);
+                         }});
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
     recovery_ = std::make_unique<Recovery>(
         *workArea_, [this] { return files_->isInFile(); }, startFiles_.recoveryFolder);
@@ -229,6 +234,13 @@ void MainWindow::tell(const std::wstring& hint) {
         hint_ = std::make_unique<HintLine>(handle());
     }
     hint_->tell(hint, layout().workArea);
+}
+
+void MainWindow::tellAbout(std::string_view line, const Answer* answer) {
+    const HintSettings inForce{settings_.format(settings_.selectedFormat()), angleUnitOf(settings_.angleOption())};
+    if (const std::string hint = hintFor(line, answer, inForce); !hint.empty()) {
+        tell(wideText(hint));
+    }
 }
 
 void MainWindow::hideHint() {

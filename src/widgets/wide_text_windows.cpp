@@ -13,4 +13,14 @@ std::wstring wideText(std::string_view text) {
     return units;
 }
 
+std::string utf8Text(std::wstring_view units) {
+    constexpr std::size_t mostBytes = 3;  // of one unit
+    const int length = static_cast<int>(units.size());
+    std::string text(units.size() * mostBytes, '\0');
+    const int written = WideCharToMultiByte(CP_UTF8, 0, units.data(), length, text.data(),
+                                            static_cast<int>(text.size()), nullptr, nullptr);
+    text.resize(static_cast<std::size_t>(written));
+    return text;
+}
+
 }  // namespace calquo

@@ -22,13 +22,14 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
     return text.substr(0, length);
 }
 
-/// Writes the result of `expression` to `text`; throws Except.
-void writeResult(std::string& text, std::string_view expression, NumericFormat format) {
+/// Puts the value of `expression` and its text into `answer`; throws Except.
+void writeResult(Answer& answer, std::string_view expression, NumericFormat format) {
     const Evaluation evaluation = evaluateLine(expression);
+    answer.value = evaluation.value;
+    answer.outputBase = evaluation.outputBase;
     // Should the writer refuse the value, no place inside the expression is to blame.
     setErrorPosition(static_cast<std::int32_t>(expression.size()));
-    const std::uint64_t base = evaluation.outputBase == 10 ? 0 : evaluation.outputBase;
-    appendValue(evaluation.value, format, base, text);
+    appendValue(evaluation.value, format, evaluation.outputBase, answer.text);
 }
 
 std::size_t placeInside(std::string_view expression, std::int32_t position) {
@@ -41,12 +42,12 @@ LineEdit editForResult(std::string_view line, std::size_t length, const std::str
     StyledText written{std::string(equalsJoint) + result, TextStyle::Result};
     StyledText carried{"\n\n" + result, TextStyle::Normal};
     const std::size_t caret = length + written.text.size() + carried.text.size();
-    return {true, length, line.size(), {std::move(written), std::move(carried)}, caret};
+    return {true, length, line.size(), {std::move(written), std::move(carried)}, caret, {}};
 }
 
 /// The edit that ends the line after its first `length` characters and goes on below.
 LineEdit editForNewLine(std::string_view line, std::size_t length) {
-    return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1};
+    return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1, {}};
 }
 
 /// The edit of a line that is evaluated: its error message after the expression, or what `editFor` makes of the
@@ -59,12 +60,16 @@ LineEdit editForAnswer(std::string_view line, NumericFormat format, const EditFo
     }
     Answer answer;
     evaluateInto(answer, expression, format);
-    if (!answer.failed) {
-        return editFor(expression, answer.text);
+    LineEdit edit;
+    if (answer.failed) {
+        std::string message(equalsJoint);
+        appendAnswer(message, answer, ErrorPlace::Hidden);
+        edit = {true, expression.size(), line.size(), {{std::move(message), TextStyle::Result}}, answer.position, {}};
+    } else {
+        edit = editFor(expression, answer.text);
     }
-    std::string message(equalsJoint);
-    appendAnswer(message, answer, ErrorPlace::Hidden);
-    return {true, expression.size(), line.size(), {{std::move(message), TextStyle::Result}}, answer.position};
+    edit.answer = std::move(answer);
+    return edit;
 }
 
 }  // namespace
@@ -86,7 +91,7 @@ void evaluateInto(Answer& answer, std::string_view expression, NumericFormat for
     answer.text.clear();
     answer.failed = false;
     try {
-        writeResult(answer.text, expression, format);
+        writeResult(answer, expression, format);
     } catch (const Except& failure) {
         answer.text.clear();
         answer.failed = true;
@@ -129,7 +134,7 @@ LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
 
 LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format) {
     return editForAnswer(line, format, [&](std::string_view, const std::string& result) {
-        return LineEdit{true, begin, end, {{result, TextStyle::Normal}}, begin + result.size()};
+        return LineEdit{true, begin, end, {{result, TextStyle::Normal}}, begin + result.size(), {}};
     });
 }
 

@@ -4,12 +4,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "format/numeric_format.h"
 #include "values/errors.h"
+#include "values/value.h"
 
 namespace calquo {
 
@@ -24,6 +26,8 @@ struct Answer {
     ErrorCode error = ErrorCode::InvalidExpression;  ///< Meaningful when `failed`.
     std::size_t position = 0;                        ///< Where the error lies, 0 to the expression's length.
     std::string text;                                ///< The result; empty when `failed`.
+    Value value;                                     ///< What the text shows; meaningless when `failed`.
+    std::uint64_t outputBase = 10;                   ///< In which base it shows it.
 };
 
 /// Evaluates `expression` and writes its value under `format` into `answer`, in the output base that the expression
@@ -57,6 +61,7 @@ struct LineEdit {
     std::size_t end = 0;
     std::vector<StyledText> pieces;
     std::size_t caret = 0;
+    std::optional<Answer> answer;  ///< What the line's expression gave; none for a line without one.
 };
 
 /// The edit that Enter makes on `line`: an empty line gets a new line; a line without an expression stays as it is; a

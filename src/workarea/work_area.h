@@ -41,7 +41,9 @@ struct KeyCommand {
 /// Is told what happens in the work area.
 struct WorkAreaListener {
     std::function<void()> keyPressed = [] {};  ///< Before the key does anything.
-    std::function<void()> evaluated = [] {};   ///< A line has its answer, and shows it.
+    /// A line has its answer, and shows it: the whole line as it was, in UTF-8, and the answer, null where the line has
+    /// no expression.
+    std::function<void(std::string_view line, const Answer* answer)> evaluated = [](std::string_view, const Answer*) {};
 };
 
 class WorkArea : public TextArea {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -127,14 +128,14 @@ void WorkArea::evaluate() {
     const TextRange selected = selection();
     const Paragraph line = paragraphAt(selected.begin);
     const std::string text = languageText(line.text);
-    if (SendMessageW(handle(), resultReplaceQuery, 0, 0) == 0) {
-        apply(line, editAfterEnter(text, format_()));
-    } else {
-        const std::int32_t start = line.range.begin;
-        apply(line, editWithResult(text, offsetIn(start, selected.begin), offsetIn(start, selected.end), format_()));
-    }
+    const std::int32_t start = line.range.begin;
+    const bool replaces = SendMessageW(handle(), resultReplaceQuery, 0, 0) != 0;
+    const LineEdit edit =
+        replaces ? editWithResult(text, offsetIn(start, selected.begin), offsetIn(start, selected.end), format_())
+                 : editAfterEnter(text, format_());
+    apply(line, edit);
     UpdateWindow(handle());
-    listener_.evaluated();
+    listener_.evaluated(utf8Text(line.text), edit.answer ? &*edit.answer : nullptr);
 }
 
 void WorkArea::evaluateIntoSelection() {

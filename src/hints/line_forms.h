@@ -1,0 +1,11 @@
+// Lines whose form as a whole is not the language's.
+#pragma once
+
+#include "hints/rule.h"
+
+namespace calquo {
+
+/// "=2+3": an expression after the "=" that begins the line. Finds the expression.
+bool beginsWithEquals(const Situation& situation, Findings& findings);
+
+}  // namespace calquo
