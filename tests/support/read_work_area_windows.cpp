@@ -1,5 +1,6 @@
 // read_work_area: prints the text in the work area of the running Calquo as UTF-8 with "\n" at line ends; with the
-// argument --window, what its window shows, a fact on each line. Exit status 1 when no Calquo runs.
+// argument --window, what its window shows, a fact on each line; with --serve, it waits for what each line of its input
+// expects. Exit status 1 when no Calquo runs.
 #include <fcntl.h>
 #include <io.h>
 
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <cwchar>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -66,6 +68,77 @@ const char* stateOf(HWND window) {
     return IsZoomed(window) != 0 ? "maximized" : "normal";
 }
 
+// --- Waiting for what is expected -----------------------------------------------------------------------------------
+
+/// The text on one line, with "|" at the caret, or "[" and "]" around the selection, where `marked` says so.
+std::string drawnSheet(HWND workArea, bool marked) {
+    std::wstring text = textOf(workArea);
+    std::erase(text, L'\r');
+    if (marked) {
+        const auto selection = static_cast<DWORD>(SendMessageW(workArea, EM_GETSEL, 0, 0));
+        const std::size_t begin = LOWORD(selection), end = HIWORD(selection);
+        text.insert(std::min(end, text.size()), begin == end ? L"|" : L"]");
+        text.insert(std::min(begin, text.size()), begin == end ? L"" : L"[");
+    }
+    std::string drawn;
+    for (const char byte : utf8(text)) {
+        drawn += byte == '\n' ? "\\n" : byte == '\t' ? "\\t" : std::string(1, byte);
+    }
+    return drawn;
+}
+
+/// The hint below the sheet; empty where none shows.
+std::string hintOf(HWND window) {
+    const HWND hint = FindWindowExW(window, nullptr, L"CalquoHint", nullptr);
+    return hint != nullptr && IsWindowVisible(hint) != 0 ? utf8(textOf(hint)) : "";
+}
+
+/// What a line of the input expects: the sheet as drawnSheet() has it, and after " ??" a part of the hint, or nothing
+/// for none. A sheet without a caret or a selection may have them anywhere.
+struct Expectation {
+    std::string sheet, hint;
+    bool tellsOfHint = false;
+
+    explicit Expectation(const std::string& line) : sheet(line) {
+        constexpr char mark[] = " ??";
+        const std::size_t place = line.find(mark);
+        if (place != std::string::npos) {
+            tellsOfHint = true;
+            sheet.resize(place);
+            hint = line.substr(std::min(line.size(), place + sizeof mark));
+        }
+    }
+    bool isMarked() const { return sheet.find_first_of("|[") != std::string::npos; }
+};
+
+/// "ok" as soon as the window shows what is expected and goes on to do so, or what it shows after five seconds.
+std::string waitFor(const Expectation& expected) {
+    constexpr int step = 10, patience = 5000, calm = 4 * step;  // milliseconds
+    int shown = 0;
+    std::string sheet, hint;
+    for (int waited = 0; waited < patience; waited += step) {
+        const HWND window = FindWindowA(calquo::programTitle, nullptr);
+        sheet = drawnSheet(FindWindowExA(window, nullptr, "RichEdit20A", nullptr), expected.isMarked());
+        hint = hintOf(window);
+        const bool hints = expected.hint.empty() ? hint.empty() : hint.find(expected.hint) != std::string::npos;
+        shown = sheet == expected.sheet && (hints || !expected.tellsOfHint) ? shown + step : 0;
+        if (shown >= calm) {
+            return "ok";
+        }
+        Sleep(step);
+    }
+    return sheet + " ?? " + hint;
+}
+
+int serve() {
+    for (std::string line; std::getline(std::cin, line);) {
+        std::cout << waitFor(Expectation(line)) << std::endl;
+    }
+    return 0;
+}
+
+// --- The window -----------------------------------------------------------------------------------------------------
+
 /// What has the keyboard's focus in the program: the work area, or a window's class.
 std::string focusOf(HWND window, HWND workArea) {
     GUITHREADINFO thread{};
@@ -115,12 +188,16 @@ void printWindow(HWND window, HWND workArea) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+    if (count > 1 && std::strcmp(arguments[1], "--serve") == 0) {
+        return serve();
+    }
     const HWND window = FindWindowA(calquo::programTitle, nullptr);
     const HWND workArea = FindWindowExA(window, nullptr, "RichEdit20A", nullptr);
     if (window == nullptr || workArea == nullptr) {
         return 1;
     }
-    _setmode(_fileno(stdout), _O_BINARY);
     if (count > 1 && std::strcmp(arguments[1], "--window") == 0) {
         printWindow(window, workArea);
         return 0;
