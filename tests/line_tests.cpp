@@ -18,6 +18,7 @@
 #include "console/options.h"
 #include "engine/keywords.h"
 #include "workarea/record.h"
+#include "workarea/written_answer.h"
 
 namespace calquo {
 namespace {
@@ -178,6 +179,14 @@ TEST_P(Lines, MeanTheSameAfterBlanksInCapitalsAndInParentheses) {
         if (!isError(answer) && !isMixedFraction) {
             EXPECT_EQ(answerTo(row, directive.front + answer + directive.back), answer);
         }
+    }
+}
+
+TEST_P(Lines, HaveAnswersThatReadAsWritten) {
+    for (const Row& row : GetParam().rows) {
+        startRow(row);
+        const std::size_t equals = row.text.find('=');
+        EXPECT_TRUE(equals == std::string::npos || isWrittenAnswer(row.text.substr(equals + 1))) << row.place;
     }
 }
 

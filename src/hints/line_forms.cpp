@@ -19,4 +19,12 @@ bool beginsWithEquals(const Situation& situation, Findings& findings) {
     return !answer.failed;
 }
 
+bool isNoteLine(const Situation& situation, Findings& findings) {
+    if (situation.answer == nullptr || !isNote(situation.line, *situation.answer)) {
+        return false;
+    }
+    findings[0] = errorMessage(situation.answer->error);
+    return true;
+}
+
 }  // namespace calquo

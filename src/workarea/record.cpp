@@ -3,9 +3,12 @@
 
 #include <algorithm>
 
+#include "engine/characters.h"
 #include "engine/evaluator.h"
+#include "engine/keywords.h"
 #include "format/value_writer.h"
 #include "values/value.h"
+#include "workarea/written_answer.h"
 
 namespace calquo {
 namespace {
@@ -20,6 +23,11 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
         --length;
     }
     return text.substr(0, length);
+}
+
+std::string_view withoutLeadingBlanks(std::string_view text) {
+    const std::size_t begin = std::ranges::find_if(text, [](char c) { return !isBlank(c); }) - text.begin();
+    return text.substr(begin);
 }
 
 /// Puts the value of `expression` and its text into `answer`; throws Except.
@@ -42,12 +50,36 @@ LineEdit editForResult(std::string_view line, std::size_t length, const std::str
     StyledText written{std::string(equalsJoint) + result, TextStyle::Result};
     StyledText carried{"\n\n" + result, TextStyle::Normal};
     const std::size_t caret = length + written.text.size() + carried.text.size();
-    return {true, length, line.size(), {std::move(written), std::move(carried)}, caret, {}};
+    return {true, length, line.size(), {std::move(written), std::move(carried)}, caret, result.size()};
 }
 
 /// The edit that ends the line after its first `length` characters and goes on below.
 LineEdit editForNewLine(std::string_view line, std::size_t length) {
-    return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1, {}};
+    return {true, length, line.size(), {{"\n", TextStyle::Normal}}, length + 1};
+}
+
+/// Whether a text without blanks around it reads as one name: letters and digits, a letter first, and also what may be
+/// a letter in somebody's language.
+bool isOneWord(std::string_view text) {
+    constexpr char lastOfAscii = '\x7E';
+    const auto isForeign = [](char character) {
+        return static_cast<unsigned char>(character) > static_cast<unsigned char>(lastOfAscii);
+    };
+    return !text.empty() && !isDecimalDigit(text.front()) && std::ranges::all_of(text, [&](char character) {
+        return isNameCharacter(character) || character == '_' || isForeign(character);
+    });
+}
+
+/// The edit of a line whose expression has failed.
+LineEdit editForError(std::string_view line, std::size_t length, const Answer& answer) {
+    LineEdit edit;
+    if (isNote(line, answer)) {
+        edit.goesToNextLine = true;
+        return edit;
+    }
+    std::string message(equalsJoint);
+    appendAnswer(message, answer, ErrorPlace::Hidden);
+    return {true, length, line.size(), {{std::move(message), TextStyle::Result}}, answer.position};
 }
 
 /// The edit of a line that is evaluated: its error message after the expression, or what `editFor` makes of the
@@ -60,14 +92,7 @@ LineEdit editForAnswer(std::string_view line, NumericFormat format, const EditFo
     }
     Answer answer;
     evaluateInto(answer, expression, format);
-    LineEdit edit;
-    if (answer.failed) {
-        std::string message(equalsJoint);
-        appendAnswer(message, answer, ErrorPlace::Hidden);
-        edit = {true, expression.size(), line.size(), {{std::move(message), TextStyle::Result}}, answer.position, {}};
-    } else {
-        edit = editFor(expression, answer.text);
-    }
+    LineEdit edit = answer.failed ? editForError(line, expression.size(), answer) : editFor(expression, answer.text);
     edit.answer = std::move(answer);
     return edit;
 }
@@ -122,6 +147,17 @@ void appendRecord(std::string& output, std::string_view expression, const Answer
     appendAnswer(output, answer, place);
 }
 
+bool isNote(std::string_view line, const Answer& answer) {
+    const std::size_t equals = line.find(equalsSign);
+    if (!answer.failed || equals == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view name = withoutLeadingBlanks(expressionOf(line));
+    const std::string_view words = withoutTrailingBlanks(line.substr(equals + 1));
+    const bool isUnknown = answer.error == ErrorCode::UnknownName || lookup(name) == 0;
+    return isUnknown && isOneWord(name) && !words.empty() && !isWrittenAnswer(words);
+}
+
 LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
     if (line.empty()) {
         return editForNewLine(line, 0);
@@ -134,7 +170,7 @@ LineEdit editAfterEnter(std::string_view line, NumericFormat format) {
 
 LineEdit editWithResult(std::string_view line, std::size_t begin, std::size_t end, NumericFormat format) {
     return editForAnswer(line, format, [&](std::string_view, const std::string& result) {
-        return LineEdit{true, begin, end, {{result, TextStyle::Normal}}, begin + result.size(), {}};
+        return LineEdit{true, begin, end, {{result, TextStyle::Normal}}, begin + result.size()};
     });
 }
 

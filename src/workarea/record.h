@@ -61,13 +61,19 @@ struct LineEdit {
     std::size_t end = 0;
     std::vector<StyledText> pieces;
     std::size_t caret = 0;
-    std::optional<Answer> answer;  ///< What the line's expression gave; none for a line without one.
+    std::size_t carried = 0;      ///< How many characters before the caret are the result carried on.
+    bool goesToNextLine = false;  ///< Nothing changes; the caret goes to the next line, made where there is none.
+    std::optional<Answer> answer = std::nullopt;  ///< What the expression gave; none for a line without one.
 };
+
+/// Whether a failed line is somebody's words, such as "A = 12 m2, U = 0.24": its expression is one name that the
+/// language does not know, letters beyond ASCII included, and what follows the "=" is no answer of the program.
+bool isNote(std::string_view line, const Answer& answer);
 
 /// The edit that Enter makes on `line`: an empty line gets a new line; a line without an expression stays as it is; a
 /// number that prints as it was typed gets a new line; any other expression gets its result, an empty line, and the
 /// result once more with the caret after it. A failed expression gets its error message, nothing is carried on, and
-/// the caret goes to the mistake.
+/// the caret goes to the mistake; but a note keeps its words, and the caret goes to the next line.
 LineEdit editAfterEnter(std::string_view line, NumericFormat format);
 
 /// The edit that puts the result of `line` in place of its selected characters, `begin` to `end`. A line without an

@@ -89,6 +89,8 @@ private:
     void evaluate();
     void evaluateIntoSelection();
 
+    /// Puts the caret at the start of the next line, which is made where there is none.
+    void goToLineAfter(const Paragraph& line);
     void apply(const Paragraph& line, const LineEdit& edit);
 
     std::vector<KeyCommand> keyCommands_;

@@ -180,7 +180,18 @@ void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::
             positionOf(line.start, caret));
 }
 
+void WorkArea::goToLineAfter(const Paragraph& line) {
+    const std::int32_t end = line.range.end;
+    select({end + 1, end + 1});
+    if (selection().begin == end) {
+        insertLineEnd();  // the control goes no further than its text
+    }
+}
+
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
+    if (edit.goesToNextLine) {
+        goToLineAfter(line);
+    }
     if (!edit.changes) {
         return;
     }
