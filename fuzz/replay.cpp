@@ -1,25 +1,22 @@
-// Holds every file of a corpus against the target that this is linked with.
+// replay CORPUS...: holds every input of each corpus against the target that is named as the file is.
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <vector>
 
-#include "targets.h"
+#include "corpus_text.h"
+#include "target.h"
 
 int main(int count, char** arguments) {
-    if (count != 2) {
-        std::fprintf(stderr, "usage: fuzz_TARGET CORPUS\n");
+    if (count < 2) {
+        std::fprintf(stderr, "usage: replay CORPUS...\n");
         return 2;
     }
-    int inputs = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(arguments[1])) {
-        std::ifstream file(entry.path(), std::ios::binary);
-        const std::vector<char> bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        std::fprintf(stderr, "%s\n", entry.path().filename().c_str());
-        calquo::check({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
-        ++inputs;
+    for (int index = 1; index < count; ++index) {
+        const calquo::Target& target = calquo::Target::find(std::filesystem::path(arguments[index]).stem().string());
+        for (const std::string& input : calquo::readCorpus(arguments[index])) {
+            std::fprintf(stderr, "%s\n", calquo::escapedInput(input).c_str());
+            target.run({reinterpret_cast<const std::uint8_t*>(input.data()), input.size()});
+        }
     }
-    std::printf("%d inputs\n", inputs);
-    return inputs == 0 ? 1 : 0;
+    std::printf("%llu inputs\n", static_cast<unsigned long long>(calquo::executions()));
+    return 0;
 }

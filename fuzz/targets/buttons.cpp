@@ -1,0 +1,48 @@
+// Any button pressed on any line with any selection: the edit stays in the line, and so does the caret after the edit.
+#include <string>
+
+#include "panels/button_action.h"
+#include "target.h"
+
+namespace calquo {
+namespace {
+
+struct Checker {
+    const LineSelection& line;
+
+    void operator()(NoAction) const {}
+    void operator()(EditingOperation) const {}
+    void operator()(TypeCharacters typing) const { require(!typing.characters.empty(), "nothing is typed"); }
+    void operator()(const SurroundCharacters& change) const {
+        checkPlace(change.begin, change.end, change.before.size() + change.after.size() + change.end - change.begin,
+                   change.caret);
+    }
+    void operator()(const ReplaceCharacters& change) const {
+        checkPlace(change.begin, change.end, change.text.size(), change.caret);
+    }
+
+private:
+    void checkPlace(std::size_t begin, std::size_t end, std::size_t length, std::size_t caret) const {
+        require(begin <= end && end <= line.text.size(), "the edit leaves the line");
+        require(caret <= line.text.size() - (end - begin) + length, "the caret leaves the changed line");
+    }
+};
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    const auto panels = panelCatalogue();
+    const PanelEntry& panel = panels[reader.byte() % panels.size()];
+    const PanelRow row = panel.rows[reader.byte() % panel.rows.size()];
+    const PanelButton& button = row[reader.byte() % row.size()];
+    const auto angle = static_cast<AngleOption>(reader.byte() % 4);
+    const std::size_t begin = reader.byte();
+    const std::size_t end = begin + reader.byte();
+    const std::string text = reader.text();
+    const LineSelection line{text, begin, end};
+    std::visit(Checker{line}, actionOf(panel, button, line, angle));
+}
+
+const Target target("buttons", check);
+
+}  // namespace
+}  // namespace calquo

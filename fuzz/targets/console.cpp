@@ -1,0 +1,118 @@
+// Any arguments and any standard input of calq: it ends with a status that it has, and each line of the input gets one
+// line, in whatever pieces it comes.
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "console/byte_streams.h"
+#include "console/calq.h"
+#include "target.h"
+
+namespace calquo {
+namespace {
+
+/// A file in memory.
+class MemoryFile {
+public:
+    explicit MemoryFile(std::string_view bytes) : file_(::memfd_create("calq", 0)) {
+        require(::write(file_, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()), "no file in memory");
+        ::lseek(file_, 0, SEEK_SET);
+    }
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+    ~MemoryFile() { ::close(file_); }
+
+    int descriptor() const { return file_; }
+    std::string path() const { return "/proc/self/fd/" + std::to_string(file_); }
+    std::string bytes() const {
+        std::string all(static_cast<std::size_t>(::lseek(file_, 0, SEEK_END)), '\0');
+        require(::pread(file_, all.data(), all.size(), 0) == static_cast<ssize_t>(all.size()), "cannot be read again");
+        return all;
+    }
+
+private:
+    int file_;
+};
+
+/// Lets one of the process's descriptors stand for another one, as long as this lives.
+class Redirection {
+public:
+    Redirection(int descriptor, int to) : descriptor_(descriptor), original_(::dup(descriptor)) {
+        ::dup2(to, descriptor);
+    }
+    Redirection(const Redirection&) = delete;
+    Redirection& operator=(const Redirection&) = delete;
+    ~Redirection() {
+        ::dup2(original_, descriptor_);
+        ::close(original_);
+    }
+
+private:
+    int descriptor_;
+    int original_;
+};
+
+struct Run {
+    int status = 0;
+    std::string output;
+    std::string messages;
+};
+
+Run runOf(const std::vector<std::string>& arguments, const MemoryFile& input) {
+    const MemoryFile output(""), messages("");
+    std::vector<const char*> all;
+    for (const std::string& argument : arguments) {
+        all.push_back(argument.c_str());
+    }
+    Run run;
+    {
+        const Redirection in(standardInput, input.descriptor());
+        const Redirection out(standardOutput, output.descriptor());
+        const Redirection error(standardError, messages.descriptor());
+        run.status = runCalq(all);
+        std::fflush(stderr);
+    }
+    run.output = output.bytes();
+    run.messages = messages.bytes();
+    return run;
+}
+
+std::size_t linesIn(std::string_view bytes) {
+    return static_cast<std::size_t>(std::ranges::count(bytes, '\n')) + (bytes.empty() || bytes.ends_with('\n') ? 0 : 1);
+}
+
+/// Standard input alone, answered and recorded.
+void checkStream(const std::string& bytes) {
+    const Run answers = runOf({"--seed=1"}, MemoryFile(bytes));
+    require(answers.status == 0 && answers.messages.empty(), "standard input is not read");
+    require(linesIn(answers.output) == linesIn(bytes), "not each line gets a line");
+    const std::string records = runOf({"--seed=1", "--record"}, MemoryFile(bytes)).output;
+    require(linesIn(records) == linesIn(bytes), "not each line gets a record");
+    const MemoryFile sheet(bytes);
+    const Run checked = runOf({"--check", sheet.path()}, MemoryFile(""));
+    require(checked.status == (checked.output.empty() ? 0 : 1), "what differs is not told by the status");
+}
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    std::vector<std::string> arguments;
+    for (int count = reader.byte() % 6; count > 0; --count) {
+        arguments.push_back(reader.textUntil('\n').c_str());
+    }
+    const std::string bytes = reader.text();
+    // A file that an input happens to name is none of the property's business.
+    if (std::ranges::count(arguments, "--check") != 0) {
+        std::erase_if(arguments, [](const std::string& argument) { return !argument.starts_with("--"); });
+        std::erase(arguments, "--");
+    }
+    const Run run = runOf(arguments, MemoryFile(bytes));
+    require(run.status >= 0 && run.status <= 2, "a status that calq does not have");
+    require(run.status != 2 || !run.messages.empty(), "status 2 without a message");
+    checkStream(bytes);
+}
+
+const Target target("console", check);
+
+}  // namespace
+}  // namespace calquo

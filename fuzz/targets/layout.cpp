@@ -1,0 +1,193 @@
+// Windows, dialogs and buttons of any size on any screens: nothing has a negative size, parts do not overlap and stay
+// within, and whatever is stored, a window is shown where somebody can reach it.
+#include <algorithm>
+
+#include "dialogs/attribute_controls.h"
+#include "dialogs/form_layout.h"
+#include "shell/window_layout.h"
+#include "target.h"
+#include "values/errors.h"
+#include "widgets/button_face.h"
+#include "widgets/button_press.h"
+#include "widgets/shape_coverage.h"
+
+namespace calquo {
+namespace {
+
+int lengthFrom(InputReader& reader) { return static_cast<int>(reader.number(2) % 5000); }
+Size sizeFrom(InputReader& reader) {
+    const int width = lengthFrom(reader);
+    return {width, lengthFrom(reader)};
+}
+/// Its edges have 16 bits, as those of the system's windows.
+Rectangle rectangleFrom(InputReader& reader) {
+    const auto left = static_cast<std::int16_t>(reader.number(2));
+    const auto top = static_cast<std::int16_t>(reader.number(2));
+    const Size size = sizeFrom(reader);
+    return {left, top, size.width, size.height};
+}
+
+bool isWithin(const Rectangle& part, const Rectangle& whole) {
+    return part.width >= 0 && part.height >= 0 && part.left >= whole.left && part.top >= whole.top &&
+           part.left + part.width <= whole.left + whole.width && part.top + part.height <= whole.top + whole.height;
+}
+
+bool overlap(const Rectangle& one, const Rectangle& other) {
+    return one.width > 0 && one.height > 0 && other.width > 0 && other.height > 0 &&
+           one.left < other.left + other.width && other.left < one.left + one.width &&
+           one.top < other.top + other.height && other.top < one.top + one.height;
+}
+
+void checkWindow(InputReader& reader) {
+    WindowParts parts;
+    const Size caption = sizeFrom(reader);
+    parts.leftCaption = caption;
+    parts.rightCaption = {lengthFrom(reader), caption.height};
+    parts.panelsHidden = reader.byte() % 4 == 0;
+    parts.smallestWorkArea = sizeFrom(reader);
+    for (int count = reader.byte() % 8; count > 0; --count) {
+        parts.panels.push_back(sizeFrom(reader));
+    }
+    const Size smallest = smallestClient(parts);
+    const Size extra = sizeFrom(reader);
+    const Size client{smallest.width + extra.width, smallest.height + extra.height};
+    const WindowLayout layout = layOutWindow(client, parts);
+    const Rectangle whole{0, 0, client.width, client.height};
+    std::vector<Rectangle> all = layout.panels;
+    all.insert(all.end(), {layout.leftCaption, layout.rightCaption, layout.title, layout.workArea});
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        require(isWithin(all[index], whole), "a part leaves the window");
+        for (std::size_t other = 0; other < index; ++other) {
+            require(!overlap(all[index], all[other]), "two parts overlap");
+        }
+    }
+    require(layout.workArea.width >= parts.smallestWorkArea.width &&
+                layout.workArea.height >= parts.smallestWorkArea.height,
+            "the work area is too small to work in");
+    const WindowLayout tiny = layOutWindow(extra, parts);
+    require(tiny.workArea.width >= 0 && tiny.workArea.height >= 0 && tiny.title.width >= 0, "a negative size");
+}
+
+void checkPlace(InputReader& reader) {
+    const Rectangle wanted = rectangleFrom(reader);
+    const Size smallest = sizeFrom(reader);
+    std::vector<Rectangle> areas;
+    for (int count = reader.byte() % 4; count > 0; --count) {
+        areas.push_back(rectangleFrom(reader));
+        areas.back().width += 640;
+        areas.back().height += 480;
+    }
+    const Rectangle shown = reachableRectangle(wanted, smallest, areas);
+    require(areas.empty() || std::ranges::any_of(areas, [&](const Rectangle& area) { return overlap(shown, area); }) ||
+                shown.width == 0 || shown.height == 0,
+            "no screen shows the window");
+    require(reachableRectangle(shown, {}, areas) == shown, "a window that is shown is moved");
+    for (const Rectangle& area : areas) {
+        const Rectangle frame{-3, -3, 6, 6};
+        const Rectangle maximized = maximizedRectangle(area, frame);
+        require(isWithin(area, maximized), "the maximized window leaves a gap");
+        const Size dialog = sizeFrom(reader);
+        const Rectangle placed = dialogRectangle(dialog, wanted, area);
+        const bool fits = dialog.width <= area.width && dialog.height <= area.height;
+        require(!fits || isWithin(placed, area), "a dialog that fits leaves the screen");
+        require(placed.left >= area.left && placed.top >= area.top, "the corner of a dialog is out of view");
+    }
+}
+
+void checkForm(InputReader& reader) {
+    FormParts parts;
+    parts.dotsPerInch = 48 + reader.byte() * 3;
+    for (int count = reader.byte() % 16; count > 0; --count) {
+        const bool hasLabel = reader.byte() % 2 == 0;
+        parts.rows.push_back({hasLabel ? sizeFrom(reader) : Size{}, sizeFrom(reader)});
+    }
+    for (int count = 1 + reader.byte() % 4; count > 0; --count) {
+        parts.buttons.push_back(sizeFrom(reader));
+    }
+    const FormLayout layout = layOutForm(parts, lengthFrom(reader));
+    std::vector<Rectangle> all = layout.controls;
+    all.insert(all.end(), layout.buttons.begin(), layout.buttons.end());
+    all.push_back(layout.message);
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        require(isWithin(all[index], {0, 0, layout.client.width, layout.client.height}), "a control leaves the dialog");
+        for (std::size_t other = 0; other < index; ++other) {
+            require(!overlap(all[index], all[other]), "two controls overlap");
+        }
+    }
+}
+
+void checkButton(InputReader& reader) {
+    const int height = 12 + reader.byte() % 188;
+    const Size size{height + reader.byte(), height};  // no button is less wide than high
+    const Color color{reader.byte(), reader.byte(), reader.byte()};
+    for (const bool pressed : {false, true}) {
+        const ButtonFace face = buttonFace(size, color, pressed);
+        require(contrast(color, face.textColor) >= 4.5, "the text cannot be read on the button");
+        for (const RoundedRectangle& layer : face.layers) {
+            require(isWithin(layer.rectangle, {0, 0, size.width, size.height}), "a layer leaves the button");
+        }
+    }
+    const auto symbol = static_cast<Symbol>(reader.byte() % (static_cast<int>(Symbol::Close) + 1));
+    const Coverage coverage = coverageOf(shapeOf(symbol), 1 + reader.byte());
+    require(coverage.alpha.size() == static_cast<std::size_t>(coverage.size.width * coverage.size.height),
+            "a picture lacks pixels");
+    ButtonPress press(reader.byte() % 2 == 0);
+    for (int steps = reader.byte() % 16; steps > 0; --steps) {
+        const std::uint8_t step = reader.byte();
+        const bool wasPressed = press.isPressed();
+        const ButtonNotice notice = step % 4 == 0   ? press.press()
+                                    : step % 4 == 1 ? press.repeat()
+                                    : step % 4 == 2 ? press.release((step & 4) != 0, (step & 8) != 0)
+                                                    : (press.cancel(), ButtonNotice::None);
+        require(notice != ButtonNotice::Clicked || (!press.repeats() && !press.isPressed()), "a held button clicks");
+        require(notice != ButtonNotice::Pressed || press.repeats(), "a button repeats that may not");
+        require(step % 4 != 1 || wasPressed == press.isPressed(), "the timer changes the button");
+    }
+}
+
+/// A dialog's changes of a format's word, one by one: what is in range is kept, everything else is refused in words.
+void checkAttributes(InputReader& reader) {
+    const auto kind = static_cast<FormatKind>(reader.byte() % formatKinds.size());
+    NumericFormat word = defaultFormats[static_cast<std::size_t>(kind)];
+    for (const Attribute* const attribute : attributesOf(kind)) {
+        const std::string typed = reader.byte() % 2 == 0 ? std::to_string(reader.byte() % 70) : reader.textUntil(';');
+        const TypedNumber number = readNumber(*attribute, typed);
+        require(number.value.has_value() == number.fault.empty(), "a refused number without words");
+        if (!number.value) {
+            require(number.fault.find(rangeInWords(*attribute)) != std::string::npos, "a refusal without the range");
+            continue;
+        }
+        WorkingValues values(word);
+        values.set(*attribute, *number.value);
+        require(values.get(*attribute) == *number.value, "a value is not kept");
+        const NumericFormat before = word;
+        try {
+            values.applyTo(word);
+            require(widthFault(*attribute, *number.value).empty() && isWellFormed(word, kind), "a word of no format");
+        } catch (const Except&) {
+            require(!widthFault(*attribute, *number.value).empty(), "a value within its range is refused");
+            word = before;
+        }
+    }
+}
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    switch (reader.byte() % 5) {
+        case 0:
+            return checkWindow(reader);
+        case 1:
+            return checkPlace(reader);
+        case 2:
+            return checkForm(reader);
+        case 3:
+            return checkButton(reader);
+        default:
+            return checkAttributes(reader);
+    }
+}
+
+const Target target("layout", check);
+
+}  // namespace
+}  // namespace calquo
