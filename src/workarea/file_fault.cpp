@@ -72,8 +72,6 @@ constexpr FailureRow failureRows[] = {
     {FileFailure::NotRichText, L"The name of the file ends with \".rtf\", but there is no rich text in it.",
      L"If it is plain text, give it a name that ends with \".txt\"."},
     {FileFailure::CutOff, L"The file is damaged: its end is missing.", L"Look for an older copy of it."},
-    {FileFailure::NestedTooDeeply, L"The rich text in the file is nested too deeply.",
-     L"Save it as plain text with the program that it comes from."},
     {FileFailure::Refused, L"The rich text in the file is damaged.",
      L"Open it with another program and save it as plain text."},
     {FileFailure::NotText, L"There is no text in the file, but data of another kind.", L"Choose another file."},

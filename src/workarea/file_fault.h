@@ -21,13 +21,12 @@ enum class FileFailure : std::uint8_t {
     DiskFull,
     NotReady,
     OutOfMemory,
-    TooLarge,         ///< More bytes than largestFile.
-    TooMuchText,      ///< More text than fits TextCost.
-    NotRichText,      ///< Does not begin as rich text does.
-    CutOff,           ///< Rich text whose end is missing.
-    NestedTooDeeply,  ///< Rich text with more groups in one another than controls bear.
-    Refused,          ///< Rich text that the control does not understand.
-    NotText,          ///< Plain text with NUL characters.
+    TooLarge,     ///< More bytes than largestFile.
+    TooMuchText,  ///< More text than fits TextCost.
+    NotRichText,  ///< Does not begin as rich text does.
+    CutOff,       ///< Rich text whose end is missing.
+    Refused,      ///< Rich text that the control does not understand.
+    NotText,      ///< Plain text with NUL characters.
     Other,
 };
 

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "workarea/file_fault.h"
+#include "workarea/line_breaks.h"
 #include "workarea/text_cost.h"
 #include "workarea/utf8.h"
 
@@ -115,19 +116,22 @@ std::u16string unitsOf(std::string_view bytes, TextEncoding encoding, const Code
     return units;
 }
 
-/// Calls `takeUnit` for each unit that ends no line and `takeLineEnd` for each line end.
+/// Calls `takeUnit` for each unit that ends no line and `takeLineEnd` for each line end, with the kind of those that a
+/// text may have throughout.
 template <typename TakeUnit, typename TakeLineEnd>
 void forEachUnit(std::u16string_view units, TakeUnit takeUnit, TakeLineEnd takeLineEnd) {
     for (std::size_t index = 0; index < units.size(); ++index) {
-        if (units[index] == u'\n') {
-            takeLineEnd(LineEnd::LineFeed);
-        } else if (units[index] != u'\r') {
+        if (!breaksLine(units[index])) {
             takeUnit(units[index]);
+        } else if (units[index] == u'\n') {
+            takeLineEnd(std::optional(LineEnd::LineFeed));
+        } else if (units[index] != u'\r') {
+            takeLineEnd(std::optional<LineEnd>());
         } else if (index + 1 < units.size() && units[index + 1] == u'\n') {
             ++index;
-            takeLineEnd(LineEnd::CarriageReturnLineFeed);
+            takeLineEnd(std::optional(LineEnd::CarriageReturnLineFeed));
         } else {
-            takeLineEnd(LineEnd::CarriageReturn);
+            takeLineEnd(std::optional(LineEnd::CarriageReturn));
         }
     }
 }
@@ -149,7 +153,7 @@ std::u16string withLineEnds(std::u16string_view characters, LineEnd lineEnd) {
     units.reserve(characters.size());
     const std::u16string_view end = charactersOf(lineEnd);
     forEachUnit(
-        characters, [&](char16_t unit) { units += unit; }, [&](LineEnd) { units += end; });
+        characters, [&](char16_t unit) { units += unit; }, [&](std::optional<LineEnd>) { units += end; });
     return units;
 }
 
@@ -157,7 +161,12 @@ std::u16string withLineEnds(std::u16string_view characters, LineEnd lineEnd) {
 LineEnd commonLineEnd(std::u16string_view units) {
     std::array<bool, 3> seen{};
     forEachUnit(
-        units, [](char16_t) {}, [&](LineEnd lineEnd) { seen[static_cast<std::size_t>(lineEnd)] = true; });
+        units, [](char16_t) {},
+        [&](std::optional<LineEnd> lineEnd) {
+            if (lineEnd) {
+                seen[static_cast<std::size_t>(*lineEnd)] = true;
+            }
+        });
     for (const LineEnd lineEnd : {LineEnd::LineFeed, LineEnd::CarriageReturn}) {
         if (seen[static_cast<std::size_t>(lineEnd)] && std::count(seen.begin(), seen.end(), true) == 1) {
             return lineEnd;
@@ -169,7 +178,7 @@ LineEnd commonLineEnd(std::u16string_view units) {
 void refuseTooMuchText(std::u16string_view units, std::uint64_t mostCost) {
     TextCost cost;
     forEachUnit(
-        units, [&](char16_t) { cost.addCharacter(); }, [&](LineEnd) { cost.endLine(); });
+        units, [&](char16_t) { cost.addCharacters(1); }, [&](std::optional<LineEnd>) { cost.endLine(); });
     cost.endLine();
     if (cost.total() > mostCost) {
         throw FileFault{FileFailure::TooMuchText, {}};

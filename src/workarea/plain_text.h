@@ -40,7 +40,8 @@ struct TextForm {
 };
 
 struct PlainText {
-    std::u16string characters;  ///< Lines end with "\r", whatever they end with in the file.
+    /// Lines end with "\r", whatever they end with in the file, be it a line break of a word processor.
+    std::u16string characters;
     TextForm form;
 };
 
@@ -51,9 +52,9 @@ struct PlainTextRules {
 };
 
 /// The text of a file. UTF-8 and UTF-16 go by their byte order marks; bytes without one are UTF-8 where they are valid
-/// as such, else in the system's code page where they are valid there, else Windows-1252. The line end is the one that
-/// all lines have; CR LF where they differ or there is none. Throws FileFault: NotText for text with NUL characters,
-/// TooMuchText where its TextCost is above the most.
+/// as such, else in the system's code page where they are valid there, else Windows-1252. The line end is the one of CR
+/// LF, LF and CR that lines have; CR LF where they have several or none. Throws FileFault: NotText for text with NUL
+/// characters, TooMuchText where its TextCost is above the most.
 PlainText decodePlainText(std::string_view bytes, const PlainTextRules& rules);
 
 /// The bytes of a text, whose lines may end with CR LF, CR or LF. Decoded, they give the same characters again: UTF-8

@@ -11,7 +11,7 @@ namespace calquo {
 /// microseconds.
 class TextCost {
 public:
-    void addCharacter() { ++length_; }
+    void addCharacters(std::uint64_t count) { length_ += count; }
     void endLine() {
         const std::uint64_t rows = length_ / 64;
         total_ += 1 + rows * rows / 8;

@@ -10,6 +10,7 @@
 #include "workarea/file_fault.h"
 #include "workarea/file_kind.h"
 #include "workarea/rich_text.h"
+#include "workarea/rich_text_filter.h"
 #include "workarea/text_cost.h"
 
 namespace calquo {
@@ -42,7 +43,7 @@ void refuseWhatCannotBeRead(FileKind kind, std::string_view bytes) {
         throw FileFault{FileFailure::TooLarge, {}};
     }
     if (kind == FileKind::RichText) {
-        richTextToRead(bytes, mostTextCost());
+        cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped);
     } else {
         decodePlainText(bytes, plainTextRules());
     }
@@ -59,7 +60,8 @@ void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {
         files_.read(name, [&](std::string_view bytes) {
             if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
-                requireTaken(workArea_.replaceContentByRichText(richTextToRead(bytes, mostTextCost())));
+                const std::string text = cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped);
+                requireTaken(workArea_.replaceContentByRichText(text));
                 form_ = {};
             } else {
                 const PlainText text = decodePlainText(bytes, plainTextRules());

@@ -1,0 +1,34 @@
+// The one way of rich text into a sheet, wherever it comes from: a list of what is let through.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace calquo {
+
+/// What becomes of the end of the last line when nothing follows it.
+enum class LastLineEnd : std::uint8_t {
+    Kept,
+    Dropped,  ///< For text that takes the place of a selection: it would begin another line.
+};
+
+/// A rich text that shows the same characters as the one in `bytes` and is made of these things alone:
+///
+/// - lines, ended by \par in place of every word and character that breaks a line, and tabs, also between the cells of
+///   a table; each character of ASCII as itself, each byte of a code page as \'hh, any other by \uN?, where surrogates
+///   come in pairs;
+/// - fonts (name, family, character set), sizes, bold, italic, underlined, struck out, raised and lowered characters,
+///   colours of characters and of their background; alignment and indents of paragraphs;
+/// - at its head the character set, and the tables of the fonts and colours that are in use.
+///
+/// Pictures, objects, instructions of fields, hidden text, styles, headers, and all else go without a word; nesting may
+/// be as deep as it likes. Groups stand in one another at most two deep in the result, apart from its tables.
+/// What comes out passes unchanged: clean(clean(x)) is clean(x) where the last line end is kept. Takes time and memory
+/// in proportion to the length.
+///
+/// Throws FileFault: NotRichText, CutOff where the last brace is missing, TooMuchText where the TextCost of the shown
+/// characters is above `mostCost`. What follows the last brace is left out.
+std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd);
+
+}  // namespace calquo
