@@ -4,7 +4,10 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
+#include "widgets/handles.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -23,21 +26,24 @@ using WideHelp = HWND(WINAPI*)(HWND owner, const wchar_t* file, UINT command, DW
 /// Shows the table of contents and the default topic of a help file; takes no data.
 constexpr UINT displayTopic = 0;
 
-/// The registered library, or the one of the usual name when that is not registered or does not load, for the rest of
-/// the program's run; null when the system has no help.
-HMODULE loadControl() {
+/// Whether a path begins at a drive's root. Others depend on the folder that happens to be current.
+bool isFullPath(std::wstring_view path) { return path.size() > 3 && path.substr(1, 2) == L":\\"; }
+
+/// The registered library, or the system's when none is registered or it does not load; none when the system has no
+/// help.
+LibraryOwner loadControl() {
     std::array<wchar_t, MAX_PATH> path{};
     DWORD size = sizeof path;
     const bool isRegistered = RegGetValueW(HKEY_CLASSES_ROOT, registeredLibrary, nullptr, RRF_RT_REG_SZ, nullptr,
                                            path.data(), &size) == ERROR_SUCCESS;
-    const HMODULE registered = isRegistered ? LoadLibraryW(path.data()) : nullptr;
-    return registered != nullptr ? registered : LoadLibraryW(usualLibrary);
+    LibraryOwner registered = isRegistered && isFullPath(path.data()) ? loadLibraryAt(path.data()) : LibraryOwner();
+    return registered ? std::move(registered) : loadSystemLibrary(usualLibrary);
 }
 
 /// A function of the control, null when the system has none.
 template <typename Function>
 Function find(WORD ordinal) {
-    static const HMODULE control = loadControl();
+    static const HMODULE control = loadControl().release();
     const FARPROC found = control == nullptr ? nullptr : GetProcAddress(control, MAKEINTRESOURCEA(ordinal));
     return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(found));
 }

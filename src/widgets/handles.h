@@ -2,6 +2,7 @@
 // of ours includes those.
 #pragma once
 
+#include <string>
 #include <utility>
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the system's own names.
@@ -69,6 +70,9 @@ using LibraryOwner = HandleOwner<ModuleHandle, freeLibrary>;
 using MenuOwner = HandleOwner<MenuHandle, destroyMenu>;
 using RegionOwner = HandleOwner<RegionHandle, deleteRegion>;
 using WindowOwner = HandleOwner<WindowHandle, destroyWindow>;
+
+/// The library of a full path; none when it cannot be loaded.
+LibraryOwner loadLibraryAt(const std::wstring& path);
 
 /// A library of the system's own, never one of that name that lies beside the program; none when it cannot be loaded.
 LibraryOwner loadSystemLibrary(const wchar_t* name);
