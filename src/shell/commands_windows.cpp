@@ -96,7 +96,9 @@ void Commands::toggleAngle(std::uint16_t identifier) {
 
 // --- Work area and files --------------------------------------------------------------------------------------------
 
-void Commands::clearWorkArea(std::uint16_t) { targets_.workArea.clear(); }
+void Commands::clearWorkArea(std::uint16_t) {
+    targets_.recovery.aroundReplacement([this] { targets_.workArea.clear(); });
+}
 
 void Commands::bringBackWorkArea(std::uint16_t) {
     if (!targets_.recovery.bringBack()) {
@@ -104,7 +106,9 @@ void Commands::bringBackWorkArea(std::uint16_t) {
     }
 }
 
-void Commands::readDefaultFile(std::uint16_t) { targets_.files.readDefault(); }
+void Commands::readDefaultFile(std::uint16_t) {
+    targets_.recovery.aroundReplacement([this] { targets_.files.readDefault(); });
+}
 
 void Commands::saveDefaultFile(std::uint16_t) {
     targets_.files.saveDefault();
@@ -117,7 +121,8 @@ void Commands::saveAgain(std::uint16_t) {
 }
 
 void Commands::chooseFile(std::uint16_t identifier) {
-    targets_.files.actOnChosenFile(static_cast<Command>(identifier));
+    targets_.recovery.aroundReplacement(
+        [this, identifier] { targets_.files.actOnChosenFile(static_cast<Command>(identifier)); });
     targets_.recovery.keepSaved();
 }
 

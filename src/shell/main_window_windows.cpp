@@ -366,7 +366,7 @@ bool MainWindow::onKey(const KeyEvent& event) {
 }
 
 bool MainWindow::onFilesDropped(std::uintptr_t drop) {
-    files_->readDropped(drop);
+    recovery_->aroundReplacement([&] { files_->readDropped(drop); });
     return true;
 }
 

@@ -40,7 +40,8 @@ std::wstring writeTemporaryFile(Disk& disk, const std::wstring& name, std::strin
     const std::size_t folder = lengthOfFolder(name);
     const std::size_t room = std::max<std::size_t>(longestPath, folder + 1) - folder;
     for (int tries = 0; tries < mostTries; ++tries) {
-        const std::wstring temporary = name.substr(0, folder) + temporaryName(disk.random(), room);
+        // Not const, so that what is returned is moved: a copy may find no memory, and nobody would remove the file.
+        std::wstring temporary = name.substr(0, folder) + temporaryName(disk.random(), room);
         if (const auto file = disk.create(temporary)) {
             for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), largestPiece))) {
                 file->write(bytes.substr(0, largestPiece));
@@ -56,7 +57,7 @@ std::wstring writeTemporaryFile(Disk& disk, const std::wstring& name, std::strin
 bool stillStands(Disk& disk, const std::wstring& name, const std::optional<FileState>& state) {
     try {
         return disk.find(name) == state;
-    } catch (const FileFault&) {
+    } catch (...) {
         return false;
     }
 }
@@ -118,7 +119,7 @@ void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, c
             isKept = true;
         }
         giveName(disk, temporary, name, !before);
-    } catch (const FileFault&) {
+    } catch (...) {
         // A replacement that has failed half-way may have taken the old file away: then these are all there is.
         if (stillStands(disk, name, before)) {
             disk.remove(temporary);

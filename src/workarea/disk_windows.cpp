@@ -6,6 +6,7 @@
 
 #include "widgets/handles.h"
 #include "widgets/windows_api.h"
+#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 
 namespace calquo {
@@ -97,12 +98,28 @@ private:
 
 class SystemNewFile : public NewFile {
 public:
-    SystemNewFile(std::wstring name, HANDLE file) : name_(std::move(name)), file_(file) { setVanishing(true); }
+    /// There is no file yet, so that nothing is left of one where memory runs out.
+    explicit SystemNewFile(std::wstring name) : name_(std::move(name)) {}
     ~SystemNewFile() override {
         if (file_) {
             file_.reset();
             DeleteFileW(name_.c_str());
         }
+    }
+
+    /// False when the name is taken.
+    bool make() {
+        const HANDLE file = handleTo(name_, {GENERIC_WRITE | DELETE, FILE_SHARE_READ, CREATE_NEW});
+        if (file == INVALID_HANDLE_VALUE) {
+            const DWORD error = GetLastError();
+            if (error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS) {
+                return false;
+            }
+            failBySystem(error, name_);
+        }
+        file_ = FileOwner(file);
+        setVanishing(true);
+        return true;
     }
 
     void write(std::string_view bytes) override {
@@ -147,7 +164,9 @@ public:
         const DWORD length =
             GetFinalPathNameByHandleW(file, path.data(), static_cast<DWORD>(path.size()), FILE_NAME_NORMALIZED);
         path.resize(std::min<std::size_t>(length, path.size()));
-        return path.empty() ? name : plainPath(path);
+        const std::wstring plain = plainPath(path);
+        // A short name may stand for a path that is too long.
+        return plain.empty() || plain.size() > longestPath ? name : plain;
     }
 
     std::optional<FileState> find(const std::wstring& name) override {
@@ -188,15 +207,8 @@ public:
     }
 
     std::unique_ptr<NewFile> create(const std::wstring& name) override {
-        const HANDLE file = handleTo(name, {GENERIC_WRITE | DELETE, FILE_SHARE_READ, CREATE_NEW});
-        if (file == INVALID_HANDLE_VALUE) {
-            const DWORD error = GetLastError();
-            if (error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS) {
-                return nullptr;
-            }
-            failBySystem(error, name);
-        }
-        return std::make_unique<SystemNewFile>(name, file);
+        auto file = std::make_unique<SystemNewFile>(name);
+        return file->make() ? std::move(file) : nullptr;
     }
 
     void replace(const std::wstring& name, const std::wstring& replacement) override {

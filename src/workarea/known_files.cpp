@@ -64,8 +64,10 @@ std::wstring keptName(const std::wstring& name, int number) {
 void KnownFiles::read(const std::wstring& name, const std::function<TextRevision(std::string_view bytes)>& take) {
     const std::wstring file = disk_.target(name);
     const std::string bytes = readFile(disk_, file);
-    const TextRevision revision = take(bytes);
-    note(file, digestOf(bytes), revision);
+    Row row{file, {}, digestOf(bytes), {}};
+    rows_.reserve(rows_.size() + 1);
+    row.revision = take(bytes);
+    note(std::move(row));
 }
 
 std::wstring KnownFiles::save(const std::wstring& name, TextRevision revision,
@@ -78,12 +80,17 @@ std::wstring KnownFiles::save(const std::wstring& name, TextRevision revision,
     if (step == SaveStep::None) {
         return {};
     }
-    const std::wstring kept = step == SaveStep::KeepAndWrite ? nameToKeep(file) : std::wstring();
+    std::wstring kept = step == SaveStep::KeepAndWrite ? nameToKeep(file) : std::wstring();
     const std::string content = bytes();
+    // All memory is had before the file changes: what has been saved is known, or the next save would keep it as a
+    // foreign file.
+    Row saved{file, {}, digestOf(content), revision};
+    Row foreign{kept, {}, std::nullopt, std::nullopt};
+    rows_.reserve(rows_.size() + 2);
     replaceFile(disk_, file, content, kept);
-    note(file, digestOf(content), revision);
+    note(std::move(saved));
     if (!kept.empty()) {
-        note(kept, std::nullopt, std::nullopt);
+        note(std::move(foreign));
     }
     return kept;
 }
@@ -105,14 +112,14 @@ const KnownFiles::Row* KnownFiles::knownRow(const std::wstring& name, const File
     }
 }
 
-void KnownFiles::note(const std::wstring& name, std::optional<std::uint64_t> digest,
-                      std::optional<TextRevision> revision) {
-    std::erase_if(rows_, [&](const Row& row) { return isSamePath(row.name, name); });
+void KnownFiles::note(Row row) {
+    std::erase_if(rows_, [&](const Row& other) { return isSamePath(other.name, row.name); });
     try {
-        if (const auto state = disk_.find(name)) {
-            rows_.push_back({name, *state, digest, revision});
+        if (const auto state = disk_.find(row.name)) {
+            row.state = *state;
+            rows_.push_back(std::move(row));
         }
-    } catch (const FileFault&) {
+    } catch (...) {
         // Of what cannot be found any more nothing is known.
     }
 }

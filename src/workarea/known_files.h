@@ -58,7 +58,8 @@ private:
 
     /// What is known of a file that is as it was left; null for any other.
     const Row* knownRow(const std::wstring& name, const FileState& state);
-    void note(const std::wstring& name, std::optional<std::uint64_t> digest, std::optional<TextRevision> revision);
+    /// Adds a row, for which there must be room, with the state in which the file is now.
+    void note(Row row);
     /// The first name for a kept file that no foreign one has.
     std::wstring nameToKeep(const std::wstring& name);
 

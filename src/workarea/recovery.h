@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,9 +15,13 @@ namespace calquo {
 /// names no place for such data.
 std::wstring recoveryFolder();
 
-/// Marks a copy as that of a running program, for all sessions of the machine, until the process ends in whatever way.
+/// Marks a copy as that of a running program, for all sessions and users of the machine, until the process ends in
+/// whatever way.
 class RunningCopyMark {
 public:
+    /// The name of the mark among those of the system.
+    static std::wstring nameFor(const std::wstring& copy);
+
     explicit RunningCopyMark(const std::wstring& copy);
     RunningCopyMark(const RunningCopyMark&) = delete;
     RunningCopyMark& operator=(const RunningCopyMark&) = delete;
@@ -42,6 +47,10 @@ public:
     /// one before that, and so on. False when there is none left; the next call begins with the newest again.
     bool bringBack();
 
+    /// Runs an action that may put another text in place of the work area's. That is then left as a run that has ended
+    /// leaves it. Nobody has to be told of text that was cleared away.
+    void aroundReplacement(const std::function<void()>& replace);
+
     /// Keeps the text where it has changed. Shortly after a long writing it is left to wait for the next call, of this
     /// or of keepWaiting.
     void keep();
@@ -55,13 +64,14 @@ private:
     std::wstring path(const std::wstring& copy) const { return folder_ + L'\\' + copy; }
     std::vector<std::wstring> endedCopies() const;
     void removeOldCopies() const;
+    void noteSaved() const;
 
     WorkArea& workArea_;
     std::function<bool()> isSaved_;
     WorkAreaFile file_;
     std::wstring folder_;
-    std::wstring copy_;  ///< The file's name for this run.
-    RunningCopyMark running_;
+    std::wstring copy_;  ///< The name of the file in which this run keeps its text now.
+    std::optional<RunningCopyMark> running_;
     std::vector<std::wstring> broughtBack_;
     WritingPace pace_;
     bool isWaiting_ = false;

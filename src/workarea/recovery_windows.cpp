@@ -17,12 +17,7 @@ std::wstring environmentText(const wchar_t* name) {
     return text;
 }
 
-/// The copy's name among those of all sessions, for programs of any version.
-std::wstring mutexName(const std::wstring& copy) {
-    return std::wstring(L"Global\\").append(wideProgramName).append(L" ").append(copy);
-}
-
-std::wstring nameOfThisRun() {
+std::wstring nameFromNowOn() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
     return copyName({now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, now.wMilliseconds,
@@ -69,8 +64,13 @@ std::wstring recoveryFolder() {
     return folder;
 }
 
+std::wstring RunningCopyMark::nameFor(const std::wstring& copy) {
+    // For programs of any version.
+    return std::wstring(L"Global\\").append(wideProgramName).append(L" ").append(copy);
+}
+
 RunningCopyMark::RunningCopyMark(const std::wstring& copy)
-    : mutex_(CreateMutexW(nullptr, FALSE, mutexName(copy).c_str())) {}
+    : mutex_(CreateMutexW(nullptr, FALSE, nameFor(copy).c_str())) {}
 
 RunningCopyMark::~RunningCopyMark() {
     if (mutex_ != nullptr) {
@@ -79,11 +79,12 @@ RunningCopyMark::~RunningCopyMark() {
 }
 
 bool RunningCopyMark::isSet(const std::wstring& copy) {
-    const HANDLE mutex = OpenMutexW(SYNCHRONIZE, FALSE, mutexName(copy).c_str());
-    if (mutex != nullptr) {
-        CloseHandle(mutex);
+    const HANDLE mutex = OpenMutexW(SYNCHRONIZE, FALSE, nameFor(copy).c_str());
+    if (mutex == nullptr) {
+        return GetLastError() == ERROR_ACCESS_DENIED;  // of a program that runs with other rights
     }
-    return mutex != nullptr;
+    CloseHandle(mutex);
+    return true;
 }
 
 Recovery::Recovery(WorkArea& workArea, std::function<bool()> isSaved, std::wstring folder)
@@ -91,8 +92,8 @@ Recovery::Recovery(WorkArea& workArea, std::function<bool()> isSaved, std::wstri
       isSaved_(std::move(isSaved)),
       file_(workArea),
       folder_(std::move(folder)),
-      copy_(nameOfThisRun()),
-      running_(copy_) {}
+      copy_(nameFromNowOn()),
+      running_(std::in_place, copy_) {}
 
 std::vector<std::wstring> Recovery::endedCopies() const {
     std::vector<std::wstring> copies;
@@ -115,7 +116,11 @@ bool Recovery::bringBack() {
         }
         broughtBack_.push_back(copy);
         try {
-            file_.read(path(copy));
+            const std::wstring own = copy_;
+            aroundReplacement([&] { file_.read(path(copy)); });
+            if (own != copy_) {
+                broughtBack_.push_back(own);  // it is not the one before
+            }
             return true;
         } catch (const FileFault&) {
             // The one before may be readable.
@@ -123,6 +128,22 @@ bool Recovery::bringBack() {
     }
     broughtBack_.clear();
     return false;
+}
+
+void Recovery::aroundReplacement(const std::function<void()>& replace) {
+    keepNow();
+    const TextRevision before = workArea_.revision();
+    const bool wasSaved = isSaved_();
+    replace();
+    if (!isWritten_ || workArea_.revision() == before) {
+        return;
+    }
+    if (wasSaved || workArea_.isEmpty()) {
+        noteSaved();
+    }
+    copy_ = nameFromNowOn();
+    running_.emplace(copy_);
+    isWritten_ = false;
 }
 
 void Recovery::keep() {
@@ -160,9 +181,11 @@ void Recovery::keepNow() {
 void Recovery::keepSaved() {
     keepNow();
     if (isWritten_ && (isSaved_() || workArea_.isEmpty())) {
-        MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str());
+        noteSaved();
     }
 }
+
+void Recovery::noteSaved() const { MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str()); }
 
 void Recovery::removeOldCopies() const {
     const std::vector<std::wstring> copies = endedCopies();

@@ -29,9 +29,9 @@ void withMemoryFaults(Action action) {
 // The system's characters are UTF-16 units.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
-void requireTaken(bool taken) {
+void requireTaken(bool taken, FileFailure failure) {
     if (!taken) {
-        throw FileFault{FileFailure::Refused, {}};
+        throw FileFault{failure, {}};
     }
 }
 
@@ -61,12 +61,14 @@ void WorkAreaFile::read(const std::wstring& name) {
         files_.read(name, [&](std::string_view bytes) {
             if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
                 const std::string text = cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped);
-                requireTaken(workArea_.replaceContentByRichText(text));
+                requireTaken(workArea_.replaceContentByRichText(text), FileFailure::Refused);
                 form_ = {};
             } else {
                 const PlainText text = decodePlainText(bytes, plainTextRules());
                 const auto* const characters = reinterpret_cast<const wchar_t*>(text.characters.data());
-                requireTaken(workArea_.replaceContentByPlainText({characters, text.characters.size()}));
+                // Plain text has nothing else that a control could refuse.
+                requireTaken(workArea_.replaceContentByPlainText({characters, text.characters.size()}),
+                             FileFailure::OutOfMemory);
                 form_ = text.form;
             }
             return workArea_.revision();

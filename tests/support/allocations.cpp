@@ -14,11 +14,18 @@ namespace {
 std::atomic<int> made = 0;
 std::atomic<int> deleted = 0;
 
+/// How many calls succeed before the one that fails; negative after that one, and where none is to fail.
+constexpr int noneFails = -2;
+std::atomic<int> leftToFail = noneFails;
+
 constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 std::atomic<std::size_t> bytesLeft = unlimited;
 
-/// Takes memory out of what is left, if there is a limit.
+/// Takes memory out of what is left, if there is a limit, and throws where the call is to fail.
 void take(std::size_t size) {
+    if (leftToFail >= 0 && leftToFail-- == 0) {
+        throw std::bad_alloc();
+    }
     if (bytesLeft == unlimited) {
         return;
     }
@@ -83,5 +90,11 @@ int allocationsHeld() { return made - deleted; }
 MemoryLimit::MemoryLimit(std::size_t bytes) { bytesLeft = bytes; }
 
 MemoryLimit::~MemoryLimit() { bytesLeft = unlimited; }
+
+FailingAllocation::FailingAllocation(int count) { leftToFail = count; }
+
+FailingAllocation::~FailingAllocation() { leftToFail = noneFails; }
+
+bool FailingAllocation::hasFailed() const { return leftToFail == -1; }
 
 }  // namespace calquo

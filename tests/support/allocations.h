@@ -20,4 +20,15 @@ public:
     MemoryLimit& operator=(const MemoryLimit&) = delete;
 };
 
+/// While it lives, the call of operator new that comes after `count` others fails.
+class FailingAllocation {
+public:
+    explicit FailingAllocation(int count);
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+    ~FailingAllocation();
+
+    bool hasFailed() const;
+};
+
 }  // namespace calquo

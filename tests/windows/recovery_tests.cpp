@@ -10,7 +10,7 @@
 namespace calquo {
 namespace {
 
-constexpr unsigned clear = 0x120, bringBack = 0x121, saveDefault = 0x141;
+constexpr unsigned clear = 0x120, bringBack = 0x121, readDefault = 0x140, saveDefault = 0x141;
 
 /// A run of the program that keeps its work area in the folder "Kept" of a test's own.
 struct Execution {
@@ -73,8 +73,9 @@ TEST(Recovery, WhatRunsHaveLeftComesBackOneAfterTheOther) {
     run.program.command(bringBack);
     EXPECT_EQ(run.hints.back(), noCopyHint);
     EXPECT_EQ(run.program.text(), L"4+4 = 8\n\n8");
+    // What this run had before the first of them.
     run.program.command(bringBack);
-    EXPECT_EQ(run.program.text(), L"6+6 = 12\n\n12");
+    EXPECT_EQ(run.program.text(), L"7+7 = 14\n\n14");
 }
 
 TEST(Recovery, OnlyTextThatNoFileHoldsIsToldOf) {
@@ -102,6 +103,61 @@ TEST(Recovery, OnlyTextThatNoFileHoldsIsToldOf) {
     EXPECT_TRUE(isTold(false, false));
     EXPECT_FALSE(isTold(true, false));
     EXPECT_FALSE(isTold(false, true));
+}
+
+TEST(Recovery, TextThatIsReplacedIsLeftAsIfItsRunHadEnded) {
+    struct Row {
+        unsigned command;
+        bool isSaved;  ///< Before that.
+        bool isTold;   ///< By the next start.
+    };
+    for (const Row& row : {Row{readDefault, false, true}, Row{readDefault, true, false}, Row{clear, false, false},
+                           Row{bringBack, false, true}}) {
+        SCOPED_TRACE(testing::Message() << std::hex << row.command << " " << row.isSaved);
+        const FileFolder folder;
+        Execution(folder).evaluate(L"7*8");
+        {
+            Execution run(folder);
+            run.evaluate(L"2+3");
+            if (row.isSaved) {
+                run.program.command(saveDefault);
+            }
+            folder.put(L"d.txt", "read");
+            run.program.command(row.command);
+            EXPECT_NE(run.program.text(), L"2+3 = 5\n\n5");
+            run.program.command(clear);
+        }
+        Execution next(folder);
+        EXPECT_EQ(!next.hints.empty(), row.isTold);
+        EXPECT_EQ(copiesIn(folder).size(), 2u);
+        // What is typed after it goes to another copy.
+        next.evaluate(L"1+1");
+        for (const wchar_t* text : {L"2+3 = 5\n\n5", L"7*8 = 56\n\n56"}) {
+            next.program.command(bringBack);
+            EXPECT_EQ(next.program.text(), text);
+        }
+        next.program.command(bringBack);
+        next.program.command(bringBack);
+        EXPECT_EQ(next.program.text(), L"1+1 = 2\n\n2");
+    }
+}
+
+TEST(Recovery, AnotherProgramsMarkCountsWhateverItsRights) {
+    const std::wstring copy = L"2026-11-22 02-44-40-125 000007C4.rtf";
+    const std::wstring name = RunningCopyMark::nameFor(copy);
+    EXPECT_EQ(name, L"Global\\Calquo " + copy);
+    EXPECT_FALSE(RunningCopyMark::isSet(copy));
+    // Nobody may do anything with it.
+    ACL nobody{};
+    InitializeAcl(&nobody, sizeof nobody, ACL_REVISION);
+    SECURITY_DESCRIPTOR description{};
+    InitializeSecurityDescriptor(&description, SECURITY_DESCRIPTOR_REVISION);
+    SetSecurityDescriptorDacl(&description, TRUE, &nobody, FALSE);
+    SECURITY_ATTRIBUTES rights{sizeof rights, &description, FALSE};
+    const HANDLE mutex = CreateMutexW(&rights, FALSE, name.c_str());
+    EXPECT_TRUE(RunningCopyMark::isSet(copy));
+    CloseHandle(mutex);
+    EXPECT_FALSE(RunningCopyMark::isSet(copy));
 }
 
 TEST(Recovery, ASaveIsNotedAtOnceAndUntilTheTextChanges) {

@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include "file_folder.h"
+#include "support/allocations.h"
 #include "support/repeated.h"
 #include "widgets/handles.h"
 #include "work_area_fixture.h"
@@ -337,6 +338,45 @@ TEST(WorkAreaFile, AFileKeepsItsAttributes) {
     ASSERT_EQ(sheet.write(L"x.txt"), std::nullopt);
     EXPECT_EQ(sheet.folder.bytes(L"x.txt"), "2+3");
     EXPECT_EQ(GetFileAttributesW(sheet.folder.path(L"x.txt").c_str()), attributes);
+}
+
+TEST(WorkAreaFile, MemoryThatRunsOutLosesNothing) {
+    struct Row {
+        const wchar_t* name;
+        bool isSave, isForeign;
+    };
+    for (const Row& row : {Row{L"x.txt", false, false}, Row{L"x.rtf", false, false}, Row{L"x.txt", true, false},
+                           Row{L"x.rtf", true, false}, Row{L"x.txt", true, true}}) {
+        Sheet sheet;
+        sheet.folder.put(row.name, fileKindOf(row.name) == FileKind::RichText ? "{\\rtf1 old}" : "old");
+        int calls = 0;
+        for (bool failed = true; failed; ++calls) {
+            SCOPED_TRACE(testing::Message() << testing::PrintToString(row.name) << ", " << row.isSave << ", " << calls);
+            if (row.isSave && !row.isForeign) {
+                ASSERT_EQ(sheet.read(row.name), std::nullopt);
+            }
+            sheet.fixture.type("+");
+            const Snapshot before(sheet.fixture);
+            const std::string bytes = sheet.folder.bytes(row.name);
+            std::optional<FileFailure> failure;
+            const std::wstring path = sheet.folder.path(row.name);
+            {
+                const FailingAllocation allocation(calls);
+                failure = Sheet::failureOf([&] { row.isSave ? void(sheet.file.write(path)) : sheet.file.read(path); });
+                failed = allocation.hasFailed();
+            }
+            ASSERT_TRUE(failed || !failure);
+            if (failure) {
+                EXPECT_EQ(failure, FileFailure::OutOfMemory);
+                EXPECT_EQ(Snapshot(sheet.fixture), before);
+                EXPECT_EQ(sheet.folder.bytes(row.name), bytes);
+                EXPECT_EQ(sheet.folder.names(), std::vector<std::wstring>{row.name});
+            }
+            ASSERT_FALSE(HasFailure());
+        }
+        EXPECT_GT(calls, 5);
+        EXPECT_EQ(sheet.folder.bytes(L"x.txt.bak"), row.isForeign ? "old" : "(none)");
+    }
 }
 
 TEST(WorkAreaFile, WhatCannotBeReadOrReplacedStaysAsItWas) {
