@@ -175,6 +175,7 @@ void printWindow(HWND window, HWND workArea) {
     std::printf("front %s\n", GetForegroundWindow() == window ? "yes" : "no");
     std::printf("focus %s\n", focusOf(window, workArea).c_str());
     std::printf("menus %d\n", countShown("#32768"));
+    std::printf("hint %s\n", hintOf(window).c_str());
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[16] = L"";
         GetClassNameW(child, name, static_cast<int>(std::size(name)));
