@@ -26,8 +26,8 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
 }
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
-    const std::size_t begin = std::ranges::find_if(text, [](char c) { return !isBlank(c); }) - text.begin();
-    return text.substr(begin);
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    return text;
 }
 
 /// Puts the value of `expression` and its text into `answer`; throws Except.

@@ -1,0 +1,102 @@
+// Any line with the caret anywhere: what is offered there is in the line and in the tables, a completion is a name, and
+// each form of a value is an expression of that value.
+#include <algorithm>
+
+#include "assist/call_arguments.h"
+#include "assist/completion.h"
+#include "assist/line_pieces.h"
+#include "assist/name_dimension.h"
+#include "assist/value_details.h"
+#include "engine/characters.h"
+#include "engine/evaluator.h"
+#include "engine/keywords.h"
+#include "same_value.h"
+#include "target.h"
+#include "values/errors.h"
+
+namespace calquo {
+namespace {
+
+void checkPieces(std::string_view line) {
+    for (std::size_t index = 0; index < line.size();) {
+        const LinePiece piece = pieceAt(line, index);
+        require(piece.begin == index && piece.end > index && piece.end <= line.size(), "a piece leaves its line");
+        index = piece.end;
+    }
+}
+
+void checkCall(std::string_view line, std::size_t caret) {
+    const auto call = callAt(line, caret);
+    if (!call) {
+        return;
+    }
+    require(call->function >= 1 && call->function <= keywordCount(), "a call of no name");
+    require(!argumentTextOf(call->function).empty(), "a call of a name without arguments");
+    const CallText text = textOf(*call);
+    require(text.text.starts_with(nameOf(call->function)), "the text is of another function");
+    require(text.presentBegin <= text.presentEnd && text.presentEnd <= text.text.size(), "an argument out of place");
+}
+
+void checkCompletion(const std::string& line, std::size_t caret) {
+    const auto completion = completionAt(line, caret);
+    if (!completion) {
+        return;
+    }
+    require(completion->begin <= caret && caret <= completion->end && completion->end <= line.size(),
+            "a word that is not at the caret");
+    require(completion->typed == std::string_view(line).substr(completion->begin, caret - completion->begin),
+            "another word is completed");
+    std::vector<std::size_t> names = completion->names;
+    std::ranges::sort(names);
+    require(std::ranges::adjacent_find(names) == names.end(), "a name is offered twice");
+    require(names.empty() || (names.front() >= 1 && names.back() <= keywordCount()), "no name is offered");
+    for (const std::size_t name : completion->names) {
+        dimensionOf(name);
+        const std::string text = textFor(name, line, *completion);
+        require(text.starts_with(nameOf(name)) && text.size() <= nameOf(name).size() + 1, "another name is put in");
+        const bool endsThere = !isNameCharacter(characterAt(line, completion->end));
+        std::string completed = line;
+        completed.replace(completion->begin, completion->end - completion->begin, text);
+        require(!endsThere || keywordAt(completed, completion->begin), "what is put in is no name");
+    }
+}
+
+void checkDetails(const std::string& line) {
+    for (const Detail& detail : detailsOfLine(line)) {
+        require(!detail.text.empty() && !detail.what.empty(), "an empty detail");
+        try {
+            evaluateLine(detail.text);
+        } catch (const Except&) {
+            reportFault("a detail is no expression: " + detail.text);
+        }
+    }
+    try {
+        const Value value = evaluateLine(line).value;
+        for (const Detail& detail : detailsOf(value, true)) {
+            const bool isPolar = detail.text.starts_with("polar");
+            require(isPolar || !isWrittenWithoutLoss(value) || isSameValue(evaluateLine(detail.text).value, value),
+                    detail.text.c_str());
+        }
+    } catch (const Except&) {
+        // A line without a value has no details of its own.
+    }
+}
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    const bool hasComma = reader.byte() % 4 == 0;
+    setMarks(hasComma ? ',' : '.', hasComma ? '.' : ',');
+    const std::size_t place = reader.number(2);
+    std::string line = reader.text();
+    std::erase_if(line, [](char character) { return character == '\r' || character == '\n'; });
+    const std::size_t caret = place % (line.size() + 1);
+    checkPieces(line);
+    checkCall(line, caret);
+    checkCompletion(line, caret);
+    checkDetails(line);
+}
+
+const Target target("assist", check);
+
+}  // namespace
+}  // namespace calquo

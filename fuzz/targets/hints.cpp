@@ -1,0 +1,61 @@
+// Any line with its answer under any format: the hint is one short line of valid text, and looking for it changes
+// nothing that the next line depends on.
+#include "hints/hints.h"
+
+#include <algorithm>
+
+#include "engine/characters.h"
+#include "numeric/random.h"
+#include "panels/angle_options.h"
+#include "target.h"
+#include "workarea/record.h"
+#include "workarea/utf8.h"
+
+namespace calquo {
+namespace {
+
+constexpr std::size_t longestHint = 400;  // bytes
+
+void checkText(std::string_view hint) {
+    require(hint.size() <= longestHint, "a long hint");
+    while (!hint.empty()) {
+        const auto character = firstUtf8Character(hint);
+        require(character && character->code >= U' ', "a hint that is no line of text");
+        hint.remove_prefix(character->length);
+    }
+}
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    const std::uint8_t choice = reader.byte();
+    const bool hasComma = choice % 8 == 0;
+    setMarks(hasComma ? ',' : '.', hasComma ? '.' : ',');
+    HintSettings settings{defaultFormats[reader.byte() % formatKinds.size()], {}};
+    settings.angleUnit = angleUnitOf(static_cast<AngleOption>(choice / 8 % 4));
+    const std::uint32_t groups = getField(settings.format, field::groupSize);
+    setGroupLengths(groups, groups);
+    std::string line = reader.text();
+    std::erase_if(line, [](char character) { return character == '\r' || character == '\n'; });
+
+    constexpr std::uint64_t seed = 11;
+    seedRandom(seed);
+    const std::string_view expression = expressionOf(line);
+    Answer answer;
+    if (!expression.empty()) {
+        evaluateInto(answer, expression, settings.format);
+    }
+    const std::string hint = hintFor(line, expression.empty() ? nullptr : &answer, settings);
+    checkText(hint);
+    const std::uint64_t next = randomWord();
+
+    seedRandom(seed);
+    if (!expression.empty()) {
+        evaluateInto(answer, expression, settings.format);
+    }
+    require(randomWord() == next, "looking for a hint changes the random numbers");
+}
+
+const Target target("hints", check);
+
+}  // namespace
+}  // namespace calquo
