@@ -2,8 +2,6 @@
 // nothing that the next line depends on.
 #include "hints/hints.h"
 
-#include <algorithm>
-
 #include "engine/characters.h"
 #include "numeric/random.h"
 #include "panels/angle_options.h"
@@ -16,12 +14,28 @@ namespace {
 
 constexpr std::size_t longestHint = 400;  // bytes
 
+/// Takes the first character away; false for one that no line has.
+bool takeCharacter(std::string_view& text) {
+    const auto character = firstUtf8Character(text);
+    text.remove_prefix(character ? character->length : 1);
+    return character && (character->code >= U' ' || character->code == U'\t');
+}
+
+std::string lineFrom(std::string_view bytes) {
+    std::string line;
+    while (!bytes.empty()) {
+        const std::string_view before = bytes;
+        if (takeCharacter(bytes)) {
+            line += before.substr(0, before.size() - bytes.size());
+        }
+    }
+    return line;
+}
+
 void checkText(std::string_view hint) {
     require(hint.size() <= longestHint, "a long hint");
     while (!hint.empty()) {
-        const auto character = firstUtf8Character(hint);
-        require(character && character->code >= U' ', "a hint that is no line of text");
-        hint.remove_prefix(character->length);
+        require(takeCharacter(hint), "a hint that is no line of text");
     }
 }
 
@@ -34,8 +48,7 @@ void check(FuzzInput input) {
     settings.angleUnit = angleUnitOf(static_cast<AngleOption>(choice / 8 % 4));
     const std::uint32_t groups = getField(settings.format, field::groupSize);
     setGroupLengths(groups, groups);
-    std::string line = reader.text();
-    std::erase_if(line, [](char character) { return character == '\r' || character == '\n'; });
+    const std::string line = lineFrom(reader.text());
 
     constexpr std::uint64_t seed = 11;
     seedRandom(seed);

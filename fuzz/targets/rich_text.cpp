@@ -1,0 +1,98 @@
+// Any bytes as rich text: what passes is well-formed for a strict reader, passes again unchanged, and has the text that
+// is text; and what the control writes becomes pure ASCII.
+#include "workarea/rich_text.h"
+
+#include <algorithm>
+
+#include "rich_text_checker.h"
+#include "target.h"
+#include "workarea/file_fault.h"
+#include "workarea/rich_text_filter.h"
+#include "workarea/text_cost.h"
+
+namespace calquo {
+namespace {
+
+/// What passes, and the characters that it shows; nothing for what is refused for one of the reasons that there are.
+std::string cleaned(const std::string& richText, LastLineEnd lastLineEnd) {
+    try {
+        return cleanRichText(richText, mostInWine, lastLineEnd);
+    } catch (const FileFault& fault) {
+        const bool isKnown = fault.failure == FileFailure::NotRichText || fault.failure == FileFailure::CutOff ||
+                             fault.failure == FileFailure::TooMuchText;
+        require(isKnown, "refused for another reason");
+        return {};
+    }
+}
+
+void checkPassing(const std::string& richText) {
+    const std::string kept = cleaned(richText, LastLineEnd::Kept);
+    if (kept.empty()) {
+        return;
+    }
+    std::u16string shown = shownByStrictReader(kept);
+    require(cleanRichText(kept, mostInWine, LastLineEnd::Kept) == kept, "what has passed does not pass unchanged");
+    const std::u16string shorter = shownByStrictReader(cleaned(richText, LastLineEnd::Dropped));
+    if (shown.ends_with(u'\n')) {
+        shown.pop_back();
+    }
+    require(shorter == shown, "without its last line end it is another text");
+}
+
+/// Text between things that are no text arrives as it is.
+void checkText(std::string_view text, std::string_view other) {
+    std::string junk(other);
+    std::erase_if(junk, [](char one) { return one == '{' || one == '}' || one == '\\'; });
+    const std::string things[] = {"{\\*\\x" + junk + "}",
+                                  "{\\pict " + junk + "}",
+                                  "{\\object{\\*\\objdata " + junk + "}}",
+                                  "{\\field{\\*\\fldinst " + junk + "}}",
+                                  "\\unknown7 ",
+                                  "{\\v " + junk + "}"};
+    std::string richText = "{\\rtf1\\ansi ";
+    std::u16string expected;
+    std::size_t index = 0;
+    for (const char one : text) {
+        richText += things[index++ % std::size(things)];
+        if (one >= ' ' && one <= '~') {
+            richText += one == '\\' || one == '{' || one == '}' ? "\\" : "";
+            richText += one;
+            expected += static_cast<char16_t>(one);
+        } else if (one == '\n') {
+            richText += "\\par ";
+            expected += u'\n';
+        } else if (one < 0) {
+            const int unit = 0x3000 + (one & 0x7F);
+            richText += "\\u" + std::to_string(unit) + "?";
+            expected += static_cast<char16_t>(unit);
+        }
+    }
+    require(shownByStrictReader(cleanRichText(richText + "}", mostInWine, LastLineEnd::Kept)) == expected,
+            "a text arrives as another");
+}
+
+void checkWriting(const std::string& controlText) {
+    const std::string written = richTextToWrite(controlText);
+    require(std::ranges::all_of(written, [](char one) { return one >= 0; }), "a byte beyond ASCII is written");
+    require(richTextToWrite(written) == written, "what is written does not stay");
+}
+
+void check(FuzzInput input) {
+    InputReader reader(input);
+    const std::uint8_t kind = reader.byte();
+    if (kind % 4 == 3) {
+        const std::string text = reader.textUntil('|');
+        checkText(text, reader.text());
+        return;
+    }
+    const std::string bytes = reader.text();
+    const std::string richText =
+        kind % 4 == 0 ? bytes : "{\\rtf1\\ansi\\uc" + std::to_string(kind / 4 % 3) + ' ' + bytes + '}';
+    checkPassing(richText);
+    checkWriting(kind % 4 == 2 ? "{\\urtf1" + bytes : richText);
+}
+
+const Target target("rich_text", check);
+
+}  // namespace
+}  // namespace calquo
