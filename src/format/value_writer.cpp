@@ -10,6 +10,7 @@
 #include "format/attributes.h"
 #include "format/digits.h"
 #include "format/fraction.h"
+#include "format/shortest_digits.h"
 #include "numeric/rounding.h"
 #include "values/extended.h"
 #include "values/precision.h"
@@ -319,6 +320,31 @@ bool isWrittenAsReal(const Value& value, const Style& style) {
     return value.im == 0 || (dropsTraces && std::fabs(value.im) < insignificant);
 }
 
+/// Appends a value, each part by `appendPart`.
+template <typename AppendPart>
+void appendParts(const Value& value, const Style& style, std::string& text, AppendPart appendPart) {
+    const FullPrecision precision;
+    if (isWrittenAsReal(value, style)) {
+        appendPart(value.re);
+        return;
+    }
+    text += markCharacter(TokenClass::ListOpen);
+    appendPart(value.re);
+    text += markCharacter(TokenClass::ListSeparator);
+    text += ' ';
+    appendPart(value.im);
+    text += markCharacter(TokenClass::ListClose);
+}
+
+/// The word with as many fractional digits as there can be, a range of fixed point in which they suffice for every
+/// significant one, and nothing taken for 0.
+NumericFormat withRoomForDigits(NumericFormat word) {
+    constexpr std::uint32_t widestFixedPoint = 9;
+    setField(word, field::digits, largestIn(field::digits));
+    setField(word, field::exponentLimit, std::min(getField(word, field::exponentLimit), widestFixedPoint));
+    return word & ~field::zeroOut;
+}
+
 }  // namespace
 
 void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::string& text) {
@@ -338,18 +364,21 @@ void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::strin
 }
 
 void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text) {
-    const FullPrecision precision;
     const std::uint32_t base = outputBase == 0 ? 10 : static_cast<std::uint32_t>(outputBase);
-    if (isWrittenAsReal(value, Style(word, base))) {
-        FormatReal(value.re, word, base, text);
-        return;
-    }
-    text += markCharacter(TokenClass::ListOpen);
-    FormatReal(value.re, word, base, text);
-    text += markCharacter(TokenClass::ListSeparator);
-    text += ' ';
-    FormatReal(value.im, word, base, text);
-    text += markCharacter(TokenClass::ListClose);
+    appendParts(value, Style(word, base), text, [&](Real part) { FormatReal(part, word, base, text); });
+}
+
+void appendValueInFull(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text) {
+    const std::uint32_t base = outputBase == 0 ? 10 : static_cast<std::uint32_t>(outputBase);
+    const NumericFormat exact = withRoomForDigits(word);
+    appendParts(value, Style(exact, base), text, [&](Real part) {
+        NumericFormat partWord = exact;
+        if (!bitsOf(part).special()) {
+            const auto digits = static_cast<std::uint32_t>(digitsToReadBack(part, base));
+            setField(partWord, field::significantDigits, std::min(digits, largestIn(field::significantDigits)));
+        }
+        FormatReal(part, partWord, base, text);
+    });
 }
 
 std::string FormatValue(const Value& value, NumericFormat word, std::uint64_t outputBase) {

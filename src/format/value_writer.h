@@ -20,6 +20,12 @@ void FormatReal(Real x, NumericFormat word, std::uint32_t outputBase, std::strin
 /// @param outputBase 2 to 36; 0 stands for 10
 void appendValue(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text);
 
+/// Appends a value as appendValue does, with as many significant digits as each of its parts needs to be read back as
+/// the same, but no more than 31, and without taking small numbers for 0. In fixed point the range is smaller, so that
+/// no digit falls off.
+/// @param word of a kind with a limit on significant digits: Automatic or Scientific
+void appendValueInFull(const Value& value, NumericFormat word, std::uint64_t outputBase, std::string& text);
+
 /// The text that appendValue appends.
 std::string FormatValue(const Value& value, NumericFormat word, std::uint64_t outputBase);
 

@@ -7,6 +7,7 @@
 
 #include "engine/characters.h"
 #include "engine/evaluator.h"
+#include "format/shortest_digits.h"
 #include "format/value_writer.h"
 #include "support/random_reals.h"
 
@@ -75,6 +76,22 @@ TEST_P(RoundTrip, Scientific) {
     if (losslessBits(base) == 64) {
         expectRoundTrip(Value(largestFinite), words[0], base);
         expectRoundTrip(Value(std::nextafter(Real(1), Real(0)), std::nextafter(Real(1), Real(2))), words[0], base);
+    }
+}
+
+TEST_P(RoundTrip, NoDigitTooManyInFull) {
+    const std::uint32_t base = GetParam();
+    RandomReals random;
+    for (int i = 0; i < 500 && losslessBits(base) != 0; ++i) {
+        const Real x = random.positive(std::max(losslessBits(base) - i % 60, 1));
+        std::string text;
+        appendValueInFull(Value(x), widestWord(FormatKind::Scientific), base, text);
+        EXPECT_TRUE(sameNumber(evaluateLine(text).value.re, x)) << text;
+        NumericFormat shorter = widestWord(FormatKind::Scientific);
+        const int digits = digitsToReadBack(x, base);
+        setField(shorter, field::significantDigits, static_cast<std::uint32_t>(std::max(digits - 1, 1)));
+        const std::string shorterText = FormatValue(Value(x), shorter, base);
+        EXPECT_EQ(sameNumber(evaluateLine(shorterText).value.re, x), digits == 1) << text << " or " << shorterText;
     }
 }
 
