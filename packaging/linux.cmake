@@ -16,6 +16,16 @@ else()
     message(STATUS "help2man is missing (Debian's package help2man): going on without the manual page")
 endif()
 
+# What completes names while lines are typed.
+set(names ${CMAKE_CURRENT_BINARY_DIR}/names)
+add_custom_command(
+    OUTPUT ${names}
+    COMMAND $<TARGET_FILE:calq> --names | sed "s/[ (].*//" > ${names}
+    DEPENDS calq
+    COMMENT "Listing the names"
+    VERBATIM)
+add_custom_target(name_list ALL DEPENDS ${names})
+
 include(GNUInstallDirs)
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/calq)
 configure_file(README-linux.txt ${CMAKE_CURRENT_BINARY_DIR}/README.txt @ONLY)
@@ -23,6 +33,7 @@ install(TARGETS calq)
 if(HELP2MAN)
     install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
+install(FILES ${names} DESTINATION ${CMAKE_INSTALL_DATADIR}/calq)
 install(FILES calq.bash-completion DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME calq)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/README.txt ${PROJECT_SOURCE_DIR}/LICENSE ${notices} LGPL-2.1.txt
     ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${documents})

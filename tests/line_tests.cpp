@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "console/calq.h"
+#include "console/line_answerer.h"
 #include "console/options.h"
 #include "engine/keywords.h"
 #include "workarea/record.h"

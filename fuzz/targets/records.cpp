@@ -1,7 +1,7 @@
 // Any line under any format: the record that it gives is found right when it is checked, and recording it again changes
 // nothing; a saved result that differs is told in one line.
-#include "console/calq.h"
-
+#include "console/line_answerer.h"
+#include "console/visible_text.h"
 #include "engine/evaluator.h"
 #include "numeric/random.h"
 #include "target.h"

@@ -1,10 +1,8 @@
-// Lines from a file descriptor and bytes to one, in large pieces and unchanged on every system.
+// Bytes to a file descriptor in large pieces, and files that are open for reading.
 #pragma once
 
 #include <cstddef>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace calquo {
 
@@ -12,20 +10,24 @@ constexpr int standardInput = 0;
 constexpr int standardOutput = 1;
 constexpr int standardError = 2;
 
-/// A failed read or write: what was to be done to which file, and the system's reason.
+/// A failed read or write: what was to be done to which file, and the reason.
 struct StreamFault {
     std::string message;
 };
 
-bool isTerminal(int file);
+/// Throws StreamFault: the action that has failed, and the system's reason.
+[[noreturn]] void throwSystemFault(const std::string& action);
 
-/// Collects bytes and writes them when enough have come together; at once after each line on a terminal.
+/// Collects bytes and writes them when enough have come together. On a terminal it does so after each line, with
+/// control characters made visible.
 class OutputStream {
 public:
     explicit OutputStream(int file);
 
     /// What is written next; append to it, then call `lineEnded`.
     std::string& text() { return pending_; }
+
+    [[nodiscard]] bool isTerminal() const { return isTerminal_; }
 
     /// Writes when it is time to. Throws StreamFault.
     void lineEnded();
@@ -35,33 +37,14 @@ public:
 
 private:
     int file_;
-    std::size_t enough_;
+    bool isTerminal_;
     std::string pending_;
 };
 
-/// The lines of a file. Memory grows to the longest line, of at most 64 MiB, and no further.
-class LineReader {
-public:
-    /// Reads from `file`, called `name` in messages. Flushes `output` before it waits for more, so that whoever sends
-    /// lines one by one gets each answer before the next line is asked for.
-    LineReader(int file, std::string name, OutputStream& output);
+/// Writes a message for the user, who may not see it: a failure to write is nothing that could be told.
+void writeMessage(const std::string& text);
 
-    /// The next line without its line end ("\n" or "\r\n"), valid until the next call; false when there are no more.
-    /// Throws StreamFault, also for a line that is too long.
-    bool next(std::string_view& line);
-
-private:
-    bool readMore();
-
-    int file_;
-    std::string name_;
-    OutputStream& output_;
-    std::vector<char> buffer_;
-    std::size_t start_ = 0;  // of what has been read and not yet given out
-    std::size_t end_ = 0;    // of what has been read
-};
-
-/// A file opened for reading, closed with its owner.
+/// A file opened for reading, closed with its owner; the standard input for "-".
 class InputFile {
 public:
     /// Throws StreamFault.
@@ -70,10 +53,13 @@ public:
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    int descriptor() const { return file_; }
+    [[nodiscard]] int descriptor() const { return file_; }
+    /// What messages call it.
+    [[nodiscard]] const std::string& name() const { return name_; }
 
 private:
     int file_;
+    std::string name_;
 };
 
 }  // namespace calquo

@@ -1,11 +1,19 @@
-// Streaming lines through the engine; see calq.h.
+// From the options to lines in and answers out; see calq.h.
 #include "console/calq.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <new>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "console/byte_streams.h"
+#include "console/line_answerer.h"
+#include "console/line_reader.h"
+#include "console/system_files.h"
+#include "console/visible_text.h"
 #include "engine/characters.h"
 #include "engine/keywords.h"
 #include "values/program.h"
@@ -17,15 +25,7 @@ constexpr int allWell = 0;
 constexpr int someFailed = 1;
 constexpr int notDone = 2;
 
-std::string_view withoutBlanksAround(std::string_view text) {
-    while (!text.empty() && static_cast<unsigned char>(text.front()) <= ' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
-}
+constexpr std::string_view prompt = "> ";
 
 /// Calls `take` with each line of `text`; a line end at its very end begins no further line.
 template <typename TakeLine>
@@ -44,48 +44,104 @@ void forEachLine(std::string_view text, TakeLine take) {
     }
 }
 
+std::string hintLine(const std::string& hint) { return hint.empty() ? hint : "Hint: " + hint + "\n"; }
+
+/// What is told about a line of the command line beside its answer.
+std::string remarksOn(std::string_view line, bool isAnswered, const LineAnswerer& answerer, bool wantsHints) {
+    const bool isWatched = isTerminal(standardError);
+    std::string remarks;
+    if (!isAnswered && isWatched) {
+        remarks = lineWithCaret(line, answerer.errorPlace());
+    }
+    if (!isAnswered && isFile(std::string(line))) {
+        return remarks.append("calq: ").append(line).append(" is a file; calq --file evaluates its lines\n");
+    }
+    return wantsHints || isWatched ? remarks + hintLine(answerer.hint(line)) : remarks;
+}
+
 int answerArguments(const Options& options, OutputStream& output) {
     LineAnswerer answerer(options);
-    const bool showsCaret = isTerminal(standardError);
     int status = allWell;
     for (const std::string_view argument : options.operands) {
         forEachLine(argument, [&](std::string_view line) {
-            const bool answered = answerer.answer(line, output.text());
+            const bool isAnswered = answerer.answer(line, output.text());
             output.lineEnded();
-            if (answered) {
-                return;
+            if (!isAnswered) {
+                status = someFailed;
             }
-            status = someFailed;
-            if (showsCaret) {
+            const std::string remarks = remarksOn(line, isAnswered, answerer, options.hints);
+            if (!remarks.empty()) {
                 output.flush();
-                std::fputs(lineWithCaret(line, answerer.errorPlace()).c_str(), stderr);
+                writeMessage(remarks);
             }
         });
     }
     return status;
 }
 
-int answerStandardInput(const Options& options, OutputStream& output) {
-    LineAnswerer answerer(options);
-    LineReader reader(standardInput, "standard input", output);
+/// A conversation: both the lines and the answers are on a terminal.
+void answerPerson(LineAnswerer& answerer, LineReader& reader, OutputStream& output) {
     std::string_view line;
     while (reader.next(line)) {
+        if (line.find_first_not_of(" \t") == std::string_view::npos) {
+            continue;
+        }
+        std::string text;
+        if (!answerer.answer(line, text)) {
+            output.text().append(indentTo(line, answerer.errorPlace()).insert(0, prompt.size(), ' ')).append("^\n");
+        }
+        output.text() += text;
+        output.text() += hintLine(answerer.hint(line));
+        output.lineEnded();
+    }
+    output.text() += '\n';
+}
+
+void answerFile(const Options& options, LineAnswerer& answerer, const InputFile& file, OutputStream& output) {
+    LineReader reader(file, output);
+    std::string_view line;
+    for (std::size_t number = 1; reader.next(line); ++number) {
         answerer.answer(line, output.text());
         output.lineEnded();
+        const std::string hint = options.hints ? answerer.hint(line) : std::string();
+        if (!hint.empty()) {
+            output.flush();
+            writeMessage(file.name() + ":" + std::to_string(number) + ": " + hint + "\n");
+        }
+    }
+    output.flush();
+}
+
+int answerStandardInput(const Options& options, OutputStream& output) {
+    LineAnswerer answerer(options);
+    const InputFile input("-");
+    if (output.isTerminal() && isTerminal(standardInput) && !options.json) {
+        LineReader reader(input, output, prompt);
+        answerPerson(answerer, reader, output);
+    } else {
+        answerFile(options, answerer, input, output);
+    }
+    return allWell;
+}
+
+int answerFiles(const Options& options, OutputStream& output) {
+    LineAnswerer answerer(options);
+    for (const std::string_view operand : options.operands) {
+        answerFile(options, answerer, InputFile(std::string(operand)), output);
     }
     return allWell;
 }
 
 /// Whether all records of an open file give today what was saved.
-bool checkFile(LineAnswerer& answerer, int file, const std::string& name, OutputStream& output) {
-    LineReader reader(file, name, output);
+bool checkFile(LineAnswerer& answerer, const InputFile& file, OutputStream& output) {
+    LineReader reader(file, output);
     bool allSame = true;
     std::string_view line;
     for (std::size_t number = 1; reader.next(line); ++number) {
-        if (!answerer.check(line, name + ":" + std::to_string(number), output.text())) {
+        if (!answerer.check(line, file.name() + ":" + std::to_string(number), output.text())) {
             allSame = false;
+            output.lineEnded();
         }
-        output.lineEnded();
     }
     output.flush();
     return allSame;
@@ -93,16 +149,13 @@ bool checkFile(LineAnswerer& answerer, int file, const std::string& name, Output
 
 int checkRecords(const Options& options, OutputStream& output) {
     LineAnswerer answerer(options);
-    bool allSame = true;
-    if (options.operands.empty()) {
-        allSame = checkFile(answerer, standardInput, "standard input", output);
+    std::vector<std::string_view> files = options.operands;
+    if (files.empty()) {
+        files.emplace_back("-");
     }
-    for (const std::string_view operand : options.operands) {
-        const std::string path(operand);
-        const InputFile file(path);
-        if (!checkFile(answerer, file.descriptor(), path, output)) {
-            allSame = false;
-        }
+    bool allSame = true;
+    for (const std::string_view name : files) {
+        allSame &= checkFile(answerer, InputFile(std::string(name)), output);
     }
     return allSame ? allWell : someFailed;
 }
@@ -110,11 +163,14 @@ int checkRecords(const Options& options, OutputStream& output) {
 /// Says on standard error when the engine has kept another mark than the one that was asked for.
 void reportRefusedMark(std::optional<char> wanted, TokenClass mark, TokenClass otherMark, const char* name) {
     const char kept = markCharacter(mark);
-    if (wanted && *wanted != kept) {
-        const bool taken = *wanted == markCharacter(otherMark);
-        std::fprintf(stderr, "calq: \"%c\" %s; the %s mark stays \"%c\"\n", *wanted,
-                     taken ? "is the other mark (give both to exchange them)" : "has a meaning of its own", name, kept);
+    if (!wanted || *wanted == kept) {
+        return;
     }
+    const bool isTaken = *wanted == markCharacter(otherMark);
+    writeMessage(
+        std::string("calq: \"") + *wanted + "\" " +
+        (isTaken ? "is the other mark (give both to exchange them, or --decimal-comma)" : "has a meaning of its own") +
+        "; the " + name + " mark stays \"" + kept + "\"\n");
 }
 
 /// Every name with its arguments and what it means, a line each.
@@ -130,17 +186,20 @@ void appendNames(std::string& text) {
     }
 }
 
-int runWith(const Options& options, OutputStream& output) {
+/// Whether the options ask for a text and nothing else.
+bool appendRequestedText(const Options& options, std::string& text) {
     if (options.names) {
-        appendNames(output.text());
-        return allWell;
+        appendNames(text);
+    } else if (options.help) {
+        text += helpText();
+    } else if (options.version) {
+        text.append(programName).append(" ").append(programVersion).append("\n");
     }
-    if (options.help) {
-        output.text() += helpText();
-        return allWell;
-    }
-    if (options.version) {
-        output.text().append(programName).append(" ").append(programVersion).append("\n");
+    return options.names || options.help || options.version;
+}
+
+int runWith(const Options& options, OutputStream& output) {
+    if (appendRequestedText(options, output.text())) {
         return allWell;
     }
     applyToEngine(options);
@@ -149,71 +208,13 @@ int runWith(const Options& options, OutputStream& output) {
     if (options.check) {
         return checkRecords(options, output);
     }
+    if (options.file) {
+        return answerFiles(options, output);
+    }
     return options.operands.empty() ? answerStandardInput(options, output) : answerArguments(options, output);
 }
 
 }  // namespace
-
-LineAnswerer::LineAnswerer(const Options& options)
-    : format_(options.format()),
-      writesRecords_(options.record),
-      place_(options.position ? ErrorPlace::Shown : ErrorPlace::Hidden) {}
-
-bool LineAnswerer::answer(std::string_view line, std::string& output) {
-    const std::string_view expression = expressionOf(line);
-    latest_.failed = false;
-    if (expression.empty()) {
-        // The work area leaves such a line as it is, and so does its record.
-        if (writesRecords_) {
-            output += line;
-        }
-    } else {
-        evaluateInto(latest_, expression, format_);
-        if (writesRecords_) {
-            appendRecord(output, expression, latest_, place_);
-        } else {
-            appendAnswer(output, latest_, place_);
-        }
-    }
-    output += '\n';
-    return !latest_.failed;
-}
-
-const std::string& LineAnswerer::answerText(ErrorPlace shownOrHidden) {
-    text_.clear();
-    appendAnswer(text_, latest_, shownOrHidden);
-    return text_;
-}
-
-bool LineAnswerer::check(std::string_view line, std::string_view place, std::string& output) {
-    const std::size_t equals = line.find('=');
-    const std::string_view expression = expressionOf(line);
-    if (equals == std::string_view::npos || expression.empty()) {
-        return true;
-    }
-    const std::string_view saved = withoutBlanksAround(line.substr(equals + 1));
-
-    evaluateInto(latest_, expression, format_);
-    if (saved == answerText(ErrorPlace::Hidden) || saved == answerText(ErrorPlace::Shown)) {
-        return true;
-    }
-    output.append(place).append(": ").append(expression).append(" = ").append(saved);
-    output.append(" (now ").append(answerText(place_)).append(")\n");
-    return false;
-}
-
-std::string lineWithCaret(std::string_view line, std::size_t position) {
-    std::string text(line);
-    text += '\n';
-    for (const char character : line.substr(0, position)) {
-        const bool continuesCharacter = (static_cast<unsigned char>(character) & 0xC0) == 0x80;
-        if (!continuesCharacter) {
-            text += character == '\t' ? '\t' : ' ';
-        }
-    }
-    text += "^\n";
-    return text;
-}
 
 int runCalq(std::span<const char* const> arguments) {
     try {
@@ -223,9 +224,9 @@ int runCalq(std::span<const char* const> arguments) {
         output.flush();
         return status;
     } catch (const OptionFault& fault) {
-        std::fprintf(stderr, "calq: %s\nTry calq --help.\n", fault.message.c_str());
+        writeMessage("calq: " + fault.message + "\nTry calq --help.\n");
     } catch (const StreamFault& fault) {
-        std::fprintf(stderr, "calq: %s\n", fault.message.c_str());
+        writeMessage("calq: " + fault.message + "\n");
     } catch (const std::bad_alloc&) {
         std::fputs("calq: there is not enough memory\n", stderr);
     }

@@ -58,35 +58,63 @@ std::uint64_t readSeed(std::string_view text) {
     return *seed;
 }
 
+std::uint32_t readDigits(std::string_view text) {
+    const std::optional<std::uint32_t> digits = readNatural<std::uint32_t>(text, 10);
+    if (!digits || *digits < 1 || *digits > allDigits) {
+        throw OptionFault{"a number of digits is 1 to 21, which shows all, not \"" + std::string(text) + "\""};
+    }
+    return *digits;
+}
+
 struct OptionRow {
     std::string_view name;
     std::string_view argument;  ///< What the help calls the option's argument; empty when it takes none.
     std::string_view help;
     void (*apply)(Options&, std::string_view argument);  ///< Throws OptionFault.
+    std::string_view shortName = {};
 };
 
 constexpr OptionRow optionTable[] = {
+    {"file", "",
+     "evaluate the lines of FILEs: sheets that Calquo has saved, as\nrich text or plain text, or any text; - is "
+     "standard input",
+     [](Options& options, std::string_view) { options.file = true; }},
+    {"check", "",
+     "evaluate the saved records of FILEs again (or of standard\ninput) and list those whose answer is no longer the "
+     "same",
+     [](Options& options, std::string_view) { options.check = true; }},
     {"record", "", "write records, as the work area does: EXPRESSION = RESULT",
      [](Options& options, std::string_view) { options.record = true; }},
+    {"json", "", "write a JSON object a line: line, value, answer, error, hint",
+     [](Options& options, std::string_view) { options.json = true; }},
     {"position", "", "append \" at N\" to errors: N characters come before the mistake",
      [](Options& options, std::string_view) { options.position = true; }},
-    {"check", "", "evaluate saved records again (from files, or standard input)\nand list those whose result differs",
-     [](Options& options, std::string_view) { options.check = true; }},
+    {"hints", "", "write hints at likely slips to standard error; without it only\non a terminal",
+     [](Options& options, std::string_view) { options.hints = true; }},
+    {"digits", "N", "write results with N significant digits; 21 shows all: the\nfewest that read back as the same",
+     [](Options& options, std::string_view argument) { options.digits = readDigits(argument); }},
     {"format", "KIND", "write results in the format of this kind",
      [](Options& options, std::string_view argument) { options.kind = readKind(argument); }},
     {"word", "HEX", "write results under a packed format word; overrides --format",
      [](Options& options, std::string_view argument) { options.word = readWord(argument); }},
+    {"decimal-comma", "", "write 1.234,5 for 1,234.5; short for both marks below",
+     [](Options& options, std::string_view) {
+         options.decimalMark = defaultGroupMark;
+         options.groupMark = defaultDecimalMark;
+     }},
     {"decimal-mark", "C", "use the character C in place of \".\"",
      [](Options& options, std::string_view argument) { options.decimalMark = readMark(argument); }},
     {"group-mark", "C",
-     "use the character C in place of \",\"; a character that the\nlanguage needs is not taken for a mark",
+     "use the character C in place of \",\"; a character that the\nlanguage needs, or that is the other mark, is not "
+     "taken",
      [](Options& options, std::string_view argument) { options.groupMark = readMark(argument); }},
     {"seed", "N", "start the random numbers at N instead of at the clock",
      [](Options& options, std::string_view argument) { options.seed = readSeed(argument); }},
     {"names", "", "list every function, constant, unit and prefix, and end",
      [](Options& options, std::string_view) { options.names = true; }},
-    {"help", "", "explain the program and end", [](Options& options, std::string_view) { options.help = true; }},
-    {"version", "", "show the version and end", [](Options& options, std::string_view) { options.version = true; }},
+    {"help", "", "explain the program and end", [](Options& options, std::string_view) { options.help = true; }, "-h"},
+    {"version", "", "show the version and end", [](Options& options, std::string_view) { options.version = true; },
+     "-V"},
 };
 
 const OptionRow& findOption(std::string_view name) {
@@ -100,55 +128,106 @@ const OptionRow& findOption(std::string_view name) {
 
 }  // namespace
 
-NumericFormat Options::format() const { return word ? *word : defaultFormats[static_cast<std::size_t>(kind)]; }
+NumericFormat Options::format() const {
+    NumericFormat chosen = word ? *word : defaultFormats[static_cast<std::size_t>(kind)];
+    if (digits) {
+        setField(chosen, field::significantDigits, *digits);
+        setField(chosen, field::digits, largestIn(field::digits));
+    }
+    return chosen;
+}
+
+namespace {
+
+/// Reads the option that stands at `index` of the arguments, and goes on to its last word.
+void takeOption(std::span<const char* const> arguments, std::size_t& index, Options& options) {
+    const std::string_view word = arguments[index];
+    const std::size_t equals = word.find('=');
+    const bool joined = equals != std::string_view::npos;
+    const std::string_view spelling = word.substr(0, equals);
+    const OptionRow& row = findOption(spelling.substr(2));
+    if (row.argument.empty() && joined) {
+        throw OptionFault{std::string(spelling) + " takes no argument"};
+    }
+    std::string_view argument = joined ? word.substr(equals + 1) : std::string_view();
+    if (!row.argument.empty() && !joined) {
+        if (++index == arguments.size()) {
+            throw OptionFault{std::string(spelling) + " needs its " + std::string(row.argument)};
+        }
+        argument = arguments[index];
+    }
+    row.apply(options, argument);
+}
+
+/// Throws OptionFault where options do not go together.
+void refuseContradictions(const Options& options) {
+    struct Pair {
+        std::string_view names;
+        bool areThere;
+    };
+    const Pair pairs[] = {
+        {"--check and --file", options.check && options.file},
+        {"--check and --record", options.check && options.record},
+        {"--check and --json", options.check && options.json},
+        {"--json and --record", options.json && options.record},
+    };
+    for (const Pair& pair : pairs) {
+        if (pair.areThere) {
+            throw OptionFault{std::string(pair.names) + " exclude each other"};
+        }
+    }
+    const FormatKindRow& kind = formatKinds[getField(options.format(), field::kind)];
+    if (options.digits && kind.letters.find('S') == std::string_view::npos) {
+        throw OptionFault{"the format " + std::string(kind.optionName) + " has no significant digits for --digits"};
+    }
+    if (options.file && options.operands.empty()) {
+        throw OptionFault{"--file needs a FILE, or - for standard input"};
+    }
+}
+
+}  // namespace
 
 Options parseOptions(std::span<const char* const> arguments) {
     Options options;
     bool optionsEnded = false;
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::string_view word = arguments[index];
-        if (optionsEnded || !word.starts_with("--")) {
+        const auto* const shortOption = std::ranges::find(optionTable, word, &OptionRow::shortName);
+        if (optionsEnded || word.empty()) {
             options.operands.push_back(word);
-            continue;
-        }
-        if (word == "--") {
+        } else if (shortOption != std::end(optionTable)) {
+            shortOption->apply(options, {});
+        } else if (word == "--") {
             optionsEnded = true;
-            continue;
+        } else if (word.starts_with("--")) {
+            takeOption(arguments, index, options);
+        } else {
+            options.operands.push_back(word);
         }
-        const std::size_t equals = word.find('=');
-        const bool joined = equals != std::string_view::npos;
-        const std::string_view spelling = word.substr(0, equals);
-        const OptionRow& row = findOption(spelling.substr(2));
-        if (row.argument.empty() && joined) {
-            throw OptionFault{std::string(spelling) + " takes no argument"};
-        }
-        std::string_view argument = joined ? word.substr(equals + 1) : std::string_view();
-        if (!row.argument.empty() && !joined) {
-            if (++index == arguments.size()) {
-                throw OptionFault{std::string(spelling) + " needs its " + std::string(row.argument)};
-            }
-            argument = arguments[index];
-        }
-        row.apply(options, argument);
     }
-    if (options.check && options.record) {
-        throw OptionFault{"--check and --record exclude each other"};
-    }
+    refuseContradictions(options);
     return options;
 }
 
 std::string helpText() {
-    constexpr std::size_t textColumn = 22;
-    std::string text = "Usage: calq [OPTION...] [LINE...]\n  or:  calq --check [OPTION...] [FILE...]\n\n";
+    constexpr std::size_t textColumn = 20;
+    std::string text =
+        "Usage: calq [OPTION...] [LINE...]\n"
+        "  or:  calq --file [OPTION...] FILE...\n"
+        "  or:  calq --check [OPTION...] [FILE...]\n\n";
     text += programName;
     text +=
         " evaluates each LINE, or without one each line of standard input, and writes one\n"
         "line for it: the result, or \"Error (MESSAGE)\". An empty line gives an empty line.\n"
         "The text from the first \"=\" on is ignored, so that records can be evaluated again.\n\n";
     for (const OptionRow& row : optionTable) {
-        std::string lead = "  --" + std::string(row.name);
+        std::string lead = "  ";
+        if (!row.shortName.empty()) {
+            lead.append(row.shortName).append(", ");
+        }
+        lead.append("--").append(row.name);
         if (!row.argument.empty()) {
-            lead += " " + std::string(row.argument);
+            lead.append(" ").append(row.argument);
         }
         lead.resize(textColumn, ' ');
         text += lead;
@@ -160,7 +239,7 @@ std::string helpText() {
         }
         text += '\n';
     }
-    text += "  --                  take everything that follows for LINEs\n\nKINDs:";
+    text += "  --                take everything that follows for LINEs or FILEs\n\nKINDs:";
     for (const FormatKindRow& kind : formatKinds) {
         text.append(" ").append(kind.optionName);
     }
@@ -168,7 +247,7 @@ std::string helpText() {
         "\n\n"
         "Exit status: 0 when all went well; 1 when a LINE of the command line has an error, or\n"
         "a checked record differs; 2 for a wrong option, or when reading or writing failed.\n"
-        "An error in a line of standard input shows in its answer alone.\n";
+        "An error in a line of standard input or of a FILE shows in its answer alone.\n";
     return text;
 }
 

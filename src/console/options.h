@@ -12,22 +12,29 @@
 
 namespace calquo {
 
+/// So many digits show every number so that it reads back as the same; fewer do where they suffice.
+constexpr std::uint32_t allDigits = 21;
+
 /// What the command line asks for.
 struct Options {
     bool record = false;
     bool position = false;
+    bool json = false;
+    bool hints = false;
     bool check = false;
+    bool file = false;
     bool names = false;
     bool help = false;
     bool version = false;
     FormatKind kind = FormatKind::Automatic;
-    std::optional<NumericFormat> word;  ///< Overrides `kind`.
+    std::optional<NumericFormat> word;    ///< Overrides `kind`.
+    std::optional<std::uint32_t> digits;  ///< Significant ones, 1 to allDigits.
     std::optional<char> decimalMark;
     std::optional<char> groupMark;
     std::optional<std::uint64_t> seed;
-    std::vector<std::string_view> operands;  ///< The LINEs, or with --check the files.
+    std::vector<std::string_view> operands;  ///< The LINEs, or with --check or --file the files.
 
-    /// The format that results are written in.
+    /// The format that results are written in, with the digits that are asked for.
     NumericFormat format() const;
 };
 
@@ -36,9 +43,10 @@ struct OptionFault {
     std::string message;
 };
 
-/// Reads the arguments that follow the program's name. What begins with "--" is an option, up to a lone "--";
-/// everything else is an operand, so that "-2^2" is a line to evaluate. An option's argument follows it as the next
-/// argument or after "=". Of an option given twice the last counts. Throws OptionFault.
+/// Reads the arguments that follow the program's name. What begins with "--" is an option, up to a lone "--", and so
+/// are
+/// "-h" and "-V"; everything else is an operand, so that "-2^2" is a line to evaluate. An option's argument follows it
+/// as the next argument or after "=". Of an option given twice the last counts. Throws OptionFault.
 Options parseOptions(std::span<const char* const> arguments);
 
 /// What --help prints.
