@@ -44,6 +44,11 @@ struct WorkAreaListener {
     /// A line has its answer, and shows it: the whole line as it was, in UTF-8, and the answer, null where the line has
     /// no expression.
     std::function<void(std::string_view line, const Answer* answer)> evaluated = [](std::string_view, const Answer*) {};
+    /// Before all else that a key does: whether it was meant for something else, and does nothing here.
+    std::function<bool(const KeyEvent&)> takesKey = [](const KeyEvent&) { return false; };
+    /// Before text goes in at the caret, typed or put in by a button.
+    std::function<void(std::string_view text)> textComes = [](std::string_view) {};
+    std::function<void(const MouseEvent&)> mouse = [](const MouseEvent&) {};
 };
 
 class WorkArea : public TextArea {
@@ -60,6 +65,8 @@ public:
              WorkAreaListener listener = {});
 
     CurrentLine currentLine() const;
+    /// The line that holds a position, with the selection as far as it lies there.
+    CurrentLine lineAt(std::int32_t position) const;
 
     /// Types characters and presses keys of the system's numbers, as the keyboard would.
     void typeCharacters(std::string_view characters);
@@ -79,6 +86,8 @@ public:
 
 protected:
     bool onKey(const KeyEvent& event) override;
+    bool onCharacter(wchar_t character) override;
+    bool onMouse(const MouseEvent& event) override;
     bool onFilesDropped(std::uintptr_t drop) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
@@ -97,6 +106,7 @@ private:
     FormatSource format_;
     WorkAreaListener listener_;
     bool resultReplaces_ = false;
+    bool keyIsDealtWith_ = false;  ///< What it would type is none of the text.
 };
 
 }  // namespace calquo

@@ -2,6 +2,7 @@
 #include "workarea/work_area.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -98,8 +99,9 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCo
       listener_(std::move(listener)) {}
 
 bool WorkArea::onKey(const KeyEvent& event) {
-    if (event.released) {
-        return TextArea::onKey(event);
+    keyIsDealtWith_ = !event.released && listener_.takesKey(event);
+    if (event.released || keyIsDealtWith_) {
+        return keyIsDealtWith_ || TextArea::onKey(event);
     }
     listener_.keyPressed();
     const auto isMeant = [&](const auto& row) { return row.key == event.key && fits(row.modifiers, event); };
@@ -108,10 +110,24 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
+        keyIsDealtWith_ = true;
         sendCommand(parent(), {row->command});
         return true;
     }
     return TextArea::onKey(event);
+}
+
+bool WorkArea::onCharacter(wchar_t character) {
+    if (std::exchange(keyIsDealtWith_, false)) {
+        return true;
+    }
+    listener_.textComes(languageText({&character, 1}));
+    return TextArea::onCharacter(character);
+}
+
+bool WorkArea::onMouse(const MouseEvent& event) {
+    listener_.mouse(event);
+    return TextArea::onMouse(event);
 }
 
 bool WorkArea::onFilesDropped(std::uintptr_t drop) {
@@ -143,15 +159,18 @@ void WorkArea::evaluateIntoSelection() {
     evaluate();
 }
 
-CurrentLine WorkArea::currentLine() const {
+CurrentLine WorkArea::currentLine() const { return lineAt(selection().begin); }
+
+CurrentLine WorkArea::lineAt(std::int32_t position) const {
     const TextRange selected = selection();
-    const Paragraph line = paragraphAt(selected.begin);
+    const Paragraph line = paragraphAt(position);
     const auto [start, end] = line.range;
     return {languageText(line.text), start, offsetIn(start, std::clamp(selected.begin, start, end)),
             offsetIn(start, std::clamp(selected.end, start, end))};
 }
 
 void WorkArea::typeCharacters(std::string_view characters) {
+    keyIsDealtWith_ = false;
     for (const wchar_t unit : controlText(characters)) {
         SendMessageW(handle(), WM_CHAR, unit, 1);
     }
@@ -172,10 +191,12 @@ void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_vi
                         std::size_t caret) {
     const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
+    listener_.textComes(before);
     replace(inside, {{text, normalStyle}}, positionOf(line.start, caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
+    listener_.textComes(text);
     replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
             positionOf(line.start, caret));
 }
