@@ -97,16 +97,21 @@ void answerPerson(LineAnswerer& answerer, LineReader& reader, OutputStream& outp
     output.text() += '\n';
 }
 
+void tellHint(const std::string& hint, const std::string& place, OutputStream& output) {
+    if (!hint.empty()) {
+        output.flush();
+        writeMessage(place + ": " + hint + "\n");
+    }
+}
+
 void answerFile(const Options& options, LineAnswerer& answerer, const InputFile& file, OutputStream& output) {
     LineReader reader(file, output);
     std::string_view line;
     for (std::size_t number = 1; reader.next(line); ++number) {
         answerer.answer(line, output.text());
         output.lineEnded();
-        const std::string hint = options.hints ? answerer.hint(line) : std::string();
-        if (!hint.empty()) {
-            output.flush();
-            writeMessage(file.name() + ":" + std::to_string(number) + ": " + hint + "\n");
+        if (options.hints) {
+            tellHint(answerer.hint(line), file.name() + ":" + std::to_string(number), output);
         }
     }
     output.flush();

@@ -56,7 +56,7 @@ bool LineAnswerer::answer(std::string_view line, std::string& output) {
     } else if (!hasExpression_) {
         // The work area leaves such a line as it is, and so does its record.
         output += writesRecords_ ? line : std::string_view();
-    } else if (writesRecords_ && isNote(line, latest_)) {
+    } else if (writesRecords_ && latest_.failed && isNote(line, latest_)) {
         output += line;
     } else if (writesRecords_) {
         appendRecord(output, expression, latest_, place_);

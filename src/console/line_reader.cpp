@@ -39,33 +39,25 @@ LineReader::LineReader(const InputFile& file, OutputStream& output, std::string_
 }
 
 bool LineReader::next(std::string_view& line) {
-    for (;;) {
-        const std::size_t lineEnd = indexOf('\r', buffer_, scanned_, lineFeed_);
-        const bool isReturn = lineEnd < lineFeed_;
-        // What follows a carriage return at the end may be its line feed.
-        if (isReturn ? lineEnd + 1 < end_ || isAllRead_ : lineEnd < end_) {
-            const bool isPair = isReturn && lineEnd + 1 == lineFeed_ && lineFeed_ < end_;
-            line = takeLine(lineEnd, isPair ? 2 : 1);
-            return true;
-        }
-        if (isAllRead_) {
-            line = takeLine(end_, 0);
-            return !line.empty();
-        }
-        scanned_ = lineEnd;
+    std::size_t lineEnd = std::min(lineFeed_, return_);
+    // What follows a carriage return at the end may be its line feed.
+    while (lineEnd + (return_ < lineFeed_ ? 1 : 0) >= end_ && !isAllRead_) {
         readMore();
+        lineEnd = std::min(lineFeed_, return_);
     }
-}
-
-/// Gives out what stands before `lineEnd`, and goes on after the line end.
-std::string_view LineReader::takeLine(std::size_t lineEnd, std::size_t endLength) {
-    const std::string_view line(buffer_.data() + start_, lineEnd - start_);
-    start_ = lineEnd + endLength;
-    scanned_ = start_;
+    line = std::string_view(buffer_.data() + start_, lineEnd - start_);
+    if (lineEnd == end_) {
+        start_ = end_;
+        return !line.empty();
+    }
+    start_ = lineEnd + 1 == lineFeed_ && lineFeed_ < end_ ? lineEnd + 2 : lineEnd + 1;
     if (lineFeed_ < start_) {
         lineFeed_ = indexOf('\n', buffer_, start_, end_);
     }
-    return line;
+    if (return_ < start_) {
+        return_ = indexOf('\r', buffer_, start_, end_);
+    }
+    return true;
 }
 
 void LineReader::readMore() {
@@ -86,7 +78,7 @@ void LineReader::makeRoom() {
         std::memmove(buffer_.data(), buffer_.data() + start_, end_ - start_);
         end_ -= start_;
         lineFeed_ -= start_;
-        scanned_ -= start_;
+        return_ -= start_;
         start_ = 0;
     }
     if (end_ == buffer_.size()) {
@@ -107,6 +99,7 @@ void LineReader::readBytes() {
         if (result >= 0) {
             const std::size_t newEnd = end_ + static_cast<std::size_t>(result);
             lineFeed_ = lineFeed_ == end_ ? indexOf('\n', buffer_, end_, newEnd) : lineFeed_;
+            return_ = return_ == end_ ? indexOf('\r', buffer_, end_, newEnd) : return_;
             end_ = newEnd;
             isAllRead_ = result == 0;
             return;
@@ -126,7 +119,7 @@ bool LineReader::takeForm() {
     if (form == SheetForm::RichText || form == SheetForm::Utf16) {
         readSheet(form);
     }
-    start_ = scanned_ = markLength(form);
+    start_ = markLength(form);
     formIsKnown_ = true;
     return true;
 }
@@ -144,6 +137,7 @@ void LineReader::readSheet(SheetForm form) {
     }
     end_ = buffer_.size();
     lineFeed_ = indexOf('\n', buffer_, 0, end_);
+    return_ = indexOf('\r', buffer_, 0, end_);
 }
 
 }  // namespace calquo

@@ -24,7 +24,6 @@ public:
     bool next(std::string_view& line);
 
 private:
-    std::string_view takeLine(std::size_t lineEnd, std::size_t endLength);
     void readMore();
     void makeRoom();
     void readBytes();
@@ -36,8 +35,8 @@ private:
     std::string_view prompt_;
     std::vector<char> buffer_;
     std::size_t start_ = 0;     // of what has been read and not yet given out
-    std::size_t scanned_ = 0;   // no line end stands before it
     std::size_t lineFeed_ = 0;  // the first line feed from there on; end_ when there is none
+    std::size_t return_ = 0;    // the same of carriage returns
     std::size_t end_ = 0;       // of what has been read
     bool formIsKnown_ = false;
     bool isAllRead_ = false;
