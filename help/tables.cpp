@@ -10,6 +10,7 @@
 #include "format/attributes.h"
 #include "format/value_writer.h"
 #include "html.h"
+#include "keys.h"
 #include "panels/button_action.h"
 #include "panels/catalogue.h"
 #include "units/named_constants.h"
@@ -232,9 +233,9 @@ std::string Tables::html(const TableRequest& request) {
         std::string (Tables::*write)(const TableRequest&);
     };
     constexpr Row rows[] = {
-        {"functions", &Tables::functions}, {"units", &Tables::units},   {"prefixes", &Tables::prefixTable},
-        {"constants", &Tables::constants}, {"names", &Tables::names},   {"formats", &Tables::formats},
-        {"samples", &Tables::samples},     {"panels", &Tables::panels},
+        {"functions", &Tables::functions}, {"units", &Tables::units},     {"prefixes", &Tables::prefixTable},
+        {"constants", &Tables::constants}, {"names", &Tables::names},     {"keys", &Tables::keys},
+        {"formats", &Tables::formats},     {"samples", &Tables::samples}, {"panels", &Tables::panels},
     };
     for (const Row& row : rows) {
         if (row.kind == request.kind) {
@@ -361,6 +362,12 @@ std::string Tables::constants(const TableRequest& request) {
     return tableOf("names", rows);
 }
 
+/// Whoever comes for one name goes on to its explanation.
+constexpr std::string_view followName =
+    "var row = document.getElementById(location.hash.substring(1));\n"
+    "var links = row ? row.getElementsByTagName('a') : [];\n"
+    "if (links.length == 1) { location.replace(links[0].href); }";
+
 std::string Tables::names(const TableRequest&) {
     std::string letters, html;
     char letter = '\0';
@@ -375,11 +382,21 @@ std::string Tables::names(const TableRequest&) {
         }
         const auto& [place, explanation] = entries_[index];
         const std::string name = element("a href=\"" + place + "\"", code(nameOf(index)));
-        html += element("tr", element("td class=\"name\"", name) + element("td", escaped(argumentsOf(index))) +
-                                  element("td", explanation)) +
+        html += element("tr", element("td class=\"name\" id=\"name-" + inLowerCase(nameOf(index)) + "\"", name) +
+                                  element("td", escaped(argumentsOf(index))) + element("td", explanation)) +
                 "\n";
     }
-    return element("p class=\"letters\"", letters) + "\n" + html + "</table>";
+    return element("p class=\"letters\"", letters) + "\n" + html + "</table>\n" + element("script", followName);
+}
+
+std::string Tables::keys(const TableRequest& request) {
+    std::string rows = headRow({"Key", "What it does"});
+    for (const KeyRow& row : keyRows(request.rows)) {
+        rows +=
+            element("tr", element("td", element("strong", escaped(row.keys))) + element("td", text(row.explanation))) +
+            "\n";
+    }
+    return tableOf("keys", rows);
 }
 
 std::string Tables::formats(const TableRequest&) {

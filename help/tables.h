@@ -5,6 +5,7 @@
 // units DIMENSION       all units of a dimension ("Length"); rows "NAME TEXT" replace descriptions
 // prefixes, constants   the other names; rows as above
 // names                 every name of the language, with a link to its entry
+// keys                  the keys of the window; rows "KEYS: TEXT" add others
 // formats               the attributes of the output formats and what they are at first
 // samples               rows "EXPRESSION": their results in every output format
 // panels GROUP          the panels of a submenu ("Keypads"), their buttons and what these insert
@@ -41,6 +42,7 @@ private:
     std::string prefixTable(const TableRequest& request);
     std::string constants(const TableRequest& request);
     std::string names(const TableRequest& request);
+    std::string keys(const TableRequest& request);
     std::string formats(const TableRequest& request);
     std::string samples(const TableRequest& request);
     std::string panels(const TableRequest& request);

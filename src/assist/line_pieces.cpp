@@ -2,6 +2,7 @@
 #include "assist/line_pieces.h"
 
 #include "engine/characters.h"
+#include "engine/keywords.h"
 #include "engine/number_literal.h"
 #include "values/errors.h"
 #include "values/value.h"
@@ -50,6 +51,20 @@ LinePiece pieceAt(std::string_view line, std::size_t index) {
         return {PieceKind::Number, index, end};
     }
     return {PieceKind::Other, index, index + 1};
+}
+
+std::size_t nameAt(std::string_view line, std::size_t offset) {
+    for (std::size_t index = 0; index < line.size() && index <= offset;) {
+        const LinePiece piece = pieceAt(line, index);
+        const std::size_t name = piece.kind == PieceKind::Name && piece.end >= offset
+                                     ? lookup(line.substr(piece.begin, piece.end - piece.begin))
+                                     : 0;
+        if (name != 0) {
+            return name;
+        }
+        index = piece.end;
+    }
+    return 0;
 }
 
 }  // namespace calquo

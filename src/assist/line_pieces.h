@@ -20,4 +20,7 @@ struct LinePiece {
 /// complete, the digits count, so that a name may begin right after them. A name need not be one of the language.
 LinePiece pieceAt(std::string_view line, std::size_t index);
 
+/// The index of the language's name that holds the place before or after the character at `offset`, 0 for none.
+std::size_t nameAt(std::string_view line, std::size_t offset);
+
 }  // namespace calquo

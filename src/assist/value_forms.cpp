@@ -9,7 +9,6 @@
 #include "engine/evaluator.h"
 #include "format/fraction.h"
 #include "format/numeric_format.h"
-#include "format/shortest_digits.h"
 #include "format/value_writer.h"
 #include "numeric/complex_arithmetic.h"
 #include "values/durations.h"
@@ -86,7 +85,8 @@ std::string fullText(Real number) {
     if (bits.special()) {
         return bits.infinite() && bits.negative() ? "" : FormatValue(number, 0, 10);
     }
-    return roundedText(number, static_cast<std::uint32_t>(digitsToReadBack(number, 10)));
+    return fewestDigits([&](std::uint32_t digits) { return roundedText(number, digits); },
+                        [&](const std::string& text) { return readsAs(text, number); });
 }
 
 std::string fullText(const Value& value) {

@@ -11,10 +11,27 @@ namespace calquo {
 
 /// The commands that have one identifier each; the panels, the formats and the angles have ranges below.
 enum class Command : std::uint16_t {
+    None = 0,
     WorkArea = 1,  ///< Carried by the work area's own notifications.
     ClearWorkArea = 0x120,
-    BringBackWorkArea = 0x121,  ///< A key's; the menu does not have it.
-    SaveAgain = 0x162,          ///< A key's, too.
+
+    // Those of the work area's context menu and of keys; the main menu does not have them.
+    BringBackWorkArea = 0x121,
+    Evaluate = 0x122,
+    EvaluateAll = 0x123,
+    AddSum = 0x124,
+    HelpOnName = 0x125,
+    Undo = 0x130,
+    Redo = 0x131,
+    Cut = 0x132,
+    Copy = 0x133,
+    CopyResult = 0x134,
+    CopyFullResult = 0x135,
+    Paste = 0x136,
+    Delete = 0x137,
+    SelectAll = 0x138,
+    SaveAgain = 0x162,
+
     ReadDefaultFile = 0x140,
     SaveDefaultFile = 0x141,
     ReadDefaultAtStartup = 0x142,
@@ -22,8 +39,6 @@ enum class Command : std::uint16_t {
     SelectDefaultFile = 0x144,
     ReadFromFile = 0x160,
     SaveAsFile = 0x161,
-    ShowDetails = 0x170,  ///< Keys', these two.
-    CompleteName = 0x171,
     ResetFormats = 0x541,
     HelpContents = 0xA20,
     About = 0xA60,
@@ -43,6 +58,10 @@ struct CommandRange {
 
 /// Open or close the panel of the same identifier.
 inline constexpr CommandRange panelCommands{0xA001, 0xDFFE};
+
+/// What is done to the sheet's text.
+inline constexpr CommandRange evaluationCommands{identifierOf(Command::Evaluate), identifierOf(Command::AddSum)};
+inline constexpr CommandRange editingCommands{identifierOf(Command::Undo), identifierOf(Command::SelectAll)};
 
 /// Turn the angle option of the same identifier on and off.
 inline constexpr CommandRange angleCommands{angleRows.front().command, angleRows.back().command};

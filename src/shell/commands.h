@@ -10,7 +10,7 @@
 #include "shell/main_menu.h"
 #include "shell/open_panels.h"
 #include "shell/settings.h"
-#include "shell/work_area_tips.h"
+#include "shell/sheet_actions.h"
 #include "workarea/recovery.h"
 #include "workarea/work_area.h"
 
@@ -25,7 +25,6 @@ struct CommandTargets {
     WorkArea& workArea;
     FileCommands& files;
     Recovery& recovery;
-    WorkAreaTips& tips;
     const UserDialogs& dialogs;
     /// Lays the window out anew and shows it.
     std::function<void()> layOut;
@@ -36,12 +35,15 @@ struct CommandTargets {
 class Commands {
 public:
     /// The targets must outlive the commands.
-    explicit Commands(CommandTargets targets) : targets_(std::move(targets)) {}
+    explicit Commands(CommandTargets targets);
 
     /// Whether there is a command of this identifier.
     static bool knows(std::uint16_t identifier) { return rowOf(identifier) != nullptr; }
     /// Carries a command out; an identifier that is none does nothing.
     void run(std::uint16_t identifier);
+
+    /// What stands on the sheet, for its context menu.
+    SheetState sheetState() const { return sheet_.state(); }
 
     /// Whether a window is an open dialog of the commands.
     bool isOpenDialog(WindowHandle window) const;
@@ -53,13 +55,12 @@ private:
 
     void togglePanel(std::uint16_t identifier);
     void clearWorkArea(std::uint16_t identifier);
+    void actOnSheet(std::uint16_t identifier);
     void bringBackWorkArea(std::uint16_t identifier);
     void readDefaultFile(std::uint16_t identifier);
     void saveDefaultFile(std::uint16_t identifier);
     void saveAgain(std::uint16_t identifier);
     void chooseFile(std::uint16_t identifier);
-    void showDetails(std::uint16_t identifier);
-    void completeName(std::uint16_t identifier);
     void toggleOption(std::uint16_t identifier);
     void toggleHiddenButtons(std::uint16_t identifier);
     void toggleAngle(std::uint16_t identifier);
@@ -67,10 +68,12 @@ private:
     void modifyFormat(std::uint16_t identifier);
     void resetFormats(std::uint16_t identifier);
     void openHelp(std::uint16_t identifier);
+    void openHelpOnName(std::uint16_t identifier);
     void showAbout(std::uint16_t identifier);
     void exit(std::uint16_t identifier);
 
     CommandTargets targets_;
+    SheetActions sheet_;
     FormatDialog formatDialog_;
     About about_;
 };

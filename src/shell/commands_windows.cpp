@@ -6,6 +6,7 @@
 #include "shell/command_ids.h"
 #include "shell/file_messages.h"
 #include "shell/help.h"
+#include "shell/help_topic.h"
 #include "shell/menu_marks.h"
 #include "widgets/windows_api.h"
 
@@ -25,14 +26,15 @@ const Commands::Row Commands::rows[] = {
     {panelCommands, &Commands::togglePanel},
     {Command::ClearWorkArea, &Commands::clearWorkArea},
     {Command::BringBackWorkArea, &Commands::bringBackWorkArea},
+    {evaluationCommands, &Commands::actOnSheet},
+    {editingCommands, &Commands::actOnSheet},
+    {Command::HelpOnName, &Commands::openHelpOnName},
     {Command::ReadDefaultFile, &Commands::readDefaultFile},
     {Command::SaveDefaultFile, &Commands::saveDefaultFile},
     {Command::SaveAgain, &Commands::saveAgain},
     {Command::SelectDefaultFile, &Commands::chooseFile},
     {Command::ReadFromFile, &Commands::chooseFile},
     {Command::SaveAsFile, &Commands::chooseFile},
-    {Command::ShowDetails, &Commands::showDetails},
-    {Command::CompleteName, &Commands::completeName},
     {Command::ReadDefaultAtStartup, &Commands::toggleOption},
     {Command::SaveDefaultAtExit, &Commands::toggleOption},
     {selectFormatCommands, &Commands::selectFormat},
@@ -44,6 +46,11 @@ const Commands::Row Commands::rows[] = {
     {Command::HideButtons, &Commands::toggleHiddenButtons},
     {angleCommands, &Commands::toggleAngle},
 };
+
+Commands::Commands(CommandTargets targets)
+    : targets_(std::move(targets)), sheet_(targets_.workArea, targets_.dialogs, [&settings = targets_.settings] {
+          return settings.format(settings.selectedFormat());
+      }) {}
 
 const Commands::Row* Commands::rowOf(std::uint16_t identifier) {
     const Row* const row =
@@ -102,6 +109,11 @@ void Commands::clearWorkArea(std::uint16_t) {
     targets_.recovery.aroundReplacement([this] { targets_.workArea.clear(); });
 }
 
+void Commands::actOnSheet(std::uint16_t identifier) {
+    sheet_.run(static_cast<Command>(identifier));
+    targets_.recovery.keep();
+}
+
 void Commands::bringBackWorkArea(std::uint16_t) {
     if (!targets_.recovery.bringBack()) {
         targets_.dialogs.showHint(noCopyHint);
@@ -127,10 +139,6 @@ void Commands::chooseFile(std::uint16_t identifier) {
         [this, identifier] { targets_.files.actOnChosenFile(static_cast<Command>(identifier)); });
     targets_.recovery.keepSaved();
 }
-
-void Commands::showDetails(std::uint16_t) { targets_.tips.showDetails(); }
-
-void Commands::completeName(std::uint16_t) { targets_.tips.completeName(); }
 
 // --- Formats --------------------------------------------------------------------------------------------------------
 
@@ -163,6 +171,13 @@ void Commands::resetFormats(std::uint16_t) {
 void Commands::showAbout(std::uint16_t) { targets_.keepFocusIn(about_.open(targets_.workArea.handle())); }
 
 void Commands::openHelp(std::uint16_t) { showHelp(targets_.window); }
+
+void Commands::openHelpOnName(std::uint16_t) {
+    const std::string_view name = sheet_.state().name;
+    if (!name.empty()) {
+        showHelp(targets_.window, helpTopicOf(name));
+    }
+}
 
 void Commands::exit(std::uint16_t) { SendMessageW(targets_.window, WM_CLOSE, 0, 0); }
 

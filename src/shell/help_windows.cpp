@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "widgets/handles.h"
+#include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -74,8 +75,8 @@ std::wstring helpFile() {
 
 }  // namespace
 
-void showHelp(WindowHandle owner) {
-    const std::wstring file = helpFile();
+void showHelp(WindowHandle owner, std::string_view topic) {
+    const std::wstring file = topic.empty() ? helpFile() : helpFile() + L"::/" + wideText(topic);
     // Paths that the code page cannot express go to the function that takes UTF-16.
     if (const std::optional<std::string> narrow = ansiText(file)) {
         if (const auto show = find<AnsiHelp>(ansiOrdinal)) {

@@ -6,9 +6,11 @@
 #include "hints/hints.h"
 #include "numeric/random.h"
 #include "shell/command_ids.h"
+#include "shell/context_menu.h"
 #include "shell/file_messages.h"
 #include "shell/menu_marks.h"
 #include "shell/menu_tree.h"
+#include "shell/sheet_commands.h"
 #include "values/program.h"
 #include "widgets/painting.h"
 #include "widgets/screens.h"
@@ -44,15 +46,6 @@ private:
     Action action_;
 };
 
-std::vector<KeyCommand> keyCommands() {
-    return {{VK_F1, Modifiers::Any, identifierOf(Command::HelpContents)},
-            {'S', Modifiers::Control, identifierOf(Command::SaveAgain)},
-            {'O', Modifiers::Control, identifierOf(Command::ReadFromFile)},
-            {'D', Modifiers::Control, identifierOf(Command::ShowDetails)},
-            {VK_SPACE, Modifiers::Control, identifierOf(Command::CompleteName)},
-            {'T', Modifiers::ControlShift, identifierOf(Command::BringBackWorkArea)}};
-}
-
 /// The maximized window on the screen that a window is on.
 Rectangle maximizedRectangleOf(HWND window) {
     return maximizedRectangle(screenOf(window).usableArea, windowAround({}, windowStyle));
@@ -66,7 +59,6 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files
       startFiles_(std::move(files)),
       panels_([this](const PanelEntry& panel, const PanelButton& button) {
           pressButton(*workArea_, panel, button, settings_.angleOption());
-          tips_->lineMayHaveChanged();
       }) {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     WNDCLASSEXW description{};
@@ -98,26 +90,23 @@ void MainWindow::onCreate() {
     setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, screenDotsPerInch())));
     caption_ = std::make_unique<CaptionStrip>(handle());
     workArea_ = std::make_unique<WorkArea>(
-        handle(), identifierOf(Command::WorkArea), keyCommands(),
+        handle(), identifierOf(Command::WorkArea), windowKeys(),
         [this] { return settings_.format(settings_.selectedFormat()); },
-        WorkAreaListener{[this] {
-                             hideHint();
-                             recovery_->keepWaiting();
-                         },
-                         [this](std::string_view line, const Answer* answer) {
-                             recovery_->keep();
-                             tellAbout(line, answer);
-                         },
-                         [this](const KeyEvent& event) { return tips_->takesKey(event); },
-                         [this](std::string_view text) { tips_->textComes(text); },
-                         [this](const MouseEvent& event) { tips_->mouse(event); }});
-    tips_ = std::make_unique<WorkAreaTips>(handle(), *workArea_,
-                                           [this](const std::wstring& hint) { dialogs_.showHint(hint); });
+        WorkAreaListener{
+            [this] {
+                hideHint();
+                recovery_->keepWaiting();
+            },
+            [this](std::string_view line, const Answer* answer) {
+                recovery_->keep();
+                tellAbout(line, answer);
+            },
+            [this](Point corner) { showContextMenu(handle(), corner, contextMenu(commands_->sheetState())); }});
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
     recovery_ = std::make_unique<Recovery>(
         *workArea_, [this] { return files_->isInFile(); }, startFiles_.recoveryFolder);
     commands_ = std::make_unique<Commands>(CommandTargets{handle(), settings_, menu_, panels_, *workArea_, *files_,
-                                                          *recovery_, *tips_, dialogs_, [this] { layOutAndRefresh(); },
+                                                          *recovery_, dialogs_, [this] { layOutAndRefresh(); },
                                                           [this](WindowHandle dialog) { lastFocus_ = dialog; }});
     workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isCheckedUnder(settings_, identifier); });
@@ -248,13 +237,6 @@ void MainWindow::tellAbout(std::string_view line, const Answer* answer) {
     const HintSettings inForce{settings_.format(settings_.selectedFormat()), angleUnitOf(settings_.angleOption())};
     if (const std::string hint = hintFor(line, answer, inForce); !hint.empty()) {
         tell(wideText(hint));
-    }
-}
-
-void MainWindow::onPressInside() {
-    hideHint();
-    if (tips_ != nullptr) {
-        tips_->pressed();
     }
 }
 

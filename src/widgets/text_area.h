@@ -46,22 +46,26 @@ public:
     TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);
 
     TextRange selection() const;
+    bool hasSelection() const;
     void select(TextRange range);
 
     /// The paragraph that holds `position`. It is looked for around that position, so that the rest of the text costs
     /// nothing but the control's own search for a position.
     Paragraph paragraphAt(std::int32_t position) const;
 
-    /// Where a position stands in the window: the left edge of its character, without a width, as high as its line.
-    Rectangle placeOf(std::int32_t position) const;
-    /// The position of the character nearest to a point.
-    std::int32_t positionAt(Point point) const;
-
     /// The characters of a range, line ends as "\r".
     std::wstring charactersIn(TextRange range) const;
+    /// All characters, in the same way.
+    std::wstring characters() const;
 
     /// Replaces a range by runs of text and puts the caret at `caret`, as one step for undo.
     void replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret);
+
+    /// A range as rich text in UTF-8, in the control's own words; raises bad_alloc when memory runs out.
+    std::string richTextIn(TextRange range);
+    /// Replaces a range by rich text, as one step for undo. False, with the text as it was, when the control does not
+    /// take it.
+    bool replaceByRichText(TextRange range, std::string_view text);
 
     /// Puts a line end in place of the selection, as one step for undo.
     void insertLineEnd();
@@ -82,10 +86,32 @@ public:
     /// The same for plain text, which looks normal; line ends are "\r".
     bool replaceContentByPlainText(std::wstring_view text);
 
+    bool canUndo() const;
+    bool canRedo() const;
+    /// Whether the clipboard holds something that could be pasted.
+    bool canPaste() const;
+    void undo();
+    void redo();
+    /// The selection goes to the clipboard, as the control does it; what it holds takes the selection's place.
+    void cut();
+    void copy();
+    void paste();
+    /// Takes out what is selected, as one step for undo.
+    void deleteSelection();
+    void selectAll();
+
+    /// The position nearest to a point of the screen, and the point below the caret.
+    std::int32_t positionAt(Point screen) const;
+    Point pointBelowCaret() const;
+
     /// Leaves nothing to undo or redo.
     void forgetSteps();
 
 protected:
+    /// The font of all styles, and its size.
+    const std::wstring& fontName() const { return fontName_; }
+    static int fontHalfPoints();
+
     /// Keeps a margin around the text.
     void onPlaced() override;
     bool onKey(const KeyEvent& event) override;

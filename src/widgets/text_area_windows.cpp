@@ -8,6 +8,7 @@
 #include <new>
 
 #include "widgets/fonts.h"
+#include "widgets/painting.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -176,9 +177,12 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
     SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
 }
 
+int TextArea::fontHalfPoints() { return 2 * fontPoints; }
+
 bool TextArea::onKey(const KeyEvent& event) {
-    // The keys of the menu are the top-level window's, although the control would keep them.
-    const bool menuKey = event.system && !event.released && (event.key == VK_MENU || event.key == VK_F10);
+    // The keys of the main menu are the top-level window's, although the control would keep them.
+    const bool menuKey =
+        event.system && !event.released && (event.key == VK_MENU || (event.key == VK_F10 && !event.shift));
     if (menuKey) {
         passToTopLevel(event);
     }
@@ -230,6 +234,11 @@ TextRange TextArea::selection() const {
     return {range.cpMin, range.cpMax};
 }
 
+bool TextArea::hasSelection() const {
+    const TextRange selected = selection();
+    return selected.begin != selected.end;
+}
+
 void TextArea::select(TextRange range) {
     if (range == selection()) {
         return;  // the control searches for a position from the text's start
@@ -246,26 +255,7 @@ std::wstring TextArea::charactersIn(TextRange range) const {
     return characters;
 }
 
-Rectangle TextArea::placeOf(std::int32_t position) const {
-    const auto pointOf = [this](LRESULT place) {
-        POINTL point{};
-        SendMessageW(handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&point), place);
-        return point;
-    };
-    const POINTL point = pointOf(position);
-    // The control tells the height of no line, but where the next one is.
-    const LRESULT line = SendMessageW(handle(), EM_EXLINEFROMCHAR, 0, position);
-    const LRESULT next = SendMessageW(handle(), EM_LINEINDEX, static_cast<WPARAM>(line + 1), 0);
-    const int distance = next < 0 ? 0 : static_cast<int>(pointOf(next).y - point.y);
-    constexpr int pointsPerInch = 72;
-    const int usual = fontPoints * screenDotsPerInch() * 6 / 5 / pointsPerInch;
-    return {static_cast<int>(point.x), static_cast<int>(point.y), 0, distance > 0 ? distance : usual};
-}
-
-std::int32_t TextArea::positionAt(Point point) const {
-    POINTL place{point.left, point.top};
-    return static_cast<std::int32_t>(SendMessageW(handle(), EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&place)));
-}
+std::wstring TextArea::characters() const { return charactersIn({0, lengthOf(handle())}); }
 
 Paragraph TextArea::paragraphAt(std::int32_t position) const {
     constexpr std::int32_t firstReach = 256;
@@ -294,6 +284,28 @@ void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std:
     select(range);
     replaceSelection(runs);
     select({caret, caret});
+}
+
+std::string TextArea::richTextIn(TextRange range) {
+    const PaintingPause pause(handle());
+    const TextRange before = selection();
+    select(range);
+    std::string text = streamOut(SF_RTF | SFF_SELECTION | SF_USECODEPAGE | CP_UTF8 << 16);
+    select(before);
+    return text;
+}
+
+bool TextArea::replaceByRichText(TextRange range, std::string_view text) {
+    const PaintingPause pause(handle());
+    const TextRange before = selection();
+    select(range);
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, readPiece};
+    SendMessageW(handle(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+    if (stream.dwError != 0) {
+        SendMessageW(handle(), EM_UNDO, 0, 0);
+        select(before);
+    }
+    return stream.dwError == 0;
 }
 
 void TextArea::insertLineEnd() {
@@ -406,6 +418,36 @@ bool TextArea::startInNormalStyle() {
     }
     SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&wanted));
     return !isEmpty;
+}
+
+// --- Editing --------------------------------------------------------------------------------------------------------
+
+bool TextArea::canUndo() const { return SendMessageW(handle(), EM_CANUNDO, 0, 0) != 0; }
+bool TextArea::canRedo() const { return SendMessageW(handle(), EM_CANREDO, 0, 0) != 0; }
+bool TextArea::canPaste() const { return SendMessageW(handle(), EM_CANPASTE, 0, 0) != 0; }
+void TextArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
+void TextArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
+void TextArea::cut() { SendMessageW(handle(), WM_CUT, 0, 0); }
+void TextArea::copy() { SendMessageW(handle(), WM_COPY, 0, 0); }
+void TextArea::paste() { SendMessageW(handle(), WM_PASTE, 0, 0); }
+void TextArea::deleteSelection() { SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"")); }
+void TextArea::selectAll() { SendMessageW(handle(), EM_SETSEL, 0, -1); }
+
+std::int32_t TextArea::positionAt(Point screen) const {
+    POINT point{screen.left, screen.top};
+    ScreenToClient(handle(), &point);
+    POINTL inside{point.x, point.y};
+    return static_cast<std::int32_t>(SendMessageW(handle(), EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&inside)));
+}
+
+Point TextArea::pointBelowCaret() const {
+    POINTL place{};
+    SendMessageW(handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), selection().end);
+    const Size client = clientSize(handle());
+    const int lineHeight = 2 * scaledToScreen(fontPoints, screenDotsPerInch());
+    POINT point{std::clamp<LONG>(place.x, 0, client.width), std::clamp<LONG>(place.y + lineHeight, 0, client.height)};
+    ClientToScreen(handle(), &point);
+    return {point.x, point.y};
 }
 
 void TextArea::forgetSteps() { SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0); }

@@ -120,6 +120,8 @@ protected:
     /// The system would open the window's menu for a key that was pressed alone.
     virtual bool onMenuKey() { return false; }
     virtual bool onMouse(const MouseEvent&) { return false; }
+    /// The context menu is wanted at a point of the screen, or without one by a key.
+    virtual bool onContextMenu(std::optional<Point>) { return false; }
     /// A mouse button goes down in a child window or on the frame.
     virtual void onPressInside() {}
     virtual bool onTimer(std::uintptr_t /*timer*/) { return false; }
@@ -156,6 +158,7 @@ private:
 
     Result takeKey(const Message& message);
     Result takeMouse(MouseAction action, const Message& message);
+    Result takeContextMenu(const Message& message);
     Result takeSizeLimits(const Message& message) const;
     Result takeDrawing(const Message& message);
     Result colorsOfChild(const Message& message) const;

@@ -219,6 +219,9 @@ Window::Result Window::dispatchInput(const Message& message) {
             return takeMouse(MouseAction::Release, message);
         case WM_CAPTURECHANGED:
             return takeMouse(MouseAction::CaptureLost, message);
+        case WM_RBUTTONUP:
+        case WM_CONTEXTMENU:
+            return takeContextMenu(message);
         case WM_PARENTNOTIFY:
             if (LOWORD(message.wParam) != WM_CREATE && LOWORD(message.wParam) != WM_DESTROY) {
                 onPressInside();
@@ -278,6 +281,17 @@ Window::Result Window::takeKey(const Message& message) {
 Window::Result Window::takeMouse(MouseAction action, const Message& message) {
     const Point position{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
     return dealtWith(onMouse({action, position}));
+}
+
+Window::Result Window::takeContextMenu(const Message& message) {
+    // Some controls keep the release of the button to themselves, and the menu's message never comes.
+    POINT point{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
+    if (message.code == WM_RBUTTONUP) {
+        ClientToScreen(message.window, &point);
+    } else if (message.lParam == -1) {
+        return dealtWith(onContextMenu(std::nullopt));
+    }
+    return dealtWith(onContextMenu(Point{point.x, point.y}));
 }
 
 Window::Result Window::takeSizeLimits(const Message& message) const {

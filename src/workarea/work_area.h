@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "format/numeric_format.h"
+#include "widgets/key_stroke.h"
 #include "widgets/text_area.h"
 #include "workarea/record.h"
+#include "workarea/reevaluation.h"
 
 namespace calquo {
 
@@ -28,8 +30,9 @@ struct LineRange {
     std::size_t end = 0;
 };
 
-/// The modifier keys that a key command wants: none of them, at least one, any or none, or exactly these.
-enum class Modifiers : std::uint8_t { None, Some, Any, Control, ControlShift };
+/// Where a line is added: at a place that begins a line, whose characters it replaces, or below the line that ends
+/// there.
+enum class LinePlace : bool { Here, Below };
 
 /// A key that sends a command to the work area's parent.
 struct KeyCommand {
@@ -44,11 +47,7 @@ struct WorkAreaListener {
     /// A line has its answer, and shows it: the whole line as it was, in UTF-8, and the answer, null where the line has
     /// no expression.
     std::function<void(std::string_view line, const Answer* answer)> evaluated = [](std::string_view, const Answer*) {};
-    /// Before all else that a key does: whether it was meant for something else, and does nothing here.
-    std::function<bool(const KeyEvent&)> takesKey = [](const KeyEvent&) { return false; };
-    /// Before text goes in at the caret, typed or put in by a button.
-    std::function<void(std::string_view text)> textComes = [](std::string_view) {};
-    std::function<void(const MouseEvent&)> mouse = [](const MouseEvent&) {};
+    std::function<void(Point)> menuWanted = [](Point) {};  ///< At a point of the screen.
 };
 
 class WorkArea : public TextArea {
@@ -65,8 +64,6 @@ public:
              WorkAreaListener listener = {});
 
     CurrentLine currentLine() const;
-    /// The line that holds a position, with the selection as far as it lies there.
-    CurrentLine lineAt(std::int32_t position) const;
 
     /// Types characters and presses keys of the system's numbers, as the keyboard would.
     void typeCharacters(std::string_view characters);
@@ -74,8 +71,18 @@ public:
 
     /// Empties the work area, as one step for undo.
     void clear();
-    void undo();
-    void redo();
+
+    /// Evaluates the line with the caret, as Enter does.
+    void evaluate();
+    /// Evaluates all lines that have a result, in place, as one step for undo; says what differs.
+    Reevaluation evaluateAll();
+
+    /// The lines that the selection touches, without the end of the last one. A line that ends the selection before its
+    /// first character does not belong to them.
+    Paragraph selectedLines() const;
+    /// Adds a line and evaluates it as Enter does, as one step for undo. Below a line it takes the room of an empty
+    /// one.
+    void addLine(std::int32_t position, LinePlace place, const std::string& expression);
 
     /// Puts text before and after a range of `line`, whose characters stay as they are, and the caret at `caret`,
     /// an offset in the changed line. One step for undo.
@@ -86,27 +93,26 @@ public:
 
 protected:
     bool onKey(const KeyEvent& event) override;
-    bool onCharacter(wchar_t character) override;
-    bool onMouse(const MouseEvent& event) override;
     bool onFilesDropped(std::uintptr_t drop) override;
+    bool onContextMenu(std::optional<Point> point) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
     struct KeyRow;
     static const KeyRow keyRows[];
 
-    void evaluate();
     void evaluateIntoSelection();
 
     /// Puts the caret at the start of the next line, which is made where there is none.
     void goToLineAfter(const Paragraph& line);
+    void writeResults(const std::vector<ResultEdit>& edits);
+    bool writeAtOnce(const std::vector<ResultEdit>& edits);
     void apply(const Paragraph& line, const LineEdit& edit);
 
     std::vector<KeyCommand> keyCommands_;
     FormatSource format_;
     WorkAreaListener listener_;
     bool resultReplaces_ = false;
-    bool keyIsDealtWith_ = false;  ///< What it would type is none of the text.
 };
 
 }  // namespace calquo

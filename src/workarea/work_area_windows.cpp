@@ -2,35 +2,22 @@
 #include "workarea/work_area.h"
 
 #include <algorithm>
-#include <utility>
+#include <ranges>
 
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
+#include "workarea/file_fault.h"
+#include "workarea/language_text.h"
+#include "workarea/result_edits.h"
+#include "workarea/rich_text.h"
+#include "workarea/rich_text_filter.h"
+#include "workarea/text_cost.h"
 
 namespace calquo {
 namespace {
 
 constexpr CharacterStyle normalStyle{RGB(0, 0, 0), false};
 constexpr CharacterStyle resultStyle{RGB(0, 0, 139), true};
-
-/// A character that the language does not have and no setting can give it.
-constexpr char foreignCharacter = '\x7F';
-
-/// The line as the engine reads it: one character for each UTF-16 unit, so that positions are those of the control.
-std::string languageText(std::wstring_view line) {
-    std::string text(line.size(), foreignCharacter);
-    std::transform(line.begin(), line.end(), text.begin(),
-                   [](wchar_t unit) { return unit < 0x100 ? static_cast<char>(unit) : foreignCharacter; });
-    return text;
-}
-
-/// The engine's text as the control takes it.
-std::wstring controlText(std::string_view text) {
-    std::wstring wide(text.size(), L' ');
-    std::transform(text.begin(), text.end(), wide.begin(),
-                   [](char character) { return static_cast<wchar_t>(static_cast<unsigned char>(character)); });
-    return wide;
-}
 
 StyledRun controlRun(const StyledText& piece) {
     return {controlText(piece.text), piece.style == TextStyle::Result ? resultStyle : normalStyle};
@@ -45,6 +32,8 @@ bool fits(Modifiers wanted, const KeyEvent& event) {
             return any;
         case Modifiers::Any:
             return true;
+        case Modifiers::Shift:
+            return event.shift && !event.control && !event.alt;
         case Modifiers::Control:
             return event.control && !event.shift && !event.alt;
         case Modifiers::ControlShift:
@@ -99,9 +88,8 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCo
       listener_(std::move(listener)) {}
 
 bool WorkArea::onKey(const KeyEvent& event) {
-    keyIsDealtWith_ = !event.released && listener_.takesKey(event);
-    if (event.released || keyIsDealtWith_) {
-        return keyIsDealtWith_ || TextArea::onKey(event);
+    if (event.released) {
+        return TextArea::onKey(event);
     }
     listener_.keyPressed();
     const auto isMeant = [&](const auto& row) { return row.key == event.key && fits(row.modifiers, event); };
@@ -110,28 +98,29 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
-        keyIsDealtWith_ = true;
         sendCommand(parent(), {row->command});
         return true;
     }
     return TextArea::onKey(event);
 }
 
-bool WorkArea::onCharacter(wchar_t character) {
-    if (std::exchange(keyIsDealtWith_, false)) {
-        return true;
-    }
-    listener_.textComes(languageText({&character, 1}));
-    return TextArea::onCharacter(character);
-}
-
-bool WorkArea::onMouse(const MouseEvent& event) {
-    listener_.mouse(event);
-    return TextArea::onMouse(event);
-}
-
 bool WorkArea::onFilesDropped(std::uintptr_t drop) {
     SendMessageW(parent(), WM_DROPFILES, drop, 0);
+    return true;
+}
+
+bool WorkArea::onContextMenu(std::optional<Point> point) {
+    listener_.keyPressed();
+    if (point) {
+        giveFocus();
+        // A click inside the selection is about it; any other is about its own place.
+        const std::int32_t position = positionAt(*point);
+        const TextRange selected = selection();
+        if (position < selected.begin || position > selected.end) {
+            select({position, position});
+        }
+    }
+    listener_.menuWanted(point ? *point : pointBelowCaret());
     return true;
 }
 
@@ -159,18 +148,82 @@ void WorkArea::evaluateIntoSelection() {
     evaluate();
 }
 
-CurrentLine WorkArea::currentLine() const { return lineAt(selection().begin); }
+Reevaluation WorkArea::evaluateAll() {
+    Reevaluation outcome = reevaluate(languageText(characters()), format_());
+    if (!outcome.edits.empty()) {
+        writeResults(outcome.edits);
+    }
+    return outcome;
+}
 
-CurrentLine WorkArea::lineAt(std::int32_t position) const {
+void WorkArea::writeResults(const std::vector<ResultEdit>& edits) {
+    const auto caret = static_cast<std::int32_t>(positionAfter(edits, static_cast<std::size_t>(selection().end)));
+    if (edits.size() == 1 || !writeAtOnce(edits)) {
+        // From the last one on, whose place the others do not change.
+        for (const ResultEdit& edit : edits | std::views::reverse) {
+            const TextRange range = textRange(0, edit.begin, edit.end);
+            replace(range, {controlRun({edit.result, TextStyle::Result})}, range.begin);
+        }
+    }
+    select({caret, caret});
+}
+
+bool WorkArea::writeAtOnce(const std::vector<ResultEdit>& edits) {
+    const std::size_t begin = edits.front().begin, end = edits.back().end;
+    std::vector<ResultEdit> inside = edits;
+    for (ResultEdit& edit : inside) {
+        edit.begin -= begin;
+        edit.end -= begin;
+    }
+    const TextRange range = textRange(0, begin, end);
+    const ResultLook look{languageText(fontName()),     fontHalfPoints(),
+                          GetRValue(resultStyle.color), GetGValue(resultStyle.color),
+                          GetBValue(resultStyle.color), resultStyle.bold};
+    try {
+        const std::string old = cleanRichText(richTextToWrite(richTextIn(range)), mostTextCost(), LastLineEnd::Dropped);
+        const auto text = withResults(old, end - begin, inside, look);
+        return text && replaceByRichText(range, *text);
+    } catch (const FileFault&) {
+        return false;  // nothing that a control writes is known to get here
+    }
+}
+
+Paragraph WorkArea::selectedLines() const {
     const TextRange selected = selection();
-    const Paragraph line = paragraphAt(position);
+    const std::int32_t begin = paragraphAt(selected.begin).range.begin;
+    // A selection of whole lines ends at the beginning of the next.
+    const std::int32_t last = std::max(selected.begin, selected.end - 1);
+    const std::int32_t end = paragraphAt(last).range.end;
+    return {{begin, end}, charactersIn({begin, end})};
+}
+
+void WorkArea::addLine(std::int32_t position, LinePlace place, const std::string& expression) {
+    LineEdit edit = editAfterEnter(expression, format_());
+    TextRange range = paragraphAt(position).range;
+    std::string before;
+    if (place == LinePlace::Below) {
+        const TextRange below = paragraphAt(position + 1).range;
+        const bool isRoom = below.begin > position && below.begin == below.end;
+        before.assign(isRoom ? 0 : 1, '\n');
+        range = isRoom ? below : TextRange{position, position};
+    }
+    edit.begin = 0;
+    edit.end = offsetIn(range.begin, range.end);
+    edit.caret += before.size();
+    edit.pieces.insert(edit.pieces.begin(), {before + expression, TextStyle::Normal});
+    apply({range, {}}, edit);
+    listener_.evaluated(expression, edit.answer ? &*edit.answer : nullptr);
+}
+
+CurrentLine WorkArea::currentLine() const {
+    const TextRange selected = selection();
+    const Paragraph line = paragraphAt(selected.begin);
     const auto [start, end] = line.range;
     return {languageText(line.text), start, offsetIn(start, std::clamp(selected.begin, start, end)),
             offsetIn(start, std::clamp(selected.end, start, end))};
 }
 
 void WorkArea::typeCharacters(std::string_view characters) {
-    keyIsDealtWith_ = false;
     for (const wchar_t unit : controlText(characters)) {
         SendMessageW(handle(), WM_CHAR, unit, 1);
     }
@@ -179,24 +232,18 @@ void WorkArea::typeCharacters(std::string_view characters) {
 void WorkArea::pressKey(std::uint32_t virtualKey) { SendMessageW(handle(), WM_KEYDOWN, virtualKey, 1); }
 
 void WorkArea::clear() {
-    SendMessageW(handle(), EM_SETSEL, 0, -1);
-    SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+    selectAll();
+    deleteSelection();
 }
-
-void WorkArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
-
-void WorkArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
 
 void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
                         std::size_t caret) {
     const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
-    listener_.textComes(before);
     replace(inside, {{text, normalStyle}}, positionOf(line.start, caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
-    listener_.textComes(text);
     replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
             positionOf(line.start, caret));
 }

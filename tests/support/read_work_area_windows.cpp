@@ -87,15 +87,10 @@ std::string drawnSheet(HWND workArea, bool marked) {
     return drawn;
 }
 
-/// The hint below the sheet, or the tip beside a line; empty where neither shows.
+/// The hint below the sheet; empty where none shows.
 std::string hintOf(HWND window) {
-    for (const char* name : {"CalquoHint", "CalquoTip"}) {
-        const HWND hint = FindWindowExA(window, nullptr, name, nullptr);
-        if (hint != nullptr && IsWindowVisible(hint) != 0) {
-            return utf8(textOf(hint));
-        }
-    }
-    return "";
+    const HWND hint = FindWindowExW(window, nullptr, L"CalquoHint", nullptr);
+    return hint != nullptr && IsWindowVisible(hint) != 0 ? utf8(textOf(hint)) : "";
 }
 
 /// What a line of the input expects: the sheet as drawnSheet() has it, and after " ??" a part of the hint, or nothing
@@ -176,6 +171,8 @@ void printWindow(HWND window, HWND workArea) {
     GetWindowRect(window, &place);
     std::printf("windows %d\n", countShown(calquo::programTitle));
     std::printf("place %ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
+    GetWindowRect(workArea, &place);
+    std::printf("sheet %ld %ld\n", place.left, place.top);
     std::printf("state %s\n", stateOf(window));
     std::printf("front %s\n", GetForegroundWindow() == window ? "yes" : "no");
     std::printf("focus %s\n", focusOf(window, workArea).c_str());
@@ -184,11 +181,7 @@ void printWindow(HWND window, HWND workArea) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[16] = L"";
         GetClassNameW(child, name, static_cast<int>(std::size(name)));
-        const bool isTip = std::wcscmp(name, L"CalquoTip") == 0;
-        if (isTip && isShown(child)) {
-            GetWindowRect(child, &place);
-            std::printf("tip %ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
-        } else if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
+        if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
             std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(child)));
             printButtons(child);
         }
