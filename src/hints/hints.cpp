@@ -1,33 +1,26 @@
-// The rules in their order, and the text of the first that finds something.
+// The text of the first rule that finds something, or what is said about a refused line.
 #include "hints/hints.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 
-#include "hints/rules.h"
+#include "hints/accepted_lines.h"
+#include "hints/refused_lines.h"
 
 namespace calquo {
-namespace {
-
-std::string textOf(const Rule& rule, const Findings& findings) {
-    std::string text;
-    for (std::size_t i = 0; i < rule.say.size(); ++i) {
-        if (rule.say[i] == '%' && i + 1 < rule.say.size() && rule.say[i + 1] >= '1' && rule.say[i + 1] <= '3') {
-            text += findings[static_cast<std::size_t>(rule.say[++i] - '1')];
-        } else {
-            text += rule.say[i];
-        }
-    }
-    return text;
-}
-
-}  // namespace
 
 std::string hintFor(std::string_view line, const Answer* answer, const HintSettings& settings) {
-    const Situation situation{line, expressionOf(line), answer, settings};
-    Findings findings;
-    const auto rules = hintRules();
-    const auto rule = std::ranges::find_if(rules, [&](const Rule& row) { return row.finds(situation, findings); });
-    return rule == rules.end() ? std::string() : textOf(*rule, findings);
+    // The words of short lines stay on the stack.
+    constexpr std::size_t wordsOnStack = 64;
+    alignas(Word) std::array<std::byte, wordsOnStack * sizeof(Word)> storage;
+    std::pmr::monotonic_buffer_resource memory(storage.data(), storage.size());
+    Words words(&memory);
+    words.reserve(wordsOnStack / 2);
+    const std::string_view expression = expressionOf(line);
+    splitIntoWords(expression, words);
+    const Situation situation{line, expression, words, answer, settings};
+    return answer != nullptr && answer->failed ? hintForRefused(situation) : hintForAccepted(situation);
 }
 
 }  // namespace calquo

@@ -1,4 +1,4 @@
-// Lines whose form as a whole is not the language's.
+// Lines, or numbers in them, whose form is another thing in the language.
 #pragma once
 
 #include "hints/rule.h"
@@ -7,8 +7,15 @@ namespace calquo {
 
 /// "=2+3": an expression after the "=" that begins the line. Finds the expression.
 bool beginsWithEquals(const Situation& situation, Findings& findings);
-
-/// "A = 12 m2, U = 0.24": a note, which is left as it is. Finds the error's message.
-bool isNoteLine(const Situation& situation, Findings& findings);
+/// "x=5": a letter that is to be a variable. Finds the letter with its "=".
+bool findsVariable(const Situation& situation, Findings& findings);
+/// "5 km = mile": a unit after the "=". Finds the line with an arrow.
+bool findsUnitAfterEquals(const Situation& situation, Findings& findings);
+/// "1.234,56": the group mark after the decimal mark. Finds the number, its value, and the line with both exchanged.
+bool findsExchangedMarks(const Situation& situation, Findings& findings);
+/// "2026-11-21", "21/11/2026": a date, which is a difference or a quotient. Finds the date.
+bool findsDate(const Situation& situation, Findings& findings);
+/// "12'345": an apostrophe between groups of digits. Finds the number, its base, and the line without it.
+bool findsApostropheGroups(const Situation& situation, Findings& findings);
 
 }  // namespace calquo
