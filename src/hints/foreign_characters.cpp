@@ -69,6 +69,12 @@ void replaceSuperscripts(Draft& draft, std::size_t index) {
 }  // namespace
 
 bool replaceBrackets(Draft& draft, Findings& findings) {
+    const auto has = [&](std::string_view bracket) {
+        return std::ranges::any_of(draft.words, [&](const DraftWord& word) { return word.is(bracket); });
+    };
+    if (!(has("[") && has("]")) && !(has("{") && has("}"))) {
+        return false;
+    }
     bool changed = false;
     for (DraftWord& word : draft.words) {
         if (word.kind != WordKind::Mark || word.text.size() != 1) {
