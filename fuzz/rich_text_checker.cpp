@@ -115,11 +115,11 @@ private:
                 numberWithin(0, 65'535);
             }
             expect(" ");
+            isName_ = true;
             while (!takes(";}")) {
                 character();
-                shown_.clear();
-                first_ = false;  // nobody reads halves of pairs together here
             }
+            isName_ = false;
         }
         expect("}");
     }
@@ -194,6 +194,9 @@ private:
         }
     }
     void show(char16_t unit) {
+        if (isName_) {
+            return;
+        }
         const bool isSecond = (unit & 0xFC00) == 0xDC00;
         require(first_ == isSecond, "half of a surrogate pair");
         first_ = (unit & 0xFC00) == 0xD800;
@@ -202,7 +205,8 @@ private:
 
     std::string_view rest_;
     std::u16string shown_;
-    bool first_ = false;  ///< The first half of a pair stands last.
+    bool isName_ = false;  ///< Of a font, whose characters are not shown.
+    bool first_ = false;   ///< The first half of a pair stands last.
     std::set<std::int32_t> fonts_;
     std::int32_t colors_ = 0;
 };

@@ -109,6 +109,26 @@ void checkStream(const std::string& bytes) {
     }
 }
 
+/// The same lines so often that they come in pieces, and one line longer than a piece.
+void checkLongStream(const std::string& bytes) {
+    constexpr std::size_t piece = 65536;
+    std::string many;
+    while (many.size() < 2 * piece) {
+        many += bytes + "\n";
+    }
+    require(linesIn(runOf({}, MemoryFile(many)).output) == linesIn(many), "not each of many lines gets a line");
+    const std::string longLine = "1" + std::string(piece, ' ') + "+1\n" + many.substr(0, 10);
+    require(runOf({}, MemoryFile(longLine)).output.starts_with("2\n"), "a long line is not read whole");
+}
+
+/// What cannot be opened or read is told, with the status for it.
+void checkUnreadable() {
+    for (const char* const name : {".", "/proc/self/fd/none"}) {
+        const Run run = runOf({"--check", name}, MemoryFile(""));
+        require(run.status == 2 && run.messages.find(name) != std::string::npos, "what cannot be read is not named");
+    }
+}
+
 void check(FuzzInput input) {
     InputReader reader(input);
     std::vector<std::string> arguments;
@@ -125,6 +145,10 @@ void check(FuzzInput input) {
     require(run.status >= 0 && run.status <= 2, "a status that calq does not have");
     require(run.status != 2 || !run.messages.empty(), "status 2 without a message");
     checkStream(bytes);
+    if (bytes.size() > 10 && bytes.size() % 16 == 0) {
+        checkLongStream(bytes);
+        checkUnreadable();
+    }
 }
 
 const Target target("console", check);

@@ -120,6 +120,10 @@ void checkButton(InputReader& reader) {
     const int height = 12 + reader.byte() % 188;
     const Size size{height + reader.byte(), height};  // no button is less wide than high
     const Color color{reader.byte(), reader.byte(), reader.byte()};
+    const std::uint32_t reference = colorReference(color);
+    require(Color{static_cast<std::uint8_t>(reference), static_cast<std::uint8_t>(reference >> 8),
+                  static_cast<std::uint8_t>(reference >> 16)} == color,
+            "the system takes a color for another");
     for (const bool pressed : {false, true}) {
         const ButtonFace face = buttonFace(size, color, pressed);
         require(contrast(color, face.textColor) >= 4.5, "the text cannot be read on the button");
@@ -131,6 +135,7 @@ void checkButton(InputReader& reader) {
     const Coverage coverage = coverageOf(shapeOf(symbol), 1 + reader.byte());
     require(coverage.alpha.size() == static_cast<std::size_t>(coverage.size.width * coverage.size.height),
             "a picture lacks pixels");
+    require(repeatDelay(reader.byte() % 4) >= 250 && repeatInterval(reader.byte() % 32) >= 30, "a button races");
     ButtonPress press(reader.byte() % 2 == 0);
     for (int steps = reader.byte() % 16; steps > 0; --steps) {
         const std::uint8_t step = reader.byte();

@@ -2,7 +2,7 @@
 // nothing; a saved result that differs is told in one line.
 #include "console/line_answerer.h"
 #include "console/visible_text.h"
-#include "engine/evaluator.h"
+#include "engine/characters.h"
 #include "numeric/random.h"
 #include "target.h"
 #include "values/errors.h"
@@ -59,6 +59,7 @@ void check(FuzzInput input) {
     const std::uint8_t choice = reader.byte();
     if (choice % 4 == 1) {
         options.word = static_cast<NumericFormat>(reader.number(4));
+        setField(*options.word, field::groupSize, shortestGroup + reader.byte() % (longestGroup - shortestGroup + 1));
     }
     options.position = (choice & 4) != 0;
     options.seed = seed;

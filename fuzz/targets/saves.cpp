@@ -86,7 +86,9 @@ private:
             }
             require(mayFail_ || known_.hold(revision_), "a text that was saved is not known");
         } catch (const FileFault&) {
-            require(contents() == before, "a save that failed has changed a file");
+            // A replacement that takes the old file away and fails may leave the new text alone, under another name.
+            require(disk_.failsHalfWay || std::ranges::includes(contents(), before),
+                    "a save that failed has changed a file");
         }
         std::set<std::string> present;
         for (const auto& [file, content] : disk_.files) {
