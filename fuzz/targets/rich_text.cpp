@@ -8,7 +8,9 @@
 #include "target.h"
 #include "workarea/file_fault.h"
 #include "workarea/rich_text_filter.h"
+#include "workarea/rich_text_plain.h"
 #include "workarea/text_cost.h"
+#include "workarea/utf8.h"
 
 namespace calquo {
 namespace {
@@ -25,6 +27,25 @@ std::string cleaned(const std::string& richText, LastLineEnd lastLineEnd) {
     }
 }
 
+/// The plain text of a rich text is what the strict reader sees, with other characters in place of bytes alone.
+void checkPlainText(const std::string& richText, std::u16string_view shown) {
+    const std::string plain = plainTextOf(richText, mostInWine);
+    std::u16string units;
+    for (std::string_view rest = plain; !rest.empty();) {
+        const auto character = firstUtf8Character(rest);
+        require(character.has_value(), "a plain text that is no UTF-8");
+        appendUtf16(units, character->code);
+        rest.remove_prefix(character->length);
+    }
+    if (units.ends_with(u'\n')) {
+        units.pop_back();
+    }
+    require(std::ranges::equal(
+                units, shown,
+                [](char16_t one, char16_t other) { return one == other || (other >= 0x80 && other <= 0xFF); }),
+            "the plain text is another");
+}
+
 void checkPassing(const std::string& richText) {
     const std::string kept = cleaned(richText, LastLineEnd::Kept);
     if (kept.empty()) {
@@ -37,6 +58,7 @@ void checkPassing(const std::string& richText) {
         shown.pop_back();
     }
     require(shorter == shown, "without its last line end it is another text");
+    checkPlainText(richText, shown);
 }
 
 /// Text between things that are no text arrives as it is.
