@@ -38,7 +38,7 @@ void OutputStream::flush() {
     std::size_t written = 0;
     while (written < pending_.size()) {
         const std::size_t count = std::min(pending_.size() - written, pieceSize);
-        const auto result = ::write(file_, pending_.data() + written, static_cast<unsigned>(count));
+        const std::ptrdiff_t result = writeSome(file_, pending_.data() + written, count);
         if (result >= 0) {
             written += static_cast<std::size_t>(result);
         } else if (!waitUntilReady(file_, Direction::Write)) {

@@ -1,8 +1,6 @@
 // Finding line ends in what has been read, and reading more.
 #include "console/line_reader.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstring>
 
@@ -17,6 +15,9 @@ constexpr std::size_t pieceSize = 65536;
 
 /// A file without line ends, such as a device, must not take all memory.
 constexpr std::size_t mostBytes = std::size_t{64} << 20;
+
+/// In bytes of what is typed: the least that one reading needs room for.
+constexpr std::size_t longestCharacter = 4;
 
 /// The index of a byte from `begin` on; `end` when there is none.
 std::size_t indexOf(char byte, const std::vector<char>& bytes, std::size_t begin, std::size_t end) {
@@ -81,7 +82,7 @@ void LineReader::makeRoom() {
         return_ -= start_;
         start_ = 0;
     }
-    if (end_ == buffer_.size()) {
+    if (buffer_.size() - end_ < longestCharacter) {
         if (buffer_.size() >= mostBytes) {
             throw StreamFault{
                 (formIsKnown_ ? "a line of " + file_.name() + " is longer" : file_.name() + " is larger") +
@@ -95,7 +96,7 @@ void LineReader::readBytes() {
     makeRoom();
     const std::size_t room = std::min(buffer_.size() - end_, pieceSize);
     for (;;) {
-        const auto result = ::read(file_.descriptor(), buffer_.data() + end_, static_cast<unsigned>(room));
+        const std::ptrdiff_t result = readSome(file_.descriptor(), buffer_.data() + end_, room);
         if (result >= 0) {
             const std::size_t newEnd = end_ + static_cast<std::size_t>(result);
             lineFeed_ = lineFeed_ == end_ ? indexOf('\n', buffer_, end_, newEnd) : lineFeed_;

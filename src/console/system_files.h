@@ -1,6 +1,7 @@
 // What the console program asks of the system about files: each system answers in a file of its own.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -9,6 +10,13 @@ namespace calquo {
 /// Opens a file for reading; -1, with errno set, when that fails.
 /// @param path in UTF-8 on Windows, as the system has it elsewhere
 int openForReading(const std::string& path);
+
+/// Reads up to `room` bytes, which come at once as far as they are there; 0 at the end, -1 with errno set. What is
+/// typed comes in UTF-8 on Windows.
+std::ptrdiff_t readSome(int file, char* bytes, std::size_t room);
+
+/// Writes bytes and tells how many they were; -1 with errno set. A terminal of Windows shows them as UTF-8.
+std::ptrdiff_t writeSome(int file, const char* bytes, std::size_t count);
 
 /// Whether a file, not a folder, has this name.
 bool isFile(const std::string& path);

@@ -12,6 +12,10 @@ namespace calquo {
 
 int openForReading(const std::string& path) { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }
 
+std::ptrdiff_t readSome(int file, char* bytes, std::size_t room) { return ::read(file, bytes, room); }
+
+std::ptrdiff_t writeSome(int file, const char* bytes, std::size_t count) { return ::write(file, bytes, count); }
+
 bool isFile(const std::string& path) {
     struct stat state {};
     return ::stat(path.c_str(), &state) == 0 && !S_ISDIR(state.st_mode);
