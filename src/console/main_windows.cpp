@@ -16,6 +16,7 @@ int wmain(int count, wchar_t** arguments) {
         texts.push_back(calquo::utf8Text(arguments[index]));
     }
     std::vector<const char*> pointers;
+    pointers.reserve(texts.size());
     for (const std::string& text : texts) {
         pointers.push_back(text.c_str());
     }

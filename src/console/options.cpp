@@ -126,19 +126,6 @@ const OptionRow& findOption(std::string_view name) {
     return *found;
 }
 
-}  // namespace
-
-NumericFormat Options::format() const {
-    NumericFormat chosen = word ? *word : defaultFormats[static_cast<std::size_t>(kind)];
-    if (digits) {
-        setField(chosen, field::significantDigits, *digits);
-        setField(chosen, field::digits, largestIn(field::digits));
-    }
-    return chosen;
-}
-
-namespace {
-
 /// Reads the option that stands at `index` of the arguments, and goes on to its last word.
 void takeOption(std::span<const char* const> arguments, std::size_t& index, Options& options) {
     const std::string_view word = arguments[index];
@@ -187,22 +174,29 @@ void refuseContradictions(const Options& options) {
 
 }  // namespace
 
+NumericFormat Options::format() const {
+    NumericFormat chosen = word ? *word : defaultFormats[static_cast<std::size_t>(kind)];
+    if (digits) {
+        setField(chosen, field::significantDigits, *digits);
+        setField(chosen, field::digits, largestIn(field::digits));
+    }
+    return chosen;
+}
+
 Options parseOptions(std::span<const char* const> arguments) {
     Options options;
     bool optionsEnded = false;
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::string_view word = arguments[index];
         const auto* const shortOption = std::ranges::find(optionTable, word, &OptionRow::shortName);
-        if (optionsEnded || word.empty()) {
+        if (optionsEnded || word.empty() || (shortOption == std::end(optionTable) && !word.starts_with("--"))) {
             options.operands.push_back(word);
         } else if (shortOption != std::end(optionTable)) {
             shortOption->apply(options, {});
         } else if (word == "--") {
             optionsEnded = true;
-        } else if (word.starts_with("--")) {
-            takeOption(arguments, index, options);
         } else {
-            options.operands.push_back(word);
+            takeOption(arguments, index, options);
         }
     }
     refuseContradictions(options);
