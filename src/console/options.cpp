@@ -167,7 +167,8 @@ void refuseContradictions(const Options& options) {
     if (options.digits && kind.letters.find('S') == std::string_view::npos) {
         throw OptionFault{"the format " + std::string(kind.optionName) + " has no significant digits for --digits"};
     }
-    if (options.file && options.operands.empty()) {
+    const bool asksForText = options.help || options.version || options.names;
+    if (options.file && options.operands.empty() && !asksForText) {
         throw OptionFault{"--file needs a FILE, or - for standard input"};
     }
 }
