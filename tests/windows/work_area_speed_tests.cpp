@@ -8,7 +8,9 @@
 
 #include "file_folder.h"
 #include "work_area_fixture.h"
+#include "workarea/language_text.h"
 #include "workarea/recovery.h"
+#include "workarea/reevaluation.h"
 
 namespace calquo {
 namespace {
@@ -107,6 +109,38 @@ TEST(WorkAreaSpeed, EnterDoesNotSlowDownWithTheLength) {
     // costs. An Enter may search twice more, for its line and its result.
     const double searching = median(fixtures[2].typing) - median(fixtures[0].typing);
     EXPECT_LT(median(fixtures[2].enter), 2 * (few + searching) + searching);
+}
+
+TEST(WorkAreaSpeed, EvaluatingAllLinesIsTheControlsTime) {
+    constexpr std::size_t lines = 10'000, lineLength = 11, resultBegin = 8;
+    LongText sheet(lines);
+    const auto spoil = [&](std::size_t first, std::size_t count) {
+        for (std::size_t line = first; line < first + count; ++line) {
+            const std::size_t begin = line * lineLength + resultBegin;
+            sheet.fixture.select(begin, begin + 2);
+            SendMessageW(sheet.fixture.control(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"99"));
+        }
+    };
+    WorkArea& workArea = sheet.fixture.workArea();
+    std::size_t differing = 0;
+    const auto evaluateAll = [&] { differing = workArea.evaluateAll().edits.size(); };
+    const std::string text = languageText(workArea.characters());
+    const double ours = sheet.timeOf([&] { EXPECT_EQ(reevaluate(text, defaultFormats[0]).evaluated, lines); });
+    const double without = sheet.timeOf(evaluateAll);
+    EXPECT_EQ(differing, 0U);
+    spoil(lines / 2, 1);
+    const double one = sheet.timeOf(evaluateAll);
+    EXPECT_EQ(differing, 1U);
+    spoil(lines / 2, 40);
+    const double screenful = sheet.timeOf(evaluateAll);
+    EXPECT_EQ(differing, 40U);
+    EXPECT_EQ(languageText(workArea.characters()), text);
+    std::printf(
+        "All of 10,000 lines take %.0f ms, the evaluation %.0f of them; with one new result %.0f ms, with 40 in "
+        "a row %.0f ms.\n",
+        without, ours, one, screenful);
+    EXPECT_LT(ours, without);
+    EXPECT_LT(screenful, 2000);
 }
 
 }  // namespace
