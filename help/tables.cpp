@@ -9,6 +9,9 @@
 #include "engine/function_table.h"
 #include "format/attributes.h"
 #include "format/value_writer.h"
+#include "hints/correction.h"
+#include "hints/hints.h"
+#include "hints/rules.h"
 #include "html.h"
 #include "keys.h"
 #include "panels/button_action.h"
@@ -236,6 +239,7 @@ std::string Tables::html(const TableRequest& request) {
         {"functions", &Tables::functions}, {"units", &Tables::units},     {"prefixes", &Tables::prefixTable},
         {"constants", &Tables::constants}, {"names", &Tables::names},     {"keys", &Tables::keys},
         {"formats", &Tables::formats},     {"samples", &Tables::samples}, {"panels", &Tables::panels},
+        {"hints", &Tables::hints},
     };
     for (const Row& row : rows) {
         if (row.kind == request.kind) {
@@ -433,6 +437,32 @@ std::string Tables::samples(const TableRequest& request) {
         rows += element("tr", cells) + "\n";
     }
     return tableOf("formats", rows);
+}
+
+std::string Tables::hints(const TableRequest& request) {
+    const bool ofRefused = request.argument == "refused";
+    if (!ofRefused && request.argument != "accepted") {
+        throw std::invalid_argument("hints are of \"accepted\" or \"refused\" lines");
+    }
+    std::string rows =
+        element("tr", element("th", "When") + element("th", "For instance") + element("th", "The hint")) + "\n";
+    const auto addRow = [&](const auto& row) {
+        const std::string_view expression = expressionOf(row.example);
+        Answer answer;
+        if (!expression.empty()) {
+            evaluateInto(answer, expression, defaultFormats[0]);
+        }
+        const std::string hint = hintFor(row.example, expression.empty() ? nullptr : &answer, {defaultFormats[0]});
+        rows += element("tr", element("td", escaped(row.when)) + element("td", escaped(row.example)) +
+                                  element("td", escaped(hint))) +
+                "\n";
+    };
+    if (ofRefused) {
+        std::ranges::for_each(corrections(), addRow);
+    } else {
+        std::ranges::for_each(hintRules(), addRow);
+    }
+    return tableOf("hints", rows);
 }
 
 std::string Tables::panels(const TableRequest& request) {

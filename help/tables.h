@@ -8,6 +8,7 @@
 // keys                  the keys of the window; rows "KEYS: TEXT" add others
 // formats               the attributes of the output formats and what they are at first
 // samples               rows "EXPRESSION": their results in every output format
+// hints KIND            what is said about lines that are "accepted", or "refused", with an example for each occasion
 // panels GROUP          the panels of a submenu ("Keypads"), their buttons and what these insert
 #pragma once
 
@@ -46,6 +47,7 @@ private:
     std::string formats(const TableRequest& request);
     std::string samples(const TableRequest& request);
     std::string panels(const TableRequest& request);
+    std::string hints(const TableRequest& request);
 
     /// Where a name is explained, and how.
     struct Entry {

@@ -16,6 +16,10 @@ struct HintSettings {
     std::string_view angleUnit = {};  ///< The name of the unit that buttons add to angles; empty when they add none.
 };
 
+/// What is said when the program is started for the first time.
+inline constexpr std::string_view firstStartHint =
+    "Type 2+3 and press Enter. The second button of the title bar opens panels of functions and units, F1 the help.";
+
 /// The hint about a line, in UTF-8 and without a line end; empty where there is nothing to say. Nothing is changed: the
 /// line may be evaluated again in other words, but the random numbers and the place of the last error stay what they
 /// were.

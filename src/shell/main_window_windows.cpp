@@ -123,6 +123,8 @@ void MainWindow::onCreate() {
     }
     if (recovery_->hasUnsavedCopy()) {
         dialogs_.showHint(unsavedCopyHint);
+    } else if (!settings_.windowRect()) {
+        tell(wideText(firstStartHint));
     }
     seedRandomFromClock();
     created_ = true;
