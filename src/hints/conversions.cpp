@@ -62,7 +62,8 @@ bool findsLongTarget(const Situation& situation, Findings& findings) {
 
 bool findsConvertedPart(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
-    if (!hasArrow(words) || std::ranges::any_of(words, isScale)) {
+    const auto isSum = [](const Word& word) { return word.is("+") || word.is("-"); };
+    if (!hasArrow(words) || std::ranges::none_of(words, isSum) || std::ranges::any_of(words, isScale)) {
         return false;
     }
     Draft draft(words);
@@ -119,6 +120,10 @@ bool findsDivisorSideBySide(const Situation& situation, Findings& findings) {
 
 bool findsDegreeOfScale(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
+    const auto isDegree = [](const Word& word) { return isNamed(word, "deg") || isNamed(word, "degree"); };
+    if (std::ranges::none_of(words, isDegree)) {
+        return false;
+    }
     Draft draft(words);
     bool found = false;
     for (std::size_t i = words.size(); i-- > 1;) {

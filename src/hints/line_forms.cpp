@@ -110,6 +110,9 @@ bool findsDate(const Situation& situation, Findings& findings) {
 }
 
 bool findsApostropheGroups(const Situation& situation, Findings& findings) {
+    if (situation.expression.find('\'') == std::string_view::npos) {
+        return false;
+    }
     Draft draft(situation.words);
     bool found = false;
     for (DraftWord& word : draft.words) {

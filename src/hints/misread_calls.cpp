@@ -90,6 +90,9 @@ bool findsComplexArgument(const Situation& situation, Findings& findings) {
 }
 
 bool findsQuotientAsRemainder(const Situation& situation, Findings& findings) {
+    if (std::ranges::none_of(situation.words, [](const Word& word) { return isNamed(word, "mod"); })) {
+        return false;
+    }
     Draft draft(situation.words);
     bool found = false;
     for (std::size_t i = 0; i < draft.words.size(); ++i) {

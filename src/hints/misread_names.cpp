@@ -82,6 +82,12 @@ void replaceUnit(Draft& draft, std::size_t index, std::string_view write) {
 std::span<const OddUnit> oddUnits() { return odd; }
 
 bool findsOddUnit(const Situation& situation, Findings& findings) {
+    const auto isOdd = [](const Word& word) {
+        return std::ranges::any_of(odd, [&](const OddUnit& unit) { return isNamed(word, unit.name); });
+    };
+    if (std::ranges::none_of(situation.words, isOdd)) {
+        return false;
+    }
     Draft draft(situation.words);
     bool found = false;
     for (std::size_t i = 0; i < draft.words.size(); ++i) {
@@ -100,7 +106,8 @@ bool findsOddUnit(const Situation& situation, Findings& findings) {
 
 bool findsJouleAsImaginary(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
-    if (has(words, "->") || !(has(words, "+") || has(words, "-"))) {
+    const auto isJoule = [](const Word& word) { return isNamed(word, "j"); };
+    if (std::ranges::none_of(words, isJoule) || has(words, "->") || !(has(words, "+") || has(words, "-"))) {
         return false;
     }
     Draft draft(words);
@@ -117,7 +124,8 @@ bool findsJouleAsImaginary(const Situation& situation, Findings& findings) {
 
 bool findsUnitAsPrefix(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
-    if (has(words, "->")) {
+    const auto isLetter = [](const Word& word) { return word.isName() && rowOf(gluedPrefixes, word.text) != nullptr; };
+    if (std::ranges::none_of(words, isLetter) || has(words, "->")) {
         return false;
     }
     Draft draft(words);
@@ -139,6 +147,10 @@ bool findsUnitAsPrefix(const Situation& situation, Findings& findings) {
 
 bool findsMisreadUnit(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
+    const auto isMisread = [](const Word& word) { return word.isName() && rowOf(afterNumbers, word.text) != nullptr; };
+    if (std::ranges::none_of(words, isMisread)) {
+        return false;
+    }
     Draft draft(words);
     bool found = false;
     for (std::size_t i = 0; i < words.size(); ++i) {

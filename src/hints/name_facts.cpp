@@ -1,17 +1,23 @@
 // Look-ups in the tables; see name_facts.h.
 #include "hints/name_facts.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace calquo {
 
 const Unit* unitOf(std::string_view name) {
-    const auto isCalled = [&](const Unit& unit) {
-        return sameLetters(unit.name, name) ||
-               std::ranges::any_of(unit.aliases, [&](const Alias& alias) { return sameLetters(alias.name, name); });
-    };
-    const auto* const unit = std::ranges::find_if(unitTable, isCalled);
-    return unit == unitTable.end() ? nullptr : unit;
+    // By the names' indices.
+    static const std::vector<const Unit*> units = [] {
+        std::vector<const Unit*> table(keywordCount() + 1, nullptr);
+        for (const Unit& unit : unitTable) {
+            table[lookup(unit.name)] = &unit;
+            for (const Alias& alias : unit.aliases) {
+                table[lookup(alias.name)] = &unit;
+            }
+        }
+        return table;
+    }();
+    return units[lookup(name)];
 }
 
 bool isFunctionName(const Word& word) {

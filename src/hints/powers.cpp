@@ -1,6 +1,8 @@
 // Powers and roots of negative numbers; see powers.h.
 #include "hints/powers.h"
 
+#include <algorithm>
+
 #include "hints/draft.h"
 #include "hints/name_facts.h"
 #include "hints/trial.h"
@@ -55,6 +57,9 @@ bool matches(const Words& words, std::initializer_list<std::string_view> pattern
 
 bool findsSignBeforePower(const Situation& situation, Findings& findings) {
     const Words& words = situation.words;
+    if (std::ranges::none_of(words, [](const Word& word) { return word.is("^") || word.is("**"); })) {
+        return false;
+    }
     for (std::size_t i = 0; i + 3 < words.size(); ++i) {
         const bool isUnary = words[i].is("-") && (i == 0 || !endsOperand(words[i - 1]));
         if (!isUnary) {
