@@ -126,18 +126,18 @@ void Commands::readDefaultFile(std::uint16_t) {
 
 void Commands::saveDefaultFile(std::uint16_t) {
     targets_.files.saveDefault();
-    targets_.recovery.keepSaved();
+    targets_.recovery.noteSaved();
 }
 
 void Commands::saveAgain(std::uint16_t) {
     targets_.files.saveAgain();
-    targets_.recovery.keepSaved();
+    targets_.recovery.noteSaved();
 }
 
 void Commands::chooseFile(std::uint16_t identifier) {
     targets_.recovery.aroundReplacement(
         [this, identifier] { targets_.files.actOnChosenFile(static_cast<Command>(identifier)); });
-    targets_.recovery.keepSaved();
+    targets_.recovery.noteSaved();
 }
 
 // --- Formats --------------------------------------------------------------------------------------------------------

@@ -163,7 +163,7 @@ void MainWindow::shutDown() {
     if (!savedBeforeEnd_) {
         saveBeforeEnd(true);  // nobody has asked before
     }
-    recovery_->keepSaved();
+    recovery_->keepAtEnd();
 }
 
 bool MainWindow::onClose() {

@@ -64,7 +64,8 @@ public:
     virtual std::unique_ptr<OpenedFile> open(const std::wstring& name) = 0;
     /// None when the name is taken.
     virtual std::unique_ptr<NewFile> create(const std::wstring& name) = 0;
-    /// Puts a file in the place of another one, whose rights, attributes, creation time and streams it takes over.
+    /// Puts a file in the place of another one, whose rights, attributes, creation time and streams it takes over, as
+    /// far as the disk looks after them.
     virtual void replace(const std::wstring& name, const std::wstring& replacement) = 0;
     /// Gives a file a name, which another file may have had.
     virtual void rename(const std::wstring& from, const std::wstring& to) = 0;
@@ -80,6 +81,12 @@ public:
 
 /// The system's own.
 Disk& systemDisk();
+/// The same for files that the program alone makes, and for whose rights and streams nobody cares. A replacement is a
+/// single step, so that an end of the program in its middle takes no file away.
+Disk& systemDiskForOwnFiles();
+
+/// Whether the system is Wine, whose calls for files and whose control have their own limits.
+bool isUnderWine();
 
 /// The name with its whole path, whatever folder is the current one later.
 std::wstring fullFileName(const std::wstring& name);

@@ -84,7 +84,7 @@ std::wstring temporaryName(std::uint32_t random, std::size_t room) {
         name += digits[random % digits.size()];
         random >>= bitsInDigit;
     }
-    name += L".tmp";
+    name += temporaryEnding;
     // Without room for the whole name, the random digits alone must keep it apart from others.
     return room < name.size() ? name.substr(1, std::min<std::size_t>(room, 6)) : name;
 }

@@ -24,6 +24,9 @@ std::string readFile(Disk& disk, const std::wstring& name);
 /// file stays under the name `kept` unless that is empty. Throws FileFault; the old file is then as it was.
 void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept = {});
 
+/// What the name of a temporary file ends with, where there is room for it.
+inline constexpr wchar_t temporaryEnding[] = L".tmp";
+
 /// A name for a temporary file, made of `random` and as long as `room` characters allow, of which there is one at
 /// least.
 std::wstring temporaryName(std::uint32_t random, std::size_t room);

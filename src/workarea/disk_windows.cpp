@@ -150,6 +150,8 @@ private:
 
 class SystemDisk : public Disk {
 public:
+    explicit SystemDisk(bool replacesInOneStep) : replacesInOneStep_(replacesInOneStep) {}
+
     std::wstring target(const std::wstring& given) override {
         const std::wstring name = fullFileName(given);
         const HANDLE file = handleTo(name, {0, shareAll, OPEN_EXISTING});
@@ -213,6 +215,10 @@ public:
 
     void replace(const std::wstring& name, const std::wstring& replacement) override {
         copyAttributes(name, replacement);
+        if (replacesInOneStep_) {
+            rename(replacement, name);
+            return;
+        }
         // Rights that cannot be taken over are no reason to do without the file.
         constexpr DWORD flags = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
         require(ReplaceFileW(name.c_str(), replacement.c_str(), nullptr, flags, nullptr, nullptr), name);
@@ -265,13 +271,26 @@ private:
         }
         return path.starts_with(local) ? path.substr(local.size()) : path;
     }
+
+    bool replacesInOneStep_;
 };
 
 }  // namespace
 
 Disk& systemDisk() {
-    static SystemDisk disk;
+    // Wine's ReplaceFileW takes over nothing that is not copied here, and first removes the file.
+    static SystemDisk disk(isUnderWine());
     return disk;
+}
+
+Disk& systemDiskForOwnFiles() {
+    static SystemDisk disk(true);
+    return disk;
+}
+
+bool isUnderWine() {
+    static const bool isWine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return isWine;
 }
 
 std::wstring fullFileName(const std::wstring& name) {

@@ -55,16 +55,19 @@ public:
     /// or of keepWaiting.
     void keep();
     void keepWaiting();
-    /// Keeps the text where it has changed, whatever the pace.
+    /// Keeps the text where it has changed, whatever the pace; not what a file of the user's holds.
     void keepNow();
-    /// Keeps the text after a save and at the end of the run, and notes where nobody has to be told of it.
-    void keepSaved();
+    /// Notes after a save that nobody has to be told of the copy.
+    void noteSaved();
+    /// Keeps the text at the end of the run, and notes where nobody has to be told of it.
+    void keepAtEnd();
 
 private:
     std::wstring path(const std::wstring& copy) const { return folder_ + L'\\' + copy; }
     std::vector<std::wstring> endedCopies() const;
     void removeOldCopies() const;
-    void noteSaved() const;
+    void write();
+    void renameAsSaved() const;
 
     WorkArea& workArea_;
     std::function<bool()> isSaved_;

@@ -6,6 +6,7 @@
 
 #include "values/program.h"
 #include "widgets/windows_api.h"
+#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 
 namespace calquo {
@@ -90,7 +91,7 @@ bool RunningCopyMark::isSet(const std::wstring& copy) {
 Recovery::Recovery(WorkArea& workArea, std::function<bool()> isSaved, std::wstring folder)
     : workArea_(workArea),
       isSaved_(std::move(isSaved)),
-      file_(workArea),
+      file_(workArea, systemDiskForOwnFiles()),
       folder_(std::move(folder)),
       copy_(nameFromNowOn()),
       running_(std::in_place, copy_) {}
@@ -131,7 +132,7 @@ bool Recovery::bringBack() {
 }
 
 void Recovery::aroundReplacement(const std::function<void()>& replace) {
-    keepNow();
+    keepAtEnd();
     const TextRevision before = workArea_.revision();
     const bool wasSaved = isSaved_();
     replace();
@@ -139,7 +140,7 @@ void Recovery::aroundReplacement(const std::function<void()>& replace) {
         return;
     }
     if (wasSaved || workArea_.isEmpty()) {
-        noteSaved();
+        renameAsSaved();
     }
     copy_ = nameFromNowOn();
     running_.emplace(copy_);
@@ -159,8 +160,30 @@ void Recovery::keepWaiting() {
 
 void Recovery::keepNow() {
     isWaiting_ = false;
-    // What was emptied on purpose is worth more as it was before, and what was only read is safe where it is.
-    if (folder_.empty() || file_.isInFile() || workArea_.isEmpty() || (!isWritten_ && isSaved_())) {
+    if (!isSaved_()) {
+        write();
+    }
+}
+
+void Recovery::noteSaved() {
+    if (isWritten_ && isSaved_()) {
+        renameAsSaved();
+    }
+}
+
+void Recovery::keepAtEnd() {
+    // What was only read is safe where it is; but a copy is the text of its run's end, and not an older one.
+    if (isWritten_ || !isSaved_()) {
+        write();
+    }
+    if (isWritten_ && (isSaved_() || workArea_.isEmpty())) {
+        renameAsSaved();
+    }
+}
+
+void Recovery::write() {
+    // What was emptied on purpose is worth more as it was before.
+    if (folder_.empty() || file_.isInFile() || workArea_.isEmpty()) {
         return;
     }
     const auto begin = WritingPace::Clock::now();
@@ -178,16 +201,15 @@ void Recovery::keepNow() {
     pace_.wrote(begin, WritingPace::Clock::now());
 }
 
-void Recovery::keepSaved() {
-    keepNow();
-    if (isWritten_ && (isSaved_() || workArea_.isEmpty())) {
-        noteSaved();
-    }
-}
-
-void Recovery::noteSaved() const { MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str()); }
+void Recovery::renameAsSaved() const { MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str()); }
 
 void Recovery::removeOldCopies() const {
+    // Of a run that was killed. One that is being written cannot be deleted.
+    for (const std::wstring& file : fileNamesIn(folder_)) {
+        if (file.ends_with(temporaryEnding)) {
+            DeleteFileW(path(file).c_str());
+        }
+    }
     const std::vector<std::wstring> copies = endedCopies();
     // This run's own will be one of those that stay.
     for (std::size_t index = mostCopies - 1; index < copies.size(); ++index) {

@@ -52,8 +52,7 @@ void refuseWhatCannotBeRead(FileKind kind, std::string_view bytes) {
 }  // namespace
 
 std::uint64_t mostTextCost() {
-    static const bool isWine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return isWine ? mostInWine : std::numeric_limits<std::uint64_t>::max();
+    return isUnderWine() ? mostInWine : std::numeric_limits<std::uint64_t>::max();
 }
 
 void WorkAreaFile::read(const std::wstring& name) {

@@ -98,7 +98,10 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
-        sendCommand(parent(), {row->command});
+        // A key that is held a little too long is meant once.
+        if (!event.repeated) {
+            sendCommand(parent(), {row->command});
+        }
         return true;
     }
     return TextArea::onKey(event);

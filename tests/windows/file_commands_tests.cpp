@@ -147,6 +147,8 @@ TEST(FileCommands, KeysSaveToTheLastFileAndReadAnother) {
     };
     program.setText(L"2+3");
     press('S', VK_MENU);  // types a character on some keyboards
+    constexpr LPARAM repeated = 1 << 30;
+    program.press(program.workArea(), WM_KEYDOWN, 'S', repeated, VK_CONTROL);
     EXPECT_TRUE(user.requests.empty());
     user.choice.name = folder.path(L"a.txt");
     press('S');

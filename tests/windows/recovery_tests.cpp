@@ -54,6 +54,7 @@ TEST(Recovery, WhatRunsHaveLeftComesBackOneAfterTheOther) {
         run.program.close();
     }
     EXPECT_EQ(copiesIn(folder).size(), mostCopies);
+    folder.put(L"Kept\\Sheets\\~abcdef.tmp", "of a killed run");
     Execution run(folder);
     EXPECT_EQ(run.hints, std::vector<std::wstring>{unsavedCopyHint});
     EXPECT_EQ(run.program.text(), L"");
