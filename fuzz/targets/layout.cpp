@@ -70,18 +70,21 @@ void checkWindow(InputReader& reader) {
 
 void checkPlace(InputReader& reader) {
     const Rectangle wanted = rectangleFrom(reader);
-    const Size smallest = sizeFrom(reader);
+    const Size size = sizeFrom(reader);
+    // No larger than a screen, and large enough to show the caption that must be in view.
+    const WindowReach reach{
+        {-3, -3, 6, 6}, 20, {60, 10}, {std::clamp(size.width, 66, 640), std::clamp(size.height, 26, 480)}};
     std::vector<Rectangle> areas;
     for (int count = reader.byte() % 4; count > 0; --count) {
         areas.push_back(rectangleFrom(reader));
         areas.back().width += 640;
         areas.back().height += 480;
     }
-    const Rectangle shown = reachableRectangle(wanted, smallest, areas);
+    const Rectangle shown = reachableRectangle(wanted, reach, areas);
     require(areas.empty() || std::ranges::any_of(areas, [&](const Rectangle& area) { return overlap(shown, area); }) ||
                 shown.width == 0 || shown.height == 0,
             "no screen shows the window");
-    require(reachableRectangle(shown, {}, areas) == shown, "a window that is shown is moved");
+    require(reachableRectangle(shown, reach, areas) == shown, "a window that is shown is moved");
     for (const Rectangle& area : areas) {
         const Rectangle frame{-3, -3, 6, 6};
         const Rectangle maximized = maximizedRectangle(area, frame);

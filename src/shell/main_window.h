@@ -30,6 +30,10 @@ struct StartFiles {
 
 class MainWindow : public Window {
 public:
+    /// Registers the window's class, as the constructor does where nobody has before. Raises InternalFault when the
+    /// system refuses.
+    static void registerWindowClass();
+
     /// Creates the window where `settings` say it was, with the panels that were open. What the user changes is set
     /// there; `settings` must outlive the window. The user is asked by `dialogs`. Raises InternalFault when the system
     /// refuses.
@@ -48,6 +52,7 @@ protected:
     bool maySessionEnd(bool critical) override;
     void onSessionEnd(bool ends) override;
 
+    bool onPlacing(Rectangle& rectangle) override;
     bool onMoved() override;
     std::optional<SizeLimits> sizeLimits() const override;
     HitArea onHitTest(HitArea byClass) const override;
@@ -99,7 +104,8 @@ private:
     WindowHandle lastFocus_ = nullptr;
     bool created_ = false;
     bool savedBeforeEnd_ = false;  ///< Or left unsaved, as the user wants it.
-    bool enlarging_ = false;
+    WindowGrowth growth_;
+    bool isSizing_ = false;
 };
 
 }  // namespace calquo

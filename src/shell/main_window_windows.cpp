@@ -27,6 +27,9 @@ constexpr WindowStyle windowStyle{
 /// What a usable work area measures at least, in buttons.
 constexpr Size smallestWorkAreaInButtons{10, 5};
 
+/// How much of the caption a person needs to drag the window: three buttons, half as high.
+Size draggedPiece() { return {3 * buttonSize(), buttonSize() / 2}; }
+
 /// The colour behind the button panels.
 constexpr Color panelBackground{236, 239, 243};
 
@@ -53,13 +56,7 @@ Rectangle maximizedRectangleOf(HWND window) {
 
 }  // namespace
 
-MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files)
-    : settings_(settings),
-      dialogs_(keepingDialogs(std::move(dialogs))),
-      startFiles_(std::move(files)),
-      panels_([this](const PanelEntry& panel, const PanelButton& button) {
-          pressButton(*workArea_, panel, button, settings_.angleOption());
-      }) {
+void MainWindow::registerWindowClass() {
     const HINSTANCE program = GetModuleHandleW(nullptr);
     WNDCLASSEXW description{};
     description.hIcon = LoadIconW(program, MAKEINTRESOURCEW(programIcon));
@@ -70,6 +67,16 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files
     description.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_SCROLLBAR + 1);
     description.lpszClassName = wideProgramTitle;
     registerClass(description);
+}
+
+MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files)
+    : settings_(settings),
+      dialogs_(keepingDialogs(std::move(dialogs))),
+      startFiles_(std::move(files)),
+      panels_([this](const PanelEntry& panel, const PanelButton& button) {
+          pressButton(*workArea_, panel, button, settings_.angleOption());
+      }) {
+    registerWindowClass();
 
     constexpr int systemsChoice = CW_USEDEFAULT;
     Rectangle rectangle{systemsChoice, systemsChoice, systemsChoice, systemsChoice};
@@ -299,12 +306,26 @@ std::optional<SizeLimits> MainWindow::sizeLimits() const {
 
 void MainWindow::moveWhereItCanBeReached() {
     const Rectangle rectangle = windowRectangle(handle());
+    WindowReach reach;
+    reach.frame = windowAround({}, windowStyle);
+    reach.captionHeight = caption_->left().preferredSize().height;
+    reach.captionPiece = draggedPiece();
+    reach.smallest = smallestWindow();
     // A stored rectangle counts as it is: the layout enlarges it where it must. The system's choice may have no size.
-    const Size least = settings_.windowRect() ? Size{} : smallestWindow();
-    const Rectangle reachable = reachableRectangle(rectangle, least, usableAreasAround(handle()));
+    reach.mayBeSmall = settings_.windowRect().has_value();
+    const Rectangle reachable = reachableRectangle(rectangle, reach, usableAreasAround(handle()));
     if (reachable != rectangle) {
         MoveWindow(handle(), reachable.left, reachable.top, reachable.width, reachable.height, FALSE);
     }
+}
+
+bool MainWindow::onPlacing(Rectangle& rectangle) {
+    // The system works out the place on other screens from that on the main one.
+    const bool isMaximized = IsZoomed(handle()) != 0 && IsIconic(handle()) == 0;
+    if (isMaximized) {
+        rectangle = maximizedRectangle(screenAt(rectangle).usableArea, windowAround({}, windowStyle));
+    }
+    return isMaximized;
 }
 
 bool MainWindow::onMoved() {
@@ -326,14 +347,17 @@ bool MainWindow::onMoved() {
 }
 
 void MainWindow::layOut() {
-    const Rectangle window = windowRectangle(handle());
-    const Size least = smallestWindow();
-    const bool sizable = IsZoomed(handle()) == 0 && IsIconic(handle()) == 0;
-    if (sizable && !enlarging_ && (window.width < least.width || window.height < least.height)) {
-        enlarging_ = true;
-        SetWindowPos(handle(), nullptr, 0, 0, std::max(window.width, least.width),
-                     std::max(window.height, least.height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-        enlarging_ = false;
+    const bool isSizable = IsZoomed(handle()) == 0 && IsIconic(handle()) == 0;
+    if (isSizable && !isSizing_) {
+        const Rectangle window = windowRectangle(handle());
+        const Size present{window.width, window.height};
+        const Size wanted = growth_.sizeFor(present, smallestWindow());
+        if (wanted != present) {
+            isSizing_ = true;
+            SetWindowPos(handle(), nullptr, 0, 0, wanted.width, wanted.height,
+                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+            isSizing_ = false;
+        }
     }
     const WindowLayout positions = layout();
     caption_->left().moveTo(positions.leftCaption);

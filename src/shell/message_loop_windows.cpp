@@ -27,6 +27,11 @@ int runMessageLoop(const std::function<void()>& report) {
             report();
         }
     }
+    try {
+        rethrowKeptException();  // of the window's end
+    } catch (...) {
+        report();
+    }
     return static_cast<int>(message.wParam);
 }
 

@@ -21,12 +21,21 @@ Size columnSize(const WindowParts& parts) {
     return column;
 }
 
-bool overlaps(const Rectangle& one, const Rectangle& other) {
-    const auto meet = [](std::int64_t first, std::int64_t length, std::int64_t second, std::int64_t otherLength) {
-        return first < second + otherLength && second < first + length;
-    };
-    return meet(one.left, one.width, other.left, other.width) && meet(one.top, one.height, other.top, other.height);
+/// How much of a stretch lies within another one; negative for stretches that do not meet.
+std::int64_t commonLength(std::int64_t first, std::int64_t length, std::int64_t second, std::int64_t otherLength) {
+    return std::min(first + length, second + otherLength) - std::max(first, second);
 }
+
+/// Whether an area shows enough of the caption strip of a window.
+bool showsCaption(const Rectangle& area, const Rectangle& window, const WindowReach& reach) {
+    const std::int64_t left = std::int64_t{window.left} - reach.frame.left;
+    const std::int64_t width = std::int64_t{window.width} - reach.frame.width;
+    const std::int64_t top = std::int64_t{window.top} - reach.frame.top;
+    return commonLength(left, width, area.left, area.width) >= reach.captionPiece.width &&
+           commonLength(top, reach.captionHeight, area.top, area.height) >= reach.captionPiece.height;
+}
+
+Size largerOf(Size one, Size other) { return {std::max(one.width, other.width), std::max(one.height, other.height)}; }
 
 }  // namespace
 
@@ -57,19 +66,39 @@ WindowLayout layOutWindow(Size client, const WindowParts& parts) {
     return layout;
 }
 
-Rectangle reachableRectangle(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& usableAreas) {
-    const bool usable = wanted.width >= smallest.width && wanted.height >= smallest.height;
-    const bool shown = std::ranges::any_of(usableAreas, [&](const Rectangle& area) { return overlaps(wanted, area); });
-    if ((usable && shown) || usableAreas.empty()) {
+Rectangle reachableRectangle(const Rectangle& wanted, const WindowReach& reach,
+                             const std::vector<Rectangle>& usableAreas) {
+    const bool isLarge = wanted.width >= reach.smallest.width && wanted.height >= reach.smallest.height;
+    const bool isShown =
+        std::ranges::any_of(usableAreas, [&](const Rectangle& area) { return showsCaption(area, wanted, reach); });
+    if (usableAreas.empty() || (isShown && (isLarge || reach.mayBeSmall))) {
         return wanted;
     }
     const Rectangle& area = usableAreas.front();
-    return {area.left + area.width / 4, area.top + area.height / 4, area.width / 2, area.height / 2};
+    if (!isLarge) {
+        return {area.left + area.width / 4, area.top + area.height / 4, area.width / 2, area.height / 2};
+    }
+    const Size size{std::min(wanted.width, area.width), std::min(wanted.height, area.height)};
+    return {std::clamp(wanted.left, area.left, area.left + area.width - size.width),
+            std::clamp(wanted.top, area.top, area.top + area.height - size.height), size.width, size.height};
 }
 
 Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame) {
-    return {usableArea.left + frame.left + 1, usableArea.top + frame.top + 1, usableArea.width + frame.width - 2,
-            usableArea.height + frame.height - 2};
+    return {usableArea.left + frame.left, usableArea.top + frame.top, usableArea.width + frame.width,
+            usableArea.height + frame.height};
+}
+
+Size WindowGrowth::sizeFor(Size present, Size least) {
+    if (before_ && present != told_) {
+        before_.reset();
+    }
+    told_ = largerOf(before_.value_or(present), least);
+    if (told_ == before_) {
+        before_.reset();
+    } else if (!before_ && told_ != present) {
+        before_ = present;
+    }
+    return told_;
 }
 
 }  // namespace calquo

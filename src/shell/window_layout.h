@@ -1,6 +1,7 @@
 // Where the main window and its parts stand, worked out from sizes alone.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "widgets/geometry.h"
@@ -32,12 +33,35 @@ Size smallestClient(const WindowParts& parts);
 /// never a negative one.
 WindowLayout layOutWindow(Size client, const WindowParts& parts);
 
-/// The rectangle of a window that is to be shown: `wanted` as it is when any of the screens' usable areas shows a part
-/// of it and it is at least `smallest`; else half of the nearest area, the first of the list, in its middle.
-Rectangle reachableRectangle(const Rectangle& wanted, Size smallest, const std::vector<Rectangle>& usableAreas);
+/// What decides whether a person can reach a window, in pixels.
+struct WindowReach {
+    Rectangle frame;          ///< The window around an empty client area at the origin.
+    int captionHeight = 0;    ///< Of the caption strip, inside the frame.
+    Size captionPiece;        ///< So much of the strip must be in view.
+    Size smallest;            ///< Less is too small to work in.
+    bool mayBeSmall = false;  ///< Whether a smaller window may stay as it is where it is reached.
+};
 
-/// The maximized window: a screen's usable area with all but one pixel of the sizing frame around it. `frame` is the
+/// The rectangle of a window that is to be shown: `wanted` as it is when any of the screens' usable areas shows enough
+/// of its caption; else moved into the nearest area, the first of the list, and made no larger than that. A window that
+/// is too small to work in gets half of that area, in its middle.
+Rectangle reachableRectangle(const Rectangle& wanted, const WindowReach& reach,
+                             const std::vector<Rectangle>& usableAreas);
+
+/// The maximized window, whose client area is a screen's usable area: all of the frame hangs over. `frame` is the
 /// window around an empty client area at the origin.
 Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame);
+
+/// Lets a window grow with what it shows, and shrink with it again.
+class WindowGrowth {
+public:
+    /// The size for a window that has the size `present` and needs `least`: that which it had before it grew, or as
+    /// much more as it needs. A window that has another size than the last one told here was sized by a person.
+    Size sizeFor(Size present, Size least);
+
+private:
+    std::optional<Size> before_;
+    Size told_;
+};
 
 }  // namespace calquo

@@ -19,6 +19,9 @@ struct Screen {
 /// The screen that shows most of a window, or the nearest one.
 Screen screenOf(WindowHandle window);
 
+/// The screen that shows most of a rectangle, or the nearest one.
+Screen screenAt(const Rectangle& rectangle);
+
 /// The usable areas of all screens, that of the window's own screen first (and once more in its turn).
 std::vector<Rectangle> usableAreasAround(WindowHandle window);
 

@@ -22,6 +22,11 @@ BOOL CALLBACK noteUsableArea(HMONITOR monitor, HDC, LPRECT, LPARAM areas) {
 
 Screen screenOf(WindowHandle window) { return describe(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
 
+Screen screenAt(const Rectangle& rectangle) {
+    const RECT edges = edgesOf(rectangle);
+    return describe(MonitorFromRect(&edges, MONITOR_DEFAULTTONEAREST));
+}
+
 std::vector<Rectangle> usableAreasAround(WindowHandle window) {
     std::vector<Rectangle> areas = {screenOf(window).usableArea};
     EnumDisplayMonitors(nullptr, nullptr, noteUsableArea, reinterpret_cast<LPARAM>(&areas));

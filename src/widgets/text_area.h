@@ -41,6 +41,9 @@ struct StyledRun {
 
 class TextArea : public Component {
 public:
+    /// Whether the control's library can be loaded.
+    static bool isAvailable();
+
     /// An empty area. What is typed looks like `normal`, wherever the caret stands. Raises InternalFault when the
     /// control is not to be had.
     TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);

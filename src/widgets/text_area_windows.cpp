@@ -167,6 +167,8 @@ const Component::WidgetClass& TextArea::widgetClass() {
     return registered;
 }
 
+bool TextArea::isAvailable() { return static_cast<bool>(loadSystemLibrary(controlLibrary)); }
+
 TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal)
     : Component(widgetClass(), {parent, command, controlStyle, {}}),
       normal_(normal),

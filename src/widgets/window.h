@@ -105,6 +105,8 @@ protected:
     virtual bool maySessionEnd(bool /*critical*/) { return true; }
     virtual void onSessionEnd(bool /*ends*/) {}
 
+    /// The window is about to be placed; another rectangle may be given to it.
+    virtual bool onPlacing(Rectangle& /*rectangle*/) { return false; }
     virtual bool onMoved() { return false; }
     virtual std::optional<SizeLimits> sizeLimits() const { return std::nullopt; }
     virtual HitArea onHitTest(HitArea byClass) const { return byClass; }
@@ -159,6 +161,7 @@ private:
     Result takeKey(const Message& message);
     Result takeMouse(MouseAction action, const Message& message);
     Result takeContextMenu(const Message& message);
+    Result takePlace(const Message& message);
     Result takeSizeLimits(const Message& message) const;
     Result takeDrawing(const Message& message);
     Result colorsOfChild(const Message& message) const;

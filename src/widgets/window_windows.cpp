@@ -56,8 +56,15 @@ struct Window::Procedure {
             return owner->forget(message);
         }
         // A message that a window failed at counts as dealt with, and a creation as refused.
-        const auto result =
-            keepingExceptions(Result(code == WM_CREATE ? -1 : 0), [&] { return owner->dispatch(message); });
+        bool failed = true;
+        const auto result = keepingExceptions(Result(code == WM_CREATE ? -1 : 0), [&] {
+            const Result answer = owner->dispatch(message);
+            failed = false;
+            return answer;
+        });
+        if (failed && code == WM_PAINT) {
+            ValidateRect(window, nullptr);  // or the system would ask for the same again, without end
+        }
         return result ? *result : owner->passToClass(message);
     }
 
@@ -173,6 +180,8 @@ Window::Result Window::dispatchLife(const Message& message) {
 
 Window::Result Window::dispatchPlacement(const Message& message) {
     switch (message.code) {
+        case WM_WINDOWPOSCHANGING:
+            return takePlace(message);
         case WM_WINDOWPOSCHANGED:
             return dealtWith(onMoved());
         case WM_GETMINMAXINFO:
@@ -292,6 +301,22 @@ Window::Result Window::takeContextMenu(const Message& message) {
         return dealtWith(onContextMenu(std::nullopt));
     }
     return dealtWith(onContextMenu(Point{point.x, point.y}));
+}
+
+Window::Result Window::takePlace(const Message& message) {
+    auto& place = *reinterpret_cast<WINDOWPOS*>(message.lParam);
+    if ((place.flags & (SWP_NOMOVE | SWP_NOSIZE)) != 0) {
+        return std::nullopt;
+    }
+    Rectangle rectangle{place.x, place.y, place.cx, place.cy};
+    if (!onPlacing(rectangle)) {
+        return std::nullopt;
+    }
+    place.x = rectangle.left;
+    place.y = rectangle.top;
+    place.cx = rectangle.width;
+    place.cy = rectangle.height;
+    return 0;
 }
 
 Window::Result Window::takeSizeLimits(const Message& message) const {

@@ -8,8 +8,9 @@
 namespace calquo {
 namespace {
 
-TEST(WindowRectangle, OnlyAnUnreachableOneIsMoved) {
-    constexpr Size smallest{200, 100};
+TEST(WindowRectangle, OnlyOneWhoseCaptionCannotBeReachedIsMoved) {
+    // A frame of 4 pixels, and of the caption below it 60 by 10.
+    WindowReach reach{{-4, -4, 8, 8}, 20, {60, 10}, {200, 100}};
     const std::vector<Rectangle> usableAreas = {{0, 0, 1000, 800}, {1000, 0, 500, 400}};
     constexpr Rectangle middle{250, 200, 500, 400};
     constexpr int largest = std::numeric_limits<int>::max();
@@ -18,24 +19,63 @@ TEST(WindowRectangle, OnlyAnUnreachableOneIsMoved) {
     };
     const Row rows[] = {
         {{10, 10, 300, 200}, {10, 10, 300, 200}},
-        {{-299, 10, 300, 200}, {-299, 10, 300, 200}},  // a part is shown
         {{1200, 100, 300, 200}, {1200, 100, 300, 200}},
-        {{-300, 10, 300, 200}, middle},
-        {{-32000, -32000, 300, 200}, middle},
-        {{1100, 400, 300, 200}, middle},  // below the second screen
-        {{10, 10, 0, 0}, middle},         // the system's choice for a window without a size
+        // Just enough of the caption, and a pixel less of it.
+        {{-236, 10, 300, 200}, {-236, 10, 300, 200}},
+        {{-237, 10, 300, 200}, {0, 10, 300, 200}},
+        {{936, 700, 300, 200}, {936, 700, 300, 200}},
+        {{937, 700, 300, 200}, {700, 600, 300, 200}},
+        {{10, -14, 300, 200}, {10, -14, 300, 200}},
+        {{10, -15, 300, 200}, {10, 0, 300, 200}},
+        {{10, 786, 300, 200}, {10, 786, 300, 200}},
+        {{10, 787, 300, 200}, {10, 600, 300, 200}},
+        {{1100, 400, 300, 200}, {700, 400, 300, 200}},  // below the second screen
+        // Maximized, on screens that are gone: at the right of both, and above the first.
+        {{1496, -4, 1928, 1088}, {0, 0, 1000, 800}},
+        {{-4, -1084, 1928, 1088}, {0, 0, 1000, 800}},
+        {{-32000, -32000, 160, 28}, middle},  // minimized
+        {{10, 10, 0, 0}, middle},             // the system's choice for a window without a size
         {{10, 10, 300, 99}, middle},
-        {{largest, largest, largest, largest}, middle},
+        {{largest, largest, largest, largest}, {0, 0, 1000, 800}},
         {{10, 10, -300, -200}, middle},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(reachableRectangle(row.wanted, smallest, usableAreas), row.result)
+        EXPECT_EQ(reachableRectangle(row.wanted, reach, usableAreas), row.result)
             << row.wanted.left << "," << row.wanted.top << " " << row.wanted.width << "x" << row.wanted.height;
     }
+    reach.mayBeSmall = true;
+    EXPECT_EQ(reachableRectangle({10, 10, 100, 99}, reach, usableAreas), (Rectangle{10, 10, 100, 99}));
+    EXPECT_EQ(reachableRectangle({10, 10, 67, 99}, reach, usableAreas), middle);
 }
 
-TEST(WindowRectangle, MaximizedFillsTheUsableAreaWithOnePixelOfItsFrame) {
-    EXPECT_EQ(maximizedRectangle({100, 40, 1000, 760}, {-4, -5, 8, 10}), (Rectangle{97, 36, 1006, 768}));
+TEST(WindowRectangle, MaximizedItsClientAreaFillsTheUsableArea) {
+    EXPECT_EQ(maximizedRectangle({100, 40, 1000, 760}, {-4, -5, 8, 10}), (Rectangle{96, 35, 1008, 770}));
+    EXPECT_EQ(maximizedRectangle({-1920, 0, 1920, 1040}, {-3, -3, 6, 6}), (Rectangle{-1923, -3, 1926, 1046}));
+}
+
+TEST(WindowGrowth, EndsWithWhatItWasForUnlessAPersonHasSizedTheWindow) {
+    struct Row {
+        Size present, least, wanted;
+    };
+    const Row rows[] = {
+        {{300, 200}, {100, 100}, {300, 200}},
+        {{300, 200}, {100, 400}, {300, 400}},  // a panel opens
+        {{300, 400}, {350, 700}, {350, 700}},  // and another one
+        {{350, 700}, {350, 500}, {350, 500}},
+        {{350, 500}, {100, 100}, {300, 200}},  // the last one closes
+        {{300, 200}, {100, 100}, {300, 200}},
+        {{300, 200}, {100, 400}, {300, 400}},
+        {{500, 450}, {100, 400}, {500, 450}},  // sized by a person
+        {{500, 450}, {100, 100}, {500, 450}},
+        {{500, 450}, {600, 100}, {600, 450}},
+        {{600, 450}, {100, 100}, {500, 450}},
+        {{250, 450}, {300, 100}, {300, 450}},  // a person makes it narrower than it may be
+        {{300, 450}, {100, 100}, {250, 450}},
+    };
+    WindowGrowth growth;
+    for (const Row& row : rows) {
+        EXPECT_EQ(growth.sizeFor(row.present, row.least), row.wanted) << &row - rows;
+    }
 }
 
 }  // namespace

@@ -13,7 +13,9 @@
 #include "resources.h"
 #include "shell/command_ids.h"
 #include "shell/menu_tree.h"
+#include "support/allocations.h"
 #include "widgets/button.h"
+#include "widgets/kept_exception.h"
 #include "widgets/toolkit.h"
 
 namespace calquo {
@@ -153,11 +155,60 @@ TEST(MainWindow, StandsWhereItStoodUnlessNoScreenShowsIt) {
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &usable, 0);
     EXPECT_EQ(half.right - half.left, (usable.right - usable.left) / 2);
     EXPECT_EQ(half.bottom - half.top, (usable.bottom - usable.top) / 2);
-    for (const RECT& hostile : {RECT{-32000, -32000, -31840, -31972}, RECT{5000, 5000, 5700, 5400},
-                                RECT{700, 400, 100, 100}, RECT{100, 100, 100, 100}, RECT{0, 0, 1 << 30, 1 << 30}}) {
+    for (const RECT& hostile : {RECT{-32000, -32000, -31840, -31972}, RECT{700, 400, 100, 100},
+                                RECT{100, 100, 100, 100}, RECT{0, 0, 1 << 30, 1 << 30}}) {
         const Program program(storedRectangle(hostile.left, hostile.top, hostile.right, hostile.bottom));
         EXPECT_EQ(shown(placeOnScreen(program.handle())), shown(half)) << shown(hostile);
     }
+    // Maximized on a screen that is gone, with the edge of its frame on one that is there.
+    const RECT gone{usable.right - 3, usable.top - 3, usable.right + 3000, usable.bottom + 3};
+    EXPECT_EQ(shown(placeOnScreen(Program(storedRectangle(gone.left, gone.top, gone.right, gone.bottom)).handle())),
+              shown(usable));
+}
+
+TEST(MainWindow, GoesBackToItsSizeWhenThePanelsClose) {
+    Program program(storedRectangle(70, 80, 370, 280));
+    const RECT before = placeOnScreen(program.handle());
+    program.command(lengths);
+    program.command(basicKeypad);
+    const RECT grown = placeOnScreen(program.handle());
+    EXPECT_GT(grown.bottom, before.bottom);
+    program.command(hideButtons);
+    EXPECT_EQ(shown(placeOnScreen(program.handle())), shown(before));
+    program.command(hideButtons);
+    EXPECT_EQ(shown(placeOnScreen(program.handle())), shown(grown));
+    SetWindowPos(program.handle(), nullptr, 10, 20, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    program.command(lengths);
+    program.command(basicKeypad);
+    EXPECT_EQ(shown(placeOnScreen(program.handle())), shown({10, 20, 310, 220}));
+}
+
+TEST(MainWindow, OneWhoseStartOrEndFailsLeavesNothing) {
+    const MemoryStorage storage = storedPanels({basicKeypad, lengths});
+    { const Program whole(storage); }
+    const int windows = heldResources().windows;
+    bool failed = true;
+    for (int count = 0; failed; count += 1 + count / 8) {
+        {
+            const FailingAllocation allocation(count);
+            try {
+                const Program program(storage);
+            } catch (const std::bad_alloc&) {
+                // As for the program's entry point.
+            }
+            failed = allocation.hasFailed();
+        }
+        try {
+            rethrowKeptException();  // of the window's end
+        } catch (const std::bad_alloc&) {
+            EXPECT_TRUE(failed);
+        }
+        ASSERT_EQ(heldResources().windows, windows) << count;
+    }
+    Program after(storage);
+    after.setText(L"2+3");
+    SendMessageW(after.workArea(), WM_KEYDOWN, VK_RETURN, 1);
+    EXPECT_EQ(after.text(), L"2+3 = 5\n\n5");
 }
 
 TEST(MainWindow, StoresEveryRectangleThatTheSystemReports) {
@@ -167,15 +218,19 @@ TEST(MainWindow, StoresEveryRectangleThatTheSystemReports) {
     EXPECT_EQ(program.storage().written.back(), L"Window Rect");
 }
 
-TEST(MainWindow, MaximizedItCoversTheUsableAreaWithOnePixelOfItsFrameInView) {
+TEST(MainWindow, MaximizedItsClientAreaFillsTheUsableArea) {
     Program program;
     const RECT window = placeOnScreen(program.handle());
-    RECT inner = program.client(), usable{};
-    MapWindowPoints(program.handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
+    const auto clientOnScreen = [&] {
+        RECT inner = program.client();
+        MapWindowPoints(program.handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
+        return inner;
+    };
+    const RECT inner = clientOnScreen();
+    RECT usable{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &usable, 0);
-    const RECT expected{usable.left - (inner.left - window.left) + 1, usable.top - (inner.top - window.top) + 1,
-                        usable.right + (window.right - inner.right) - 1,
-                        usable.bottom + (window.bottom - inner.bottom) - 1};
+    const RECT expected{usable.left - (inner.left - window.left), usable.top - (inner.top - window.top),
+                        usable.right + (window.right - inner.right), usable.bottom + (window.bottom - inner.bottom)};
     MINMAXINFO limits{};
     SendMessageW(program.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     // Of a maximized window the system wants the size, and how large it may be made.
@@ -183,6 +238,13 @@ TEST(MainWindow, MaximizedItCoversTheUsableAreaWithOnePixelOfItsFrameInView) {
     for (const POINT size : {limits.ptMaxSize, limits.ptMaxTrackSize}) {
         EXPECT_EQ(shown({at.x, at.y, at.x + size.x, at.y + size.y}), shown(expected));
     }
+    ShowWindow(program.handle(), SW_MAXIMIZE);
+    EXPECT_EQ(shown(clientOnScreen()), shown(usable));
+    // The system may work out another place, as for a screen beside the main one.
+    SetWindowPos(program.handle(), nullptr, 100, 50, 1000, 400, SWP_NOZORDER);
+    EXPECT_EQ(shown(clientOnScreen()), shown(usable));
+    ShowWindow(program.handle(), SW_RESTORE);
+    EXPECT_EQ(shown(placeOnScreen(program.handle())), shown(window));
 }
 
 TEST(MainWindow, MorePanelsThanTheScreenIsHighDoNotPushItsEdgeOutOfReach) {

@@ -57,5 +57,23 @@ TEST(MessageLoop, ReportsAnExceptionOfOneMessageAndGoesOn) {
     EXPECT_EQ(status, 7);
 }
 
+TEST(MessageLoop, AFailedPaintingIsReportedOnceAndNotAskedForWithoutEnd) {
+    struct FailingPainter : TextArea {
+        using TextArea::TextArea;
+        bool onPaint() override { throw Except{ErrorCode::InternalFault}; }
+    };
+    const WindowOwner top(CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
+                                          nullptr, nullptr, nullptr));
+    FailingPainter area(top.get(), 1, {});
+    area.moveTo({0, 0, 50, 50});
+    InvalidateRect(area.handle(), nullptr, FALSE);
+    UpdateWindow(area.handle());
+    EXPECT_FALSE(GetUpdateRect(area.handle(), nullptr, FALSE));
+    PostQuitMessage(0);
+    int reports = 0;
+    runMessageLoop([&] { ++reports; });
+    EXPECT_EQ(reports, 1);
+}
+
 }  // namespace
 }  // namespace calquo
