@@ -22,14 +22,15 @@ public:
             return;
         }
         const std::string_view expression = expressionOf(line);
-        const auto* const begin = std::find_if(line.begin() + equals + 1, line.end(), isInk);
-        const auto* end = line.end();
-        while (end != begin && !isInk(end[-1])) {
-            --end;
+        std::string_view old = line.substr(equals + 1);
+        while (!old.empty() && !isInk(old.front())) {
+            old.remove_prefix(1);
         }
-        const std::string_view old(begin, end);
+        while (!old.empty() && !isInk(old.back())) {
+            old.remove_suffix(1);
+        }
         if (!expression.empty() && isWrittenAnswer(old)) {
-            answer(expression, old, start + static_cast<std::size_t>(begin - line.begin()));
+            answer(expression, old, start + static_cast<std::size_t>(old.data() - line.data()));
         }
     }
 
