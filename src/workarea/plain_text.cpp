@@ -108,7 +108,7 @@ std::u16string unitsOf(std::string_view bytes, TextEncoding encoding, const Code
         }
     } else {
         while (!bytes.empty()) {
-            const Utf8Character character = firstUtf8Character(bytes).value_or(Utf8Character{replacement, 1});
+            const UtfCharacter character = firstUtf8Character(bytes).value_or(UtfCharacter{replacement, 1});
             appendUtf16(units, character.code);
             bytes.remove_prefix(character.length);
         }
@@ -183,18 +183,6 @@ void refuseTooMuchText(std::u16string_view units, std::uint64_t mostCost) {
     if (cost.total() > mostCost) {
         throw FileFault{FileFailure::TooMuchText, {}};
     }
-}
-
-/// The first character of `units`, which must not be empty, and how many units it takes; half of a surrogate pair
-/// becomes the replacement character.
-std::pair<char32_t, std::size_t> firstUtf16Character(std::u16string_view units) {
-    const auto isWithin = [](char16_t unit, char32_t first) { return unit >= first && unit < first + 0x400; };
-    const char16_t unit = units.front();
-    if (isWithin(unit, 0xD800) && units.size() > 1 && isWithin(units[1], 0xDC00)) {
-        return {0x10000 + ((unit & 0x3FFu) << 10 | (units[1] & 0x3FFu)), 2};
-    }
-    const bool isHalf = isWithin(unit, 0xD800) || isWithin(unit, 0xDC00);
-    return {isHalf ? replacement : unit, 1};
 }
 
 void appendAsUtf8(std::string& bytes, std::u16string_view units) {

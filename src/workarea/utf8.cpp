@@ -1,4 +1,4 @@
-// The bit patterns of UTF-8.
+// The bit patterns of UTF-8 and UTF-16.
 #include "workarea/utf8.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ constexpr bool isSurrogate(char32_t code) { return code >= 0xD800 && code <= 0xD
 
 }  // namespace
 
-std::optional<Utf8Character> firstUtf8Character(std::string_view bytes) {
+std::optional<UtfCharacter> firstUtf8Character(std::string_view bytes) {
     const auto lead = static_cast<unsigned char>(bytes.front());
     const auto row = std::find_if(std::begin(leadRows), std::end(leadRows), [&](const LeadRow& candidate) {
         return (lead & candidate.mask) == candidate.pattern;
@@ -42,7 +42,17 @@ std::optional<Utf8Character> firstUtf8Character(std::string_view bytes) {
         code = code << bitsInFollower | (follower & 0x3F);
     }
     const bool valid = code >= row->smallest && code < 0x110000 && !isSurrogate(code);
-    return valid ? std::optional(Utf8Character{code, row->following + 1}) : std::nullopt;
+    return valid ? std::optional(UtfCharacter{code, row->following + 1}) : std::nullopt;
+}
+
+UtfCharacter firstUtf16Character(std::u16string_view units) {
+    constexpr char32_t replacement = 0xFFFD;
+    const auto isWithin = [](char16_t unit, char32_t first) { return unit >= first && unit < first + 0x400; };
+    const char16_t unit = units.front();
+    if (isWithin(unit, 0xD800) && units.size() > 1 && isWithin(units[1], 0xDC00)) {
+        return {0x10000 + ((unit & 0x3FFu) << 10 | (units[1] & 0x3FFu)), 2};
+    }
+    return {isSurrogate(unit) ? replacement : unit, 1};
 }
 
 void appendUtf8(std::string& bytes, char32_t code) {
