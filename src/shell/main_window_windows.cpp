@@ -108,7 +108,8 @@ void MainWindow::onCreate() {
                 recovery_->keep();
                 tellAbout(line, answer);
             },
-            [this](Point corner) { showContextMenu(handle(), corner, contextMenu(commands_->sheetState())); }});
+            [this](Point corner) { showContextMenu(handle(), corner, contextMenu(commands_->sheetState())); },
+            [this](const std::wstring& reason) { tell(reason); }});
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
     recovery_ = std::make_unique<Recovery>(
         *workArea_, [this] { return files_->isInFile(); }, startFiles_.recoveryFolder);

@@ -69,6 +69,8 @@ public:
     /// Replaces a range by rich text, as one step for undo. False, with the text as it was, when the control does not
     /// take it.
     bool replaceByRichText(TextRange range, std::string_view text);
+    /// The same for the selection, and the caret goes after it.
+    bool replaceSelectionByRichText(std::string_view text);
 
     /// Puts a line end in place of the selection, as one step for undo.
     void insertLineEnd();
@@ -130,7 +132,7 @@ private:
     void chooseLook();
     void typeInNormalStyle();
     std::string richText(const std::vector<StyledRun>& runs) const;
-    void replaceSelection(const std::vector<StyledRun>& runs);
+    bool streamIntoSelection(std::string_view bytes, std::uint32_t format);
 
     std::string streamOut(std::uint32_t format) const;
     bool replaceContent(std::string_view bytes, std::uint32_t format);

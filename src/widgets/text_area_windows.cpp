@@ -194,8 +194,8 @@ bool TextArea::onKey(const KeyEvent& event) {
 }
 
 bool TextArea::onCharacter(wchar_t character) {
-    // The Enter key has done its work when it went down.
-    if (character == L'\r' || character == L'\n') {
+    // The keys of control characters, such as Enter, have done their work when they went down.
+    if (character < L' ' && character != L'\t' && character != L'\b') {
         return true;
     }
     typeInNormalStyle();
@@ -284,7 +284,8 @@ Paragraph TextArea::paragraphAt(std::int32_t position) const {
 void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret) {
     const PaintingPause pause(handle());
     select(range);
-    replaceSelection(runs);
+    // Rich text is what the control takes in several styles and undoes in one step.
+    streamIntoSelection(richText(runs), SF_RTF);
     select({caret, caret});
 }
 
@@ -301,13 +302,24 @@ bool TextArea::replaceByRichText(TextRange range, std::string_view text) {
     const PaintingPause pause(handle());
     const TextRange before = selection();
     select(range);
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, readPiece};
-    SendMessageW(handle(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
-    if (stream.dwError != 0) {
+    const bool taken = streamIntoSelection(text, SF_RTF);
+    if (!taken) {
         SendMessageW(handle(), EM_UNDO, 0, 0);
         select(before);
     }
-    return stream.dwError == 0;
+    return taken;
+}
+
+bool TextArea::replaceSelectionByRichText(std::string_view text) {
+    const PaintingPause pause(handle());
+    const TextRange selected = selection();
+    const std::int32_t after = lengthOf(handle()) - selected.end;
+    const bool taken = replaceByRichText(selected, text);
+    if (taken) {
+        const std::int32_t caret = lengthOf(handle()) - after;
+        select({caret, caret});
+    }
+    return taken;
 }
 
 void TextArea::insertLineEnd() {
@@ -331,12 +343,11 @@ std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
     return head + "}" + body + "}";
 }
 
-void TextArea::replaceSelection(const std::vector<StyledRun>& runs) {
-    // Rich text is what the control takes in several styles and undoes in one step.
-    const std::string text = richText(runs);
-    std::string_view rest = text;
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&rest), 0, readPiece};
-    SendMessageW(handle(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+bool TextArea::streamIntoSelection(std::string_view bytes, std::uint32_t format) {
+    const EarlyScrollBar scrollBar(handle(), bytes.size());
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&bytes), 0, readPiece};
+    SendMessageW(handle(), EM_STREAMIN, format | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+    return stream.dwError == 0;
 }
 
 // --- The whole text -------------------------------------------------------------------------------------------------
@@ -380,16 +391,14 @@ bool TextArea::replaceContentByPlainText(std::wstring_view text) {
 
 bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
     const PaintingPause pause(handle());
-    const EarlyScrollBar scrollBar(handle(), bytes.size());
     const TextRange before = selection();
     const bool wasEmpty = lengthOf(handle()) == 0;
     // In place of a selection, the stream is one step for undo and takes its look from the first character.
     const bool restyled = startInNormalStyle();
     SendMessageW(handle(), EM_SETSEL, 0, -1);
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&bytes), 0, readPiece};
-    SendMessageW(handle(), EM_STREAMIN, format | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+    const bool taken = streamIntoSelection(bytes, format);
     const std::int32_t length = lengthOf(handle());
-    if (stream.dwError == 0) {
+    if (taken) {
         SendMessageW(handle(), EM_SETMODIFY, TRUE, 0);
         select({length, length});
         return true;

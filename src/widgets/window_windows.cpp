@@ -250,6 +250,7 @@ Window::Result Window::dispatchInput(const Message& message) {
         case WM_GETDLGCODE:
         case WM_UNDO:
         case EM_UNDO:
+        case WM_PASTE:
             return onSimpleMessage(message.code);
         default:
             return isOfOneClass(message.code) ? onSimpleMessage(message.code) : std::nullopt;

@@ -175,16 +175,6 @@ LineEnd commonLineEnd(std::u16string_view units) {
     return LineEnd::CarriageReturnLineFeed;
 }
 
-void refuseTooMuchText(std::u16string_view units, std::uint64_t mostCost) {
-    TextCost cost;
-    forEachUnit(
-        units, [&](char16_t) { cost.addCharacters(1); }, [&](std::optional<LineEnd>) { cost.endLine(); });
-    cost.endLine();
-    if (cost.total() > mostCost) {
-        throw FileFault{FileFailure::TooMuchText, {}};
-    }
-}
-
 void appendAsUtf8(std::string& bytes, std::u16string_view units) {
     while (!units.empty()) {
         const auto [code, length] = firstUtf16Character(units);
@@ -208,6 +198,16 @@ void appendAsUtf16(std::string& bytes, std::u16string_view units, TextEncoding e
 const CodePage& windows1252() {
     static const CodePage codePage{decodeWindows1252, encodeWindows1252};
     return codePage;
+}
+
+void refuseTooMuchText(std::u16string_view characters, std::uint64_t mostCost) {
+    TextCost cost;
+    forEachUnit(
+        characters, [&](char16_t) { cost.addCharacters(1); }, [&](std::optional<LineEnd>) { cost.endLine(); });
+    cost.endLine();
+    if (cost.total() > mostCost) {
+        throw FileFault{FileFailure::TooMuchText, {}};
+    }
 }
 
 PlainText decodePlainText(std::string_view bytes, const PlainTextRules& rules) {

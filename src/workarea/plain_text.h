@@ -51,6 +51,9 @@ struct PlainTextRules {
     std::uint64_t mostCost;
 };
 
+/// Throws FileFault, TooMuchText, where the TextCost of characters is above the most.
+void refuseTooMuchText(std::u16string_view characters, std::uint64_t mostCost);
+
 /// The text of a file. UTF-8 and UTF-16 go by their byte order marks; bytes without one are UTF-8 where they are valid
 /// as such, else in the system's code page where they are valid there, else Windows-1252. The line end is the one of CR
 /// LF, LF and CR that lines have; CR LF where they have several or none. Throws FileFault: NotText for text with NUL

@@ -11,6 +11,7 @@
 #include "format/numeric_format.h"
 #include "widgets/key_stroke.h"
 #include "widgets/text_area.h"
+#include "workarea/foreign_text.h"
 #include "workarea/record.h"
 #include "workarea/reevaluation.h"
 
@@ -48,6 +49,8 @@ struct WorkAreaListener {
     /// no expression.
     std::function<void(std::string_view line, const Answer* answer)> evaluated = [](std::string_view, const Answer*) {};
     std::function<void(Point)> menuWanted = [](Point) {};  ///< At a point of the screen.
+    /// Something could not be done, for the reason that is told.
+    std::function<void(const std::wstring& reason)> refused = [](const std::wstring&) {};
 };
 
 class WorkArea : public TextArea {
@@ -68,6 +71,14 @@ public:
     /// Types characters and presses keys of the system's numbers, as the keyboard would.
     void typeCharacters(std::string_view characters);
     void pressKey(std::uint32_t virtualKey);
+
+    /// Puts text of another program in place of the selection, as one step for undo. Plain text gets the style of what
+    /// is typed, and the language's characters in place of those that stand for them; rich text keeps its looks. All
+    /// text that is pasted or dropped comes through here.
+    void insertForeignText(const ForeignText& text);
+    /// The same with the text on the clipboard.
+    void paste();
+    void pasteWithLooks();
 
     /// Empties the work area, as one step for undo.
     void clear();
@@ -102,6 +113,8 @@ private:
     static const KeyRow keyRows[];
 
     void evaluateIntoSelection();
+    void insertPlainText(std::u16string_view text);
+    bool insertRichText(std::string_view text);
 
     /// Puts the caret at the start of the next line, which is made where there is none.
     void goToLineAfter(const Paragraph& line);

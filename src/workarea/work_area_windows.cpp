@@ -6,12 +6,16 @@
 
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
+#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/language_text.h"
+#include "workarea/pasted_text.h"
+#include "workarea/plain_text.h"
 #include "workarea/result_edits.h"
 #include "workarea/rich_text.h"
 #include "workarea/rich_text_filter.h"
 #include "workarea/text_cost.h"
+#include "workarea/text_drop.h"
 
 namespace calquo {
 namespace {
@@ -78,6 +82,9 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
     // Left to itself, the control makes line breaks of several kinds, by the modifier held.
     {VK_RETURN, Modifiers::Some, &WorkArea::insertLineEnd},
     {VK_F9, Modifiers::None, &WorkArea::evaluateIntoSelection},
+    {'V', Modifiers::Control, &WorkArea::paste},
+    {VK_INSERT, Modifiers::Shift, &WorkArea::paste},
+    {'V', Modifiers::ControlShift, &WorkArea::pasteWithLooks},
 };
 
 WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCommand> keyCommands, FormatSource format,
@@ -85,7 +92,9 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCo
     : TextArea(parent, command, normalStyle),
       keyCommands_(std::move(keyCommands)),
       format_(std::move(format)),
-      listener_(std::move(listener)) {}
+      listener_(std::move(listener)) {
+    takeDroppedTextBy(*this);
+}
 
 bool WorkArea::onKey(const KeyEvent& event) {
     if (event.released) {
@@ -128,8 +137,15 @@ bool WorkArea::onContextMenu(std::optional<Point> point) {
 }
 
 std::optional<std::intptr_t> WorkArea::onSimpleMessage(std::uint32_t message) {
-    return message == resultReplaceQuery ? std::optional<std::intptr_t>(resultReplaces_ ? 1 : 0)
-                                         : TextArea::onSimpleMessage(message);
+    switch (message) {
+        case WM_PASTE:
+        case EM_PASTESPECIAL:
+            paste();
+            return 0;
+        default:
+            return message == resultReplaceQuery ? std::optional<std::intptr_t>(resultReplaces_ ? 1 : 0)
+                                                 : TextArea::onSimpleMessage(message);
+    }
 }
 
 void WorkArea::evaluate() {
@@ -233,6 +249,51 @@ void WorkArea::typeCharacters(std::string_view characters) {
 }
 
 void WorkArea::pressKey(std::uint32_t virtualKey) { SendMessageW(handle(), WM_KEYDOWN, virtualKey, 1); }
+
+void WorkArea::insertForeignText(const ForeignText& text) {
+    try {
+        if (text.plain.size() * sizeof(char16_t) > largestFile || text.rich.size() > largestFile) {
+            throw FileFault{FileFailure::TooLarge, {}};
+        }
+        if (text.rich.empty() || !insertRichText(text.rich)) {
+            insertPlainText(text.plain);
+        }
+    } catch (const FileFault&) {
+        listener_.refused(L"This text is too long, or has too many lines, to be put into the sheet.");
+    }
+}
+
+void WorkArea::insertPlainText(std::u16string_view foreign) {
+    std::u16string text = pastedText(foreign);
+    const auto [begin, end] = selection();
+    const bool beginsLine = paragraphAt(begin).range.begin == begin;
+    // What spreadsheets say of one cell ends with a line end, which is wanted between lines alone.
+    if (text.find(u'\n') + 1 == text.size() && !(beginsLine && paragraphAt(end).range.end > end)) {
+        text.pop_back();
+    }
+    if (!text.empty()) {
+        refuseTooMuchText(text, mostTextCost());
+        const auto* const characters = reinterpret_cast<const wchar_t*>(text.data());
+        replace({begin, end}, {{{characters, text.size()}, normalStyle}},
+                begin + static_cast<std::int32_t>(text.size()));
+    }
+}
+
+/// False where there is no rich text, or a damaged one.
+bool WorkArea::insertRichText(std::string_view foreign) {
+    try {
+        return replaceSelectionByRichText(cleanRichText(foreign, mostTextCost(), LastLineEnd::Dropped));
+    } catch (const FileFault& fault) {
+        if (fault.failure == FileFailure::TooMuchText) {
+            throw;
+        }
+        return false;
+    }
+}
+
+void WorkArea::paste() { insertForeignText(clipboardText(handle(), ForeignForm::Plain)); }
+
+void WorkArea::pasteWithLooks() { insertForeignText(clipboardText(handle(), ForeignForm::Rich)); }
 
 void WorkArea::clear() {
     selectAll();
