@@ -100,7 +100,6 @@ public:
     /// The selection goes to the clipboard, as the control does it; what it holds takes the selection's place.
     void cut();
     void copy();
-    void paste();
     /// Takes out what is selected, as one step for undo.
     void deleteSelection();
     void selectAll();

@@ -440,7 +440,6 @@ void TextArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
 void TextArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
 void TextArea::cut() { SendMessageW(handle(), WM_CUT, 0, 0); }
 void TextArea::copy() { SendMessageW(handle(), WM_COPY, 0, 0); }
-void TextArea::paste() { SendMessageW(handle(), WM_PASTE, 0, 0); }
 void TextArea::deleteSelection() { SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"")); }
 void TextArea::selectAll() { SendMessageW(handle(), EM_SETSEL, 0, -1); }
 
