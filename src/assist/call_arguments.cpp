@@ -42,18 +42,19 @@ std::optional<OpenCall> callAt(std::string_view line, std::size_t caret) {
         return std::nullopt;
     }
     std::vector<OpenCall> open;  // a group is a call of no function
-    std::size_t function = 0;    // the name that ends where the next piece begins
+    OpenCall name;               // the one that ends where the next piece begins
     for (std::size_t index = 0; index < std::min(caret, line.size());) {
         const LinePiece piece = pieceAt(line, index);
         const TokenClass kind = piece.kind == PieceKind::Other ? classOfCharacter(line[piece.begin]) : TokenClass::None;
         if (kind == TokenClass::ListOpen) {
-            open.push_back({argumentsOf(function).empty() ? 0 : function, 0});
+            open.push_back(argumentsOf(name.function).empty() ? OpenCall{} : name);
         } else if (kind == TokenClass::ListClose && !open.empty()) {
             open.pop_back();
         } else if (kind == TokenClass::ListSeparator && !open.empty()) {
             ++open.back().argument;
         }
-        function = piece.kind == PieceKind::Name ? lookup(line.substr(piece.begin, piece.end - piece.begin)) : 0;
+        const bool isName = piece.kind == PieceKind::Name;
+        name = {isName ? lookup(line.substr(piece.begin, piece.end - piece.begin)) : 0, 0, piece.begin};
         index = piece.end;
     }
     const auto call = std::find_if(open.rbegin(), open.rend(), [](const OpenCall& one) { return one.function != 0; });
@@ -80,7 +81,7 @@ CallText textOf(const OpenCall& call) {
 }
 
 std::string argumentTextOf(std::size_t name) {
-    return argumentsOf(name).empty() ? std::string() : textOf({name, 0}).text.substr(nameOf(name).size());
+    return argumentsOf(name).empty() ? std::string() : textOf({name}).text.substr(nameOf(name).size());
 }
 
 }  // namespace calquo

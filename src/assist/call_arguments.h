@@ -12,6 +12,9 @@ namespace calquo {
 struct OpenCall {
     std::size_t function = 0;  ///< The index of its name.
     std::size_t argument = 0;  ///< The number of the argument at the caret, from 0 on.
+    std::size_t begin = 0;     ///< Where the name begins in the line.
+
+    friend bool operator==(const OpenCall&, const OpenCall&) = default;
 };
 
 /// The innermost call of a function whose parentheses hold the caret; none outside, after the "=" of a result, and for

@@ -86,7 +86,7 @@ std::optional<Completion> completionAt(std::string_view line, std::size_t caret)
     const LinePiece piece = pieceBefore(line, std::min(caret, line.size()));
     if (piece.kind == PieceKind::Name) {
         const std::string_view typed = line.substr(piece.begin, caret - piece.begin);
-        return Completion{piece.begin, piece.end, typed, namesFor(typed)};
+        return Completion{piece.begin, piece.end, std::string(typed), namesFor(typed)};
     }
     const std::string_view inside = line.substr(piece.begin, piece.end - piece.begin);
     const bool hasBase = inside.find(markCharacter(TokenClass::BaseMark)) != std::string_view::npos;

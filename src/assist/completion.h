@@ -13,14 +13,14 @@ namespace calquo {
 struct Completion {
     std::size_t begin = 0;           ///< Where the word begins in the line.
     std::size_t end = 0;             ///< And where it ends, which may be after the caret.
-    std::string_view typed;          ///< Its characters before the caret, which alone count.
+    std::string typed;               ///< Its characters before the caret, which alone count.
     std::vector<std::size_t> names;  ///< The indices of the names, the likeliest first.
 };
 
-/// The names that fit the word at the caret, without regard to case: those that are it, that begin with it, that contain
-/// it, those whose description or dimension has a word that begins with it, and those whose
-/// description contains it; each kind in the order of the alphabet. Every name where no word stands; none inside a
-/// number and after a base prefix, where letters are digits.
+/// The names that fit the word at the caret, without regard to case: those that are it, that begin with it, that
+/// contain it, those whose description or dimension has a word that begins with it, and those whose description
+/// contains it; each kind in the order of the alphabet. Every name where no word stands; none inside a number and after
+/// a base prefix, where letters are digits.
 std::optional<Completion> completionAt(std::string_view line, std::size_t caret);
 
 /// What takes the place of the completed word: the name, and for a function its "(" unless the line has it already.

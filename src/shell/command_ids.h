@@ -39,6 +39,8 @@ enum class Command : std::uint16_t {
     SelectDefaultFile = 0x144,
     ReadFromFile = 0x160,
     SaveAsFile = 0x161,
+    ShowDetails = 0x170,  ///< Keys', these two.
+    CompleteName = 0x171,
     ResetFormats = 0x541,
     HelpContents = 0xA20,
     About = 0xA60,

@@ -11,6 +11,7 @@
 #include "shell/open_panels.h"
 #include "shell/settings.h"
 #include "shell/sheet_actions.h"
+#include "shell/work_area_tips.h"
 #include "workarea/recovery.h"
 #include "workarea/work_area.h"
 
@@ -25,6 +26,7 @@ struct CommandTargets {
     WorkArea& workArea;
     FileCommands& files;
     Recovery& recovery;
+    WorkAreaTips& tips;
     const UserDialogs& dialogs;
     /// Lays the window out anew and shows it.
     std::function<void()> layOut;
@@ -61,6 +63,8 @@ private:
     void saveDefaultFile(std::uint16_t identifier);
     void saveAgain(std::uint16_t identifier);
     void chooseFile(std::uint16_t identifier);
+    void showDetails(std::uint16_t identifier);
+    void completeName(std::uint16_t identifier);
     void toggleOption(std::uint16_t identifier);
     void toggleHiddenButtons(std::uint16_t identifier);
     void toggleAngle(std::uint16_t identifier);

@@ -35,6 +35,8 @@ const Commands::Row Commands::rows[] = {
     {Command::SelectDefaultFile, &Commands::chooseFile},
     {Command::ReadFromFile, &Commands::chooseFile},
     {Command::SaveAsFile, &Commands::chooseFile},
+    {Command::ShowDetails, &Commands::showDetails},
+    {Command::CompleteName, &Commands::completeName},
     {Command::ReadDefaultAtStartup, &Commands::toggleOption},
     {Command::SaveDefaultAtExit, &Commands::toggleOption},
     {selectFormatCommands, &Commands::selectFormat},
@@ -139,6 +141,10 @@ void Commands::chooseFile(std::uint16_t identifier) {
         [this, identifier] { targets_.files.actOnChosenFile(static_cast<Command>(identifier)); });
     targets_.recovery.noteSaved();
 }
+
+void Commands::showDetails(std::uint16_t) { targets_.tips.showDetails(); }
+
+void Commands::completeName(std::uint16_t) { targets_.tips.completeName(); }
 
 // --- Formats --------------------------------------------------------------------------------------------------------
 

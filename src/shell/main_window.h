@@ -15,6 +15,7 @@
 #include "shell/settings.h"
 #include "shell/user_dialogs.h"
 #include "shell/window_layout.h"
+#include "shell/work_area_tips.h"
 #include "widgets/hint_line.h"
 #include "widgets/window.h"
 #include "workarea/recovery.h"
@@ -61,7 +62,7 @@ protected:
     WindowHandle focusTarget() const override;
 
     bool onKey(const KeyEvent& event) override;
-    void onPressInside() override { hideHint(); }
+    void onPressInside() override;
     bool onMenuKey() override { return true; }  // ours has opened already
     bool onCommand(const Notification& notification) override;
     bool onFilesDropped(std::uintptr_t drop) override;
@@ -96,6 +97,7 @@ private:
     MainMenu menu_;
     std::unique_ptr<CaptionStrip> caption_;
     std::unique_ptr<WorkArea> workArea_;
+    std::unique_ptr<WorkAreaTips> tips_;
     std::unique_ptr<FileCommands> files_;
     std::unique_ptr<Recovery> recovery_;
     std::unique_ptr<HintLine> hint_;  ///< Made with the first hint.

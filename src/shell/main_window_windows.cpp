@@ -75,6 +75,7 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files
       startFiles_(std::move(files)),
       panels_([this](const PanelEntry& panel, const PanelButton& button) {
           pressButton(*workArea_, panel, button, settings_.angleOption());
+          tips_->lineMayHaveChanged();
       }) {
     registerWindowClass();
 
@@ -109,12 +110,17 @@ void MainWindow::onCreate() {
                 tellAbout(line, answer);
             },
             [this](Point corner) { showContextMenu(handle(), corner, contextMenu(commands_->sheetState())); },
-            [this](const std::wstring& reason) { tell(reason); }});
+            [this](const std::wstring& reason) { tell(reason); },
+            [this](const KeyEvent& event) { return tips_->takesKey(event); },
+            [this](std::string_view text) { tips_->textComes(text); },
+            [this](const MouseEvent& event) { tips_->mouse(event); }});
+    tips_ = std::make_unique<WorkAreaTips>(handle(), *workArea_,
+                                           [this](const std::wstring& hint) { dialogs_.showHint(hint); });
     files_ = std::make_unique<FileCommands>(handle(), *workArea_, settings_, dialogs_);
     recovery_ = std::make_unique<Recovery>(
         *workArea_, [this] { return files_->isInFile(); }, startFiles_.recoveryFolder);
     commands_ = std::make_unique<Commands>(CommandTargets{handle(), settings_, menu_, panels_, *workArea_, *files_,
-                                                          *recovery_, dialogs_, [this] { layOutAndRefresh(); },
+                                                          *recovery_, *tips_, dialogs_, [this] { layOutAndRefresh(); },
                                                           [this](WindowHandle dialog) { lastFocus_ = dialog; }});
     workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isCheckedUnder(settings_, identifier); });
@@ -247,6 +253,13 @@ void MainWindow::tellAbout(std::string_view line, const Answer* answer) {
     const HintSettings inForce{settings_.format(settings_.selectedFormat()), angleUnitOf(settings_.angleOption())};
     if (const std::string hint = hintFor(line, answer, inForce); !hint.empty()) {
         tell(wideText(hint));
+    }
+}
+
+void MainWindow::onPressInside() {
+    hideHint();
+    if (tips_ != nullptr) {
+        tips_->pressed();
     }
 }
 

@@ -36,6 +36,8 @@ constexpr SheetCommand rows[] = {
      "calculates every line that has a result anew, see [All lines anew](work_area.md#all-lines-anew)"},
     {Command::AddSum, control('T'), window, "&Sum",
      "adds the sum of the selected lines below them, see [The sum of lines](work_area.md#the-sum-of-lines)", last},
+    {Command::ShowDetails, control('D'), window, "", "shows the value of the line in full and in other forms"},
+    {Command::CompleteName, control(key::space), window, "", "lists the names that fit what stands before the caret"},
     {Command::HelpOnName, none, window, "&Help on ", ""},
     {Command::BringBackWorkArea, controlShift('T'), window, "&Bring Back Last Sheet",
      "brings back the last sheet, see [The kept sheet](files.md#the-kept-sheet); again: the one before"},

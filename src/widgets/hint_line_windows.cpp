@@ -1,18 +1,14 @@
 // The place and the looks of the hint.
 #include "widgets/hint_line.h"
 
-#include "widgets/color.h"
 #include "widgets/fonts.h"
+#include "widgets/hint_colors.h"
 #include "widgets/painting.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
-
-constexpr Color paper{255, 250, 225};
-constexpr Color edge{205, 195, 150};
-constexpr Color ink{60, 50, 20};
 
 /// Between the text and the line's edges, in buttons.
 int padding() { return buttonSize() / 4; }
@@ -44,13 +40,13 @@ bool HintLine::onPaint() {
     const HDC context = painting.context();
     const RECT whole{0, 0, size.width, size.height};
     const HBRUSH brush = static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
-    SetDCBrushColor(context, colorReference(paper));
+    SetDCBrushColor(context, colorReference(hintPaper));
     FillRect(context, &whole, brush);
-    SetDCBrushColor(context, colorReference(edge));
+    SetDCBrushColor(context, colorReference(hintEdge));
     FrameRect(context, &whole, brush);
     const Selection font(context, textFont());
     SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, colorReference(ink));
+    SetTextColor(context, colorReference(hintInk));
     RECT inside{padding(), padding(), size.width - padding(), size.height - padding()};
     DrawTextW(context, hint_.c_str(), static_cast<int>(hint_.size()), &inside, DT_WORDBREAK | DT_NOPREFIX);
     return true;

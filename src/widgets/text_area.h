@@ -56,6 +56,11 @@ public:
     /// nothing but the control's own search for a position.
     Paragraph paragraphAt(std::int32_t position) const;
 
+    /// Where a position stands in the window: the left edge of its character, without a width, as high as its line.
+    Rectangle placeOf(std::int32_t position) const;
+    /// The position of the character nearest to a point.
+    std::int32_t positionAt(Point point) const;
+
     /// The characters of a range, line ends as "\r".
     std::wstring charactersIn(TextRange range) const;
     /// All characters, in the same way.
@@ -105,7 +110,7 @@ public:
     void selectAll();
 
     /// The position nearest to a point of the screen, and the point below the caret.
-    std::int32_t positionAt(Point screen) const;
+    std::int32_t positionOnScreen(Point screen) const;
     Point pointBelowCaret() const;
 
     /// Leaves nothing to undo or redo.

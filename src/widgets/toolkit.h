@@ -19,6 +19,8 @@ FontHandle buttonFont();
 FontHandle narrowButtonFont(int averageWidth);
 /// The font of all other texts: the one that the user has chosen for messages.
 FontHandle textFont();
+/// The same, bold.
+FontHandle boldTextFont();
 /// The same, half as high again and bold.
 FontHandle headingFont();
 

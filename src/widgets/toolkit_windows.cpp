@@ -69,6 +69,15 @@ FontHandle textFont() {
     return font.get();
 }
 
+FontHandle boldTextFont() {
+    static const FontOwner font = [] {
+        LOGFONTW description = messageFont();
+        description.lfWeight = FW_BOLD;
+        return FontOwner(CreateFontIndirectW(&description));
+    }();
+    return font.get();
+}
+
 FontHandle headingFont() {
     static const FontOwner font = [] {
         LOGFONTW description = messageFont();

@@ -51,6 +51,11 @@ struct WorkAreaListener {
     std::function<void(Point)> menuWanted = [](Point) {};  ///< At a point of the screen.
     /// Something could not be done, for the reason that is told.
     std::function<void(const std::wstring& reason)> refused = [](const std::wstring&) {};
+    /// Before all else that a key does: whether it was meant for something else, and does nothing here.
+    std::function<bool(const KeyEvent&)> takesKey = [](const KeyEvent&) { return false; };
+    /// Before text goes in at the caret, typed or put in by a button.
+    std::function<void(std::string_view text)> textComes = [](std::string_view) {};
+    std::function<void(const MouseEvent&)> mouse = [](const MouseEvent&) {};
 };
 
 class WorkArea : public TextArea {
@@ -67,6 +72,8 @@ public:
              WorkAreaListener listener = {});
 
     CurrentLine currentLine() const;
+    /// The line that holds a position, with the selection as far as it lies there.
+    CurrentLine lineAt(std::int32_t position) const;
 
     /// Types characters and presses keys of the system's numbers, as the keyboard would.
     void typeCharacters(std::string_view characters);
@@ -104,6 +111,8 @@ public:
 
 protected:
     bool onKey(const KeyEvent& event) override;
+    bool onCharacter(wchar_t character) override;
+    bool onMouse(const MouseEvent& event) override;
     bool onFilesDropped(std::uintptr_t drop) override;
     bool onContextMenu(std::optional<Point> point) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
@@ -126,6 +135,7 @@ private:
     FormatSource format_;
     WorkAreaListener listener_;
     bool resultReplaces_ = false;
+    bool keyIsDealtWith_ = false;  ///< What it would type is none of the text.
 };
 
 }  // namespace calquo

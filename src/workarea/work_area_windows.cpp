@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -97,8 +98,9 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCo
 }
 
 bool WorkArea::onKey(const KeyEvent& event) {
-    if (event.released) {
-        return TextArea::onKey(event);
+    keyIsDealtWith_ = !event.released && listener_.takesKey(event);
+    if (event.released || keyIsDealtWith_) {
+        return keyIsDealtWith_ || TextArea::onKey(event);
     }
     listener_.keyPressed();
     const auto isMeant = [&](const auto& row) { return row.key == event.key && fits(row.modifiers, event); };
@@ -107,6 +109,7 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     if (const auto row = std::ranges::find_if(keyCommands_, isMeant); row != keyCommands_.end()) {
+        keyIsDealtWith_ = true;
         // A key that is held a little too long is meant once.
         if (!event.repeated) {
             sendCommand(parent(), {row->command});
@@ -114,6 +117,19 @@ bool WorkArea::onKey(const KeyEvent& event) {
         return true;
     }
     return TextArea::onKey(event);
+}
+
+bool WorkArea::onCharacter(wchar_t character) {
+    if (std::exchange(keyIsDealtWith_, false)) {
+        return true;
+    }
+    listener_.textComes(languageText({&character, 1}));
+    return TextArea::onCharacter(character);
+}
+
+bool WorkArea::onMouse(const MouseEvent& event) {
+    listener_.mouse(event);
+    return TextArea::onMouse(event);
 }
 
 bool WorkArea::onFilesDropped(std::uintptr_t drop) {
@@ -126,7 +142,7 @@ bool WorkArea::onContextMenu(std::optional<Point> point) {
     if (point) {
         giveFocus();
         // A click inside the selection is about it; any other is about its own place.
-        const std::int32_t position = positionAt(*point);
+        const std::int32_t position = positionOnScreen(*point);
         const TextRange selected = selection();
         if (position < selected.begin || position > selected.end) {
             select({position, position});
@@ -234,15 +250,18 @@ void WorkArea::addLine(std::int32_t position, LinePlace place, const std::string
     listener_.evaluated(expression, edit.answer ? &*edit.answer : nullptr);
 }
 
-CurrentLine WorkArea::currentLine() const {
+CurrentLine WorkArea::currentLine() const { return lineAt(selection().begin); }
+
+CurrentLine WorkArea::lineAt(std::int32_t position) const {
     const TextRange selected = selection();
-    const Paragraph line = paragraphAt(selected.begin);
+    const Paragraph line = paragraphAt(position);
     const auto [start, end] = line.range;
     return {languageText(line.text), start, offsetIn(start, std::clamp(selected.begin, start, end)),
             offsetIn(start, std::clamp(selected.end, start, end))};
 }
 
 void WorkArea::typeCharacters(std::string_view characters) {
+    keyIsDealtWith_ = false;
     for (const wchar_t unit : controlText(characters)) {
         SendMessageW(handle(), WM_CHAR, unit, 1);
     }
@@ -304,10 +323,12 @@ void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_vi
                         std::size_t caret) {
     const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
+    listener_.textComes(before);
     replace(inside, {{text, normalStyle}}, positionOf(line.start, caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
+    listener_.textComes(text);
     replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
             positionOf(line.start, caret));
 }

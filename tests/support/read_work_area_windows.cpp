@@ -87,10 +87,15 @@ std::string drawnSheet(HWND workArea, bool marked) {
     return drawn;
 }
 
-/// The hint below the sheet; empty where none shows.
+/// The hint below the sheet, or the tip beside a line; empty where neither shows.
 std::string hintOf(HWND window) {
-    const HWND hint = FindWindowExW(window, nullptr, L"CalquoHint", nullptr);
-    return hint != nullptr && IsWindowVisible(hint) != 0 ? utf8(textOf(hint)) : "";
+    for (const char* name : {"CalquoHint", "CalquoTip"}) {
+        const HWND hint = FindWindowExA(window, nullptr, name, nullptr);
+        if (hint != nullptr && IsWindowVisible(hint) != 0) {
+            return utf8(textOf(hint));
+        }
+    }
+    return "";
 }
 
 /// What a line of the input expects: the sheet as drawnSheet() has it, and after " ??" a part of the hint, or nothing
@@ -181,7 +186,11 @@ void printWindow(HWND window, HWND workArea) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[16] = L"";
         GetClassNameW(child, name, static_cast<int>(std::size(name)));
-        if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
+        const bool isTip = std::wcscmp(name, L"CalquoTip") == 0;
+        if (isTip && isShown(child)) {
+            GetWindowRect(child, &place);
+            std::printf("tip %ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
+        } else if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
             std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(child)));
             printButtons(child);
         }
