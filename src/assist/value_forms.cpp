@@ -9,6 +9,7 @@
 #include "engine/evaluator.h"
 #include "format/fraction.h"
 #include "format/numeric_format.h"
+#include "format/shortest_digits.h"
 #include "format/value_writer.h"
 #include "numeric/complex_arithmetic.h"
 #include "values/durations.h"
@@ -85,8 +86,7 @@ std::string fullText(Real number) {
     if (bits.special()) {
         return bits.infinite() && bits.negative() ? "" : FormatValue(number, 0, 10);
     }
-    return fewestDigits([&](std::uint32_t digits) { return roundedText(number, digits); },
-                        [&](const std::string& text) { return readsAs(text, number); });
+    return roundedText(number, static_cast<std::uint32_t>(digitsToReadBack(number, 10)));
 }
 
 std::string fullText(const Value& value) {
