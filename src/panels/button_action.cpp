@@ -53,6 +53,19 @@ SurroundCharacters insertAround(const LineSelection& line, const Affixes& around
     return result;
 }
 
+/// Puts a function around the selection or, where nothing is selected, around a result that has just been carried on.
+/// A name without arguments takes the place of that result.
+ButtonAction insertFunction(const LineSelection& line, const Affixes& around) {
+    if (line.begin != line.end || line.carried == 0) {
+        return insertAround(line, around);
+    }
+    const std::size_t begin = line.end - line.carried;
+    if (around.prefix.find('(') == std::string::npos) {
+        return ReplaceCharacters{begin, line.end, around.prefix, begin + around.prefix.size()};
+    }
+    return insertAround({line.text, begin, line.end}, around);
+}
+
 /// A call of a function with the selection as its first argument, `rest` after it, and `after` after the call.
 Affixes callOf(std::string_view name, std::string_view rest, std::string_view after = {}) {
     return {std::string(name) + '(', std::string(rest).append(")").append(after)};
@@ -180,7 +193,7 @@ ButtonAction editingAction(Symbol symbol) {
 ButtonAction actionOf(const PanelEntry& panel, const PanelButton& button, const LineSelection& line,
                       AngleOption angle) {
     const std::size_t end = std::min(line.end, line.text.size());
-    const LineSelection inLine{line.text, std::min(line.begin, end), end};
+    const LineSelection inLine{line.text, std::min(line.begin, end), end, std::min(line.carried, end)};
     const std::string_view name = button.insertion;
     switch (panel.group) {
         case PanelGroup::Keypads:
@@ -189,15 +202,16 @@ ButtonAction actionOf(const PanelEntry& panel, const PanelButton& button, const 
             }
             return name.empty() ? editingAction(button.symbol) : TypeCharacters{name};
         case PanelGroup::Financial:
-            return insertAround(inLine, financialCall(name));
+            return insertFunction(inLine, financialCall(name));
         case PanelGroup::BitLevel:
         case PanelGroup::Mathematics:
+            return insertFunction(inLine, callWithRoom(name));
         case PanelGroup::Units:
             return insertAround(inLine, callWithRoom(name));
         case PanelGroup::Statistics:
-            return insertAround(inLine, callOf(name, ""));
+            return insertFunction(inLine, callOf(name, ""));
         case PanelGroup::Trigonometric:
-            return insertAround(inLine, angleCall(name, angle));
+            return insertFunction(inLine, angleCall(name, angle));
     }
     return NoAction{};
 }

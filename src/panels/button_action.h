@@ -17,6 +17,7 @@ struct LineSelection {
     std::string_view text;
     std::size_t begin = 0;
     std::size_t end = 0;
+    std::size_t carried = 0;  ///< So many characters before the caret are a result that has just been carried on.
 };
 
 /// Nothing is to be done to the work area.
@@ -50,7 +51,8 @@ struct ReplaceCharacters {
 
 using ButtonAction = std::variant<NoAction, TypeCharacters, EditingOperation, SurroundCharacters, ReplaceCharacters>;
 
-/// What pressing a button of a panel does. The selection counts as far as it lies in the line.
+/// What pressing a button of a panel does. The selection counts as far as it lies in the line. A result that has just
+/// been carried on is an argument for a function, and gives way to a name that takes none, but not to a unit.
 ButtonAction actionOf(const PanelEntry& panel, const PanelButton& button, const LineSelection& line, AngleOption angle);
 
 }  // namespace calquo

@@ -70,7 +70,7 @@ bool ButtonPanel::onCommand(const Notification& notification) {
 
 void pressButton(WorkArea& workArea, const PanelEntry& panel, const PanelButton& button, AngleOption angle) {
     const CurrentLine line = workArea.currentLine();
-    const LineSelection selection{line.text, line.selectionBegin, line.selectionEnd};
+    const LineSelection selection{line.text, line.selectionBegin, line.selectionEnd, line.carried};
     std::visit(Performer{workArea, line}, actionOf(panel, button, selection, angle));
 }
 

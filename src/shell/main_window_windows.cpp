@@ -409,6 +409,7 @@ bool MainWindow::onFilesDropped(std::uintptr_t drop) {
 
 bool MainWindow::onCommand(const Notification& notification) {
     if (notification.control == nullptr) {
+        workArea_->endFreshness();
         commands_->run(notification.command);
     } else if (isPress(notification)) {
         runCaptionCommand(static_cast<CaptionCommand>(notification.command), notification.control);

@@ -134,7 +134,8 @@ private:
     static const WidgetClass& widgetClass();
 
     void chooseLook();
-    void typeInNormalStyle();
+    bool typeInNormalStyle(wchar_t character);
+    void makeEmptyParagraphPlain(std::int32_t caret);
     std::string richText(const std::vector<StyledRun>& runs) const;
     bool streamIntoSelection(std::string_view bytes, std::uint32_t format);
 

@@ -34,7 +34,7 @@ constexpr int margin = 8;  // at 96 dots per inch
 void appendEscaped(std::string& richText, std::wstring_view text) {
     for (const wchar_t unit : text) {
         if (unit == L'\n') {
-            richText += "\\par ";
+            richText += "\\par\\pard\\ql ";  // a new paragraph is aligned like none of its neighbours
         } else if (unit == L'\\' || unit == L'{' || unit == L'}') {
             richText += '\\';
             richText += static_cast<char>(unit);
@@ -52,32 +52,48 @@ std::string colorEntry(COLORREF color) {
            std::to_string(GetBValue(color)) + ";";
 }
 
-/// The style as the control takes it.
-CHARFORMAT2W formatOf(CharacterStyle style) {
+/// The style as the control takes it, with its font and without anything that a style does not say.
+CHARFORMAT2W formatOf(CharacterStyle style, const std::wstring& fontName) {
     CHARFORMAT2W format{};
     format.cbSize = sizeof format;
-    format.dwMask = CFM_COLOR | CFM_BOLD;
+    format.dwMask = CFM_EFFECTS2 | CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_OFFSET;
     format.crTextColor = style.color;
-    format.dwEffects = style.bold ? CFE_BOLD : 0;
-    return format;
-}
-
-/// The style with its font, and without anything that a style does not say.
-CHARFORMAT2W wholeFormatOf(CharacterStyle style, const std::wstring& fontName) {
-    CHARFORMAT2W format = formatOf(style);
-    format.dwMask |= CFM_EFFECTS | CFM_FACE | CFM_SIZE | CFM_CHARSET | CFM_OFFSET;
+    format.dwEffects = CFE_AUTOBACKCOLOR | (style.bold ? CFE_BOLD : 0U);
     format.yHeight = fontPoints * twipsPerPoint;
     format.bCharSet = DEFAULT_CHARSET;
     std::wcsncpy(format.szFaceName, fontName.c_str(), LF_FACESIZE - 1);
     return format;
 }
 
-/// The style that a character would be typed in.
-CharacterStyle styleAtCaret(HWND window) {
+/// Whether the whole selection, or what would be typed at the caret, has this format.
+bool isSelectionOf(HWND window, const CHARFORMAT2W& wanted) {
+    constexpr DWORD compared = CFM_EFFECTS2 | CFM_FACE | CFM_SIZE | CFM_OFFSET;
     CHARFORMAT2W format{};
     format.cbSize = sizeof format;
     SendMessageW(window, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-    return {format.crTextColor, (format.dwEffects & CFE_BOLD) != 0};
+    return (format.dwMask & compared) == compared && ((format.dwEffects ^ wanted.dwEffects) & CFM_EFFECTS2) == 0 &&
+           format.crTextColor == wanted.crTextColor && format.yHeight == wanted.yHeight &&
+           format.yOffset == wanted.yOffset && std::wcscmp(format.szFaceName, wanted.szFaceName) == 0;
+}
+
+void format(HWND window, WPARAM what, const CHARFORMAT2W& wanted) {
+    SendMessageW(window, EM_SETCHARFORMAT, what, reinterpret_cast<LPARAM>(&wanted));
+}
+
+/// Aligned and indented like the program's own paragraphs: not at all.
+bool isPlain(const PARAFORMAT2& paragraph) {
+    return paragraph.wAlignment == PFA_LEFT && paragraph.wNumbering == 0 && paragraph.dxStartIndent == 0 &&
+           paragraph.dxRightIndent == 0 && paragraph.dxOffset == 0;
+}
+
+/// Keys with Control that the control would take for formats, or may in another version of it: all of characters, but
+/// for those of its editing commands.
+bool isFormatKey(const KeyEvent& event) {
+    constexpr std::wstring_view editing = L"ACVXYZ";
+    const bool isCharacter = (event.key >= '0' && event.key <= 'Z') || event.key == VK_SPACE ||
+                             (event.key >= VK_OEM_1 && event.key <= VK_OEM_102);
+    const bool edits = !event.shift && editing.find(static_cast<wchar_t>(event.key)) != std::wstring_view::npos;
+    return event.control && !event.alt && !event.released && isCharacter && !edits;
 }
 
 /// Hands the control the next piece of the text that `rest`, a string_view's address, still holds.
@@ -188,6 +204,9 @@ bool TextArea::onKey(const KeyEvent& event) {
     if (menuKey) {
         passToTopLevel(event);
     }
+    if (isFormatKey(event)) {
+        return true;
+    }
     const bool undoes = event.key == 'Z' || event.key == 'Y' || event.key == VK_BACK;
     hasGoneBack_ = hasGoneBack_ || (undoes && (event.shift || event.control || event.alt));
     return menuKey;
@@ -198,8 +217,12 @@ bool TextArea::onCharacter(wchar_t character) {
     if (character < L' ' && character != L'\t' && character != L'\b') {
         return true;
     }
-    typeInNormalStyle();
-    return false;
+    if (character != L'\t' && (character < L' ' || character == L'\x7F')) {
+        return false;
+    }
+    // What keys with Control still leave of characters, a tab for I and a blank for itself, nobody means to type.
+    const bool isOfCommand = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+    return isOfCommand || typeInNormalStyle(character);
 }
 
 std::optional<std::intptr_t> TextArea::onSimpleMessage(std::uint32_t message) {
@@ -208,19 +231,43 @@ std::optional<std::intptr_t> TextArea::onSimpleMessage(std::uint32_t message) {
 }
 
 void TextArea::chooseLook() {
-    const CHARFORMAT2W format = wholeFormatOf(normal_, fontName_);
-    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
+    format(handle(), SCF_DEFAULT, formatOf(normal_, fontName_));
     SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, paper);
 }
 
-void TextArea::typeInNormalStyle() {
-    // Typing takes the look of its neighbour, which may be a result. Selected text keeps its own.
+/// Lets what is typed look normal, although the control takes its look from its neighbours or from what it replaces.
+/// True where it has put the character into the text itself.
+bool TextArea::typeInNormalStyle(wchar_t character) {
     const TextRange selected = selection();
-    if (selected.begin != selected.end || styleAtCaret(handle()) == normal_) {
+    const bool selects = selected.begin != selected.end;
+    if (!selects) {
+        makeEmptyParagraphPlain(selected.begin);
+    }
+    const CHARFORMAT2W normal = formatOf(normal_, fontName_);
+    if (isSelectionOf(handle(), normal)) {
+        return false;
+    }
+    if (selects) {
+        replace(selected, {{std::wstring(1, character), normal_}}, selected.begin + 1);
+        return true;
+    }
+    format(handle(), SCF_SELECTION, normal);
+    return false;
+}
+
+/// Nothing is left of a paragraph at the caret but its alignment and its indents: these go as well.
+void TextArea::makeEmptyParagraphPlain(std::int32_t caret) {
+    PARAFORMAT2 paragraph{};
+    paragraph.cbSize = sizeof paragraph;
+    SendMessageW(handle(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
+    if (isPlain(paragraph) || !paragraphAt(caret).text.empty()) {
         return;
     }
-    CHARFORMAT2W format = formatOf(normal_);
-    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    PARAFORMAT2 plain{};
+    plain.cbSize = sizeof plain;
+    plain.dwMask = PFM_ALIGNMENT | PFM_NUMBERING | PFM_STARTINDENT | PFM_RIGHTINDENT | PFM_OFFSET;
+    plain.wAlignment = PFA_LEFT;
+    SendMessageW(handle(), EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&plain));
 }
 
 void TextArea::onPlaced() {
@@ -344,8 +391,8 @@ bool TextArea::replaceSelectionByRichText(std::string_view text) {
 }
 
 void TextArea::insertLineEnd() {
-    typeInNormalStyle();
-    SendMessageW(handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\n"));
+    const std::int32_t begin = selection().begin;
+    replace(selection(), {{L"\n", normal_}}, begin + 1);
 }
 
 std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
@@ -353,7 +400,9 @@ std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
     appendEscaped(head, fontName_);
     head += ";}}{\\colortbl;";
     std::string body;
-    const std::string font = "{\\f0\\fs" + std::to_string(2 * fontPoints);
+    // Set back first whatever the neighbours have; "plain" alone leaves raised and hidden characters so in Wine's
+    // control.
+    const std::string font = "{\\plain\\v0\\nosupersub\\f0\\fs" + std::to_string(2 * fontPoints);
     int color = 0;
     for (const StyledRun& run : runs) {
         head += colorEntry(run.style.color);
@@ -436,19 +485,13 @@ bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
 
 /// Makes the first character look normal, or the caret where there is none; true when that is a step for undo.
 bool TextArea::startInNormalStyle() {
-    const CHARFORMAT2W wanted = wholeFormatOf(normal_, fontName_);
+    const CHARFORMAT2W normal = formatOf(normal_, fontName_);
     const bool isEmpty = lengthOf(handle()) == 0;
     select({0, isEmpty ? 0 : 1});
-    CHARFORMAT2W format{};
-    format.cbSize = sizeof format;
-    SendMessageW(handle(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-    const bool isNormal = CharacterStyle{format.crTextColor, (format.dwEffects & CFE_BOLD) != 0} == normal_ &&
-                          (format.dwEffects & CFM_EFFECTS) == wanted.dwEffects && format.yHeight == wanted.yHeight &&
-                          std::wcscmp(format.szFaceName, wanted.szFaceName) == 0;
-    if (isNormal) {
+    if (isSelectionOf(handle(), normal)) {
         return false;
     }
-    SendMessageW(handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&wanted));
+    format(handle(), SCF_SELECTION, normal);
     return !isEmpty;
 }
 

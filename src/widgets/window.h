@@ -130,8 +130,9 @@ protected:
     virtual bool onCommand(const Notification&) { return false; }
     /// Files were dropped on the window; the system tells of them by `drop`.
     virtual bool onFilesDropped(std::uintptr_t /*drop*/) { return false; }
-    /// A message of which the number alone counts: the dialog's question what a control is, a step of undo, pasting, or
-    /// one of the messages that mean something to windows of one class alone.
+    /// A message of which the number alone counts: the dialog's question what a control is, a step of undo, pasting,
+    /// the beginning of a composition by an input method, or one of the messages that mean something to windows of one
+    /// class alone.
     virtual std::optional<std::intptr_t> onSimpleMessage(std::uint32_t /*message*/) { return std::nullopt; }
 
     virtual bool onPaint() { return false; }

@@ -251,6 +251,7 @@ Window::Result Window::dispatchInput(const Message& message) {
         case WM_UNDO:
         case EM_UNDO:
         case WM_PASTE:
+        case WM_IME_STARTCOMPOSITION:
             return onSimpleMessage(message.code);
         default:
             return isOfOneClass(message.code) ? onSimpleMessage(message.code) : std::nullopt;

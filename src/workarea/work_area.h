@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,7 @@ struct CurrentLine {
     std::int32_t start = 0;
     std::size_t selectionBegin = 0;  ///< The selection as far as it lies in the line, from the line's start.
     std::size_t selectionEnd = 0;
+    std::size_t carried = 0;  ///< So many characters before the caret are a fresh result, see below.
 };
 
 /// Characters of a line, from one offset to another.
@@ -58,6 +60,8 @@ struct WorkAreaListener {
     std::function<void(const MouseEvent&)> mouse = [](const MouseEvent&) {};
 };
 
+/// After an evaluation the result that it has carried on is fresh, until anything but typing happens at its end: the
+/// text of an operand takes its place then, and any other goes on from it.
 class WorkArea : public TextArea {
 public:
     using FormatSource = std::function<NumericFormat()>;
@@ -74,6 +78,12 @@ public:
     CurrentLine currentLine() const;
     /// The line that holds a position, with the selection as far as it lies there.
     CurrentLine lineAt(std::int32_t position) const;
+
+    /// Prepares for text that is about to take the place of the selection: where it begins an operand, a fresh result
+    /// is selected.
+    void makeWayFor(std::wstring_view text);
+    /// A command has been chosen: no result is fresh any longer.
+    void endFreshness() { fresh_.reset(); }
 
     /// Types characters and presses keys of the system's numbers, as the keyboard would.
     void typeCharacters(std::string_view characters);
@@ -118,12 +128,19 @@ protected:
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
+    /// A result that has been carried on, and where it stands.
+    struct CarriedResult {
+        TextRange range;
+        std::wstring text;
+    };
+
     struct KeyRow;
     static const KeyRow keyRows[];
 
     void evaluateIntoSelection();
     void insertPlainText(std::u16string_view text);
     bool insertRichText(std::string_view text);
+    bool isFresh() const;
 
     /// Puts the caret at the start of the next line, which is made where there is none.
     void goToLineAfter(const Paragraph& line);
@@ -136,6 +153,8 @@ private:
     WorkAreaListener listener_;
     bool resultReplaces_ = false;
     bool keyIsDealtWith_ = false;  ///< What it would type is none of the text.
+    std::optional<CarriedResult> fresh_;
+    bool decimalKeyIsDown_ = false;  ///< That of the number pad, whose character comes next.
 };
 
 }  // namespace calquo

@@ -51,9 +51,7 @@ void refuseWhatCannotBeRead(FileKind kind, std::string_view bytes) {
 
 }  // namespace
 
-std::uint64_t mostTextCost() {
-    return isUnderWine() ? mostInWine : std::numeric_limits<std::uint64_t>::max();
-}
+std::uint64_t mostTextCost() { return isUnderWine() ? mostInWine : std::numeric_limits<std::uint64_t>::max(); }
 
 void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {

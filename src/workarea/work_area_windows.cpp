@@ -5,8 +5,10 @@
 #include <ranges>
 #include <utility>
 
+#include "engine/characters.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
+#include "workarea/carried_result.h"
 #include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/language_text.h"
@@ -45,6 +47,21 @@ bool fits(Modifiers wanted, const KeyEvent& event) {
             return event.control && event.shift && !event.alt;
     }
     return false;
+}
+
+/// Whether a key puts text in, or will when it is followed by others: after any other a result is no longer fresh.
+bool belongsToTyping(const KeyEvent& event) {
+    const bool pastes = (event.control && event.key == 'V') || (event.shift && event.key == VK_INSERT);
+    const bool isModifier = event.key == VK_SHIFT || event.key == VK_CONTROL || event.key == VK_MENU ||
+                            event.key == VK_CAPITAL || event.key == VK_NUMLOCK;
+    const bool isOfInputMethod = event.key == VK_PROCESSKEY || event.key == VK_PACKET;
+    if (pastes || isModifier || isOfInputMethod) {
+        return true;
+    }
+    const bool isOfNumberPad = event.key >= VK_NUMPAD0 && event.key <= VK_DIVIDE;
+    const bool isCharacter = isOfNumberPad || LOWORD(MapVirtualKeyW(event.key, MAPVK_VK_TO_CHAR)) >= L' ';
+    // Control and Alt together are the key of further characters on many keyboards.
+    return isCharacter && event.control == event.alt;
 }
 
 /// The place of a position in a line that starts at `start`, and the way back.
@@ -98,11 +115,15 @@ WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCo
 }
 
 bool WorkArea::onKey(const KeyEvent& event) {
+    if (!event.released && !belongsToTyping(event)) {
+        endFreshness();
+    }
     keyIsDealtWith_ = !event.released && listener_.takesKey(event);
     if (event.released || keyIsDealtWith_) {
         return keyIsDealtWith_ || TextArea::onKey(event);
     }
     listener_.keyPressed();
+    decimalKeyIsDown_ = event.key == VK_DECIMAL && !event.control && !event.alt;
     const auto isMeant = [&](const auto& row) { return row.key == event.key && fits(row.modifiers, event); };
     if (const auto* const row = std::ranges::find_if(keyRows, isMeant); row != std::end(keyRows)) {
         (this->*row->act)();
@@ -123,12 +144,24 @@ bool WorkArea::onCharacter(wchar_t character) {
     if (std::exchange(keyIsDealtWith_, false)) {
         return true;
     }
+    if (std::exchange(decimalKeyIsDown_, false)) {
+        // The keyboard's layout has a mark of its own for this key.
+        typeCharacters(std::string(1, markCharacter(TokenClass::DecimalMark)));
+        return true;
+    }
+    // Keys such as Enter have done their work when they went down.
+    if (character >= L' ') {
+        makeWayFor({&character, 1});
+    }
     listener_.textComes(languageText({&character, 1}));
     return TextArea::onCharacter(character);
 }
 
 bool WorkArea::onMouse(const MouseEvent& event) {
     listener_.mouse(event);
+    if (event.action == MouseAction::Press) {
+        endFreshness();
+    }
     return TextArea::onMouse(event);
 }
 
@@ -158,10 +191,33 @@ std::optional<std::intptr_t> WorkArea::onSimpleMessage(std::uint32_t message) {
         case EM_PASTESPECIAL:
             paste();
             return 0;
+        case WM_UNDO:
+        case EM_UNDO:
+        case EM_REDO:
+            endFreshness();
+            return TextArea::onSimpleMessage(message);
+        case WM_IME_STARTCOMPOSITION:
+            makeWayFor(L"\u3042");  // what is composed are letters
+            return TextArea::onSimpleMessage(message);
         default:
             return message == resultReplaceQuery ? std::optional<std::intptr_t>(resultReplaces_ ? 1 : 0)
                                                  : TextArea::onSimpleMessage(message);
     }
+}
+
+bool WorkArea::isFresh() const {
+    if (!fresh_) {
+        return false;
+    }
+    const TextRange end{fresh_->range.end, fresh_->range.end};
+    return selection() == end && charactersIn(fresh_->range) == fresh_->text;
+}
+
+void WorkArea::makeWayFor(std::wstring_view text) {
+    if (isFresh() && beginsOperand(text)) {
+        select(fresh_->range);
+    }
+    endFreshness();
 }
 
 void WorkArea::evaluate() {
@@ -257,7 +313,7 @@ CurrentLine WorkArea::lineAt(std::int32_t position) const {
     const Paragraph line = paragraphAt(position);
     const auto [start, end] = line.range;
     return {languageText(line.text), start, offsetIn(start, std::clamp(selected.begin, start, end)),
-            offsetIn(start, std::clamp(selected.end, start, end))};
+            offsetIn(start, std::clamp(selected.end, start, end)), isFresh() ? fresh_->text.size() : 0};
 }
 
 void WorkArea::typeCharacters(std::string_view characters) {
@@ -274,6 +330,7 @@ void WorkArea::insertForeignText(const ForeignText& text) {
         if (text.plain.size() * sizeof(char16_t) > largestFile || text.rich.size() > largestFile) {
             throw FileFault{FileFailure::TooLarge, {}};
         }
+        makeWayFor({reinterpret_cast<const wchar_t*>(text.plain.data()), text.plain.size()});
         if (text.rich.empty() || !insertRichText(text.rich)) {
             insertPlainText(text.plain);
         }
@@ -315,12 +372,14 @@ void WorkArea::paste() { insertForeignText(clipboardText(handle(), ForeignForm::
 void WorkArea::pasteWithLooks() { insertForeignText(clipboardText(handle(), ForeignForm::Rich)); }
 
 void WorkArea::clear() {
+    endFreshness();
     selectAll();
     deleteSelection();
 }
 
 void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_view before, std::string_view after,
                         std::size_t caret) {
+    endFreshness();
     const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
     listener_.textComes(before);
@@ -328,6 +387,7 @@ void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_vi
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
+    endFreshness();
     listener_.textComes(text);
     replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
             positionOf(line.start, caret));
@@ -342,6 +402,7 @@ void WorkArea::goToLineAfter(const Paragraph& line) {
 }
 
 void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
+    endFreshness();
     if (edit.goesToNextLine) {
         goToLineAfter(line);
     }
@@ -352,6 +413,10 @@ void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
     std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
     const std::int32_t start = line.range.begin;
     replace(textRange(start, edit.begin, edit.end), runs, positionOf(start, edit.caret));
+    if (edit.carried != 0) {
+        const std::int32_t end = positionOf(start, edit.caret);
+        fresh_ = {{end - static_cast<std::int32_t>(edit.carried), end}, controlText(edit.answer->text)};
+    }
 }
 
 }  // namespace calquo

@@ -33,10 +33,15 @@ const PanelButton& buttonOf(std::uint16_t panel, std::string_view labelOrDescrip
     throw std::invalid_argument(std::string(labelOrDescription));
 }
 
-/// A line and its selection, drawn as "2+[3]", or with the caret alone as "2+|3".
+/// A line and its selection, drawn as "2+[3]", or with the caret alone as "2+|3"; "<" begins a result that has just
+/// been carried on to the caret.
 struct Drawing {
     Drawing(std::string_view drawn) {
         for (const char character : drawn) {
+            if (character == '<') {
+                carried = drawn.size() - 2;
+                continue;
+            }
             if (character == '[' || character == '|') {
                 begin = text.size();
             }
@@ -52,6 +57,7 @@ struct Drawing {
     std::string text;
     std::size_t begin = 0;
     std::size_t end = 0;
+    std::size_t carried = 0;
 };
 
 /// What a button makes of a line, with "|" for the caret; an operation of the work area by its name.
@@ -92,7 +98,8 @@ private:
 };
 
 std::string press(std::uint16_t panel, const PanelButton& button, const Drawing& line, AngleOption angle = {}) {
-    return std::visit(Pressed(line), actionOf(*findPanel(panel), button, {line.text, line.begin, line.end}, angle));
+    return std::visit(Pressed(line),
+                      actionOf(*findPanel(panel), button, {line.text, line.begin, line.end, line.carried}, angle));
 }
 
 struct ActionRow {
@@ -129,6 +136,16 @@ const ActionRow actionRows[] = {
     {0xA211, "pmt", "|", "pmt(|; ; 1 year; 5%; month; month)"},
     {0xA211, "dur", "|", "dur(|; ; 5%; month; 0; month) -> yr"},
     {0xA211, "rate", "|", "rate(|; ; 1 year; month; 0; month)"},
+    // A result that has just been carried on is a function's argument.
+    {0xA331, "sqrt", "<25|", "sqrt(25|)"},
+    {0xA331, "logB", "<(1; 2)|", "logB(|; (1; 2))"},
+    {0xA411, "max", "<5|", "max(5|)"},
+    {0xA181, "bAnd", "<5|", "bAnd(5|; )"},
+    {0xA211, "fv", "<5|", "fv(5|; 1 year; 5%; month; 0; month)"},
+    {0xA010, "sin", "<5|", "sin(5| deg)", Degree},
+    {0xA361, "rnd", "<5|", "rnd|"},
+    {0xA550, "km", "<5|", "5 km|"},
+    {0xA113, "'16", "<5|", "5| '16"},
     // Those of angles add the unit that is chosen, and no others do.
     {0xA010, "sin", "[30]", "sin(30|)"},
     {0xA010, "sin", "[30]", "sin(30| deg)", Degree},

@@ -2,6 +2,7 @@
 #include "work_area_fixture.h"
 
 #include <algorithm>
+#include <cwchar>
 
 #include "held_key.h"
 #include "widgets/kept_exception.h"
@@ -19,11 +20,17 @@ LRESULT CALLBACK receive(HWND window, UINT code, WPARAM first, LPARAM second) {
     return DefWindowProcW(window, code, first, second);
 }
 
-/// 'n' for the normal style, 'r' for the result style, '?' for any other.
+/// 'n' for the normal style, 'r' for the result style, '?' for any other: of another size, italic, hidden and so on.
 char styleOfSelection(HWND control) {
     CHARFORMAT2W format{};
     format.cbSize = sizeof format;
     SendMessageW(control, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    constexpr LONG twelvePoints = 240;
+    const DWORD effects = format.dwEffects & CFM_EFFECTS2 & ~static_cast<DWORD>(CFE_BOLD);
+    if (effects != CFE_AUTOBACKCOLOR || format.yHeight != twelvePoints ||
+        std::wcscmp(format.szFaceName, L"Arial") == 0) {
+        return '?';
+    }
     const bool bold = (format.dwEffects & CFE_BOLD) != 0;
     if (!bold && format.crTextColor == RGB(0, 0, 0)) {
         return 'n';

@@ -160,6 +160,165 @@ TEST(WorkArea, WhatIsTypedBesideAResultIsNormal) {
     EXPECT_EQ(fixture.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
 }
 
+/// Puts rich text at the caret as pasting with its formats does.
+void streamIn(const WorkAreaFixture& fixture, std::string_view text) {
+    EDITSTREAM stream{
+        reinterpret_cast<DWORD_PTR>(&text), 0, [](DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
+            auto& text = *reinterpret_cast<std::string_view*>(rest);
+            *count = static_cast<LONG>(text.copy(reinterpret_cast<char*>(buffer), static_cast<std::size_t>(room)));
+            text.remove_prefix(static_cast<std::size_t>(*count));
+            return DWORD{0};
+        }};
+    SendMessageW(fixture.control(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+}
+
+/// Rich text that is as unlike the program's own as it can be.
+std::string loud(std::string_view text) {
+    return "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red255\\green0\\blue0;\\red255\\green255\\blue0;}"
+           "\\f0\\fs40\\i\\ul\\strike\\super\\v\\cf1\\highlight2 " +
+           std::string(text) + "}";
+}
+
+int alignmentAt(WorkAreaFixture& fixture, std::size_t place) {
+    fixture.select(place, place);
+    PARAFORMAT2 paragraph{};
+    paragraph.cbSize = sizeof paragraph;
+    SendMessageW(fixture.control(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
+    return paragraph.wAlignment;
+}
+
+/// What is done after "7*8", all pasted with formats and centred, and what stands there then; "?" is after each
+/// character in another style.
+struct LoudRow {
+    std::size_t begin, end;
+    std::string_view typed;
+    int key;
+    std::string_view after;
+};
+
+TEST(WorkArea, WhatIsWrittenIsInTheProgramsStyleAfterPastedText) {
+    constexpr LoudRow rows[] = {
+        {3, 3, "", VK_RETURN, "7?*?8?< = 56>\n\n56|"},
+        {3, 3, "+1", 0, "7?*?8?+1|"},
+        {0, 0, "1+", 0, "1+|7?*?8?"},
+        {1, 2, "-3+", 0, "7?-3+|8?"},
+        {0, 3, "12", 0, "12|"},
+        {1, 1, "", VK_F9, "7?56|*?8?"},
+        {3, 3, "\n9", 0, "7?*?8?\n9|"},
+
+    };
+    for (const LoudRow& row : rows) {
+        SCOPED_TRACE(row.after);
+        WorkAreaFixture fixture;
+        streamIn(fixture, loud("7*8"));
+        PARAFORMAT2 centred{};
+        centred.cbSize = sizeof centred;
+        centred.dwMask = PFM_ALIGNMENT;
+        centred.wAlignment = PFA_CENTER;
+        SendMessageW(fixture.control(), EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&centred));
+        const std::wstring before = fixture.text();
+        fixture.select(row.begin, row.end);
+        fixture.type(row.typed);
+        if (row.key != 0) {
+            fixture.press(row.key);
+        }
+        EXPECT_EQ(fixture.picture(), wide(row.after));
+        // The pasted line stays centred; the lines below it are the program's.
+        const std::size_t lineEnd = fixture.text().find(L'\n');
+        if (fixture.text().starts_with(L"7")) {
+            EXPECT_EQ(alignmentAt(fixture, 0), PFA_CENTER);
+        }
+        if (lineEnd != std::wstring::npos) {
+            EXPECT_EQ(alignmentAt(fixture, lineEnd + 1), PFA_LEFT);
+            EXPECT_EQ(alignmentAt(fixture, fixture.text().size()), PFA_LEFT);
+        }
+        if (row.key != 0) {
+            fixture.undo();
+            EXPECT_EQ(fixture.text(), before);
+            EXPECT_EQ(alignmentAt(fixture, 0), PFA_CENTER);
+        }
+    }
+}
+
+TEST(WorkArea, AnEmptyLineIsPlainAgainWhenItIsTypedIn) {
+    WorkAreaFixture fixture;
+    PARAFORMAT2 centred{};
+    centred.cbSize = sizeof centred;
+    centred.dwMask = PFM_ALIGNMENT;
+    centred.wAlignment = PFA_CENTER;
+    SendMessageW(fixture.control(), EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&centred));
+    fixture.type("7");
+    EXPECT_EQ(alignmentAt(fixture, 1), PFA_LEFT);
+}
+
+TEST(WorkArea, AResultThatIsTypedOverBecomesNormal) {
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_RETURN);
+    fixture.select(6, 7);
+    fixture.type("78");
+    EXPECT_EQ(fixture.picture(), L"2+3< = >78|\n\n5");
+    fixture.undo();
+    fixture.undo();
+    EXPECT_EQ(fixture.text(), L"2+3 = 5\n\n5");
+    EXPECT_EQ(fixture.picture().substr(0, 9), L"2+3< = 5>");
+}
+
+/// What is typed or done while a result is fresh, and what stands in its line then.
+TEST(WorkArea, AFreshResultGivesWayToAnOperand) {
+    struct Row {
+        std::string_view typed, line, afterUndo;
+    };
+    for (const Row& row : {Row{"7*8", "7*8", "5"},
+                           {".5", ".5", "5"},
+                           {"(1+2)", "(1+2)", "5"},
+                           {"*8", "5*8", "5"},
+                           {" 7", "5 7", "5"},
+                           {")", "5)", "5"},
+                           {"pi", "pi", "5"}}) {
+        SCOPED_TRACE(row.typed);
+        WorkAreaFixture fixture;
+        fixture.type("2+3");
+        fixture.press(VK_RETURN);
+        fixture.type(row.typed);
+        EXPECT_EQ(fixture.picture(), L"2+3< = 5>\n\n" + wide(row.line) + L"|");
+        fixture.undo();
+        EXPECT_EQ(fixture.text(), L"2+3 = 5\n\n" + wide(row.afterUndo));
+        // What has been brought back is no longer fresh.
+        fixture.select(100, 100);
+        fixture.type("7");
+        EXPECT_EQ(fixture.text(), L"2+3 = 5\n\n57");
+    }
+}
+
+TEST(WorkArea, WhatIsComposedTakesThePlaceOfAFreshResult) {
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_RETURN);
+    SendMessageW(fixture.control(), WM_IME_STARTCOMPOSITION, 0, 0);
+    SendMessageW(fixture.control(), WM_IME_ENDCOMPOSITION, 0, 0);
+    fixture.type(L"\u4E03");
+    EXPECT_EQ(fixture.text(), L"2+3 = 5\n\n\u4E03");
+}
+
+/// The keys that make formats in some version of the control or other; Control is held.
+TEST(WorkArea, KeysOfFormatsDoNothing) {
+    WorkAreaFixture fixture;
+    fixture.type("2+3");
+    fixture.select(0, 3);
+    for (const int key : {int{'E'}, int{'J'}, int{'L'}, int{'R'}, int{'1'}, int{'2'}, int{'5'}, int{'B'}, int{'I'},
+                          int{'U'}, int{VK_OEM_PLUS}, int{VK_OEM_COMMA}}) {
+        fixture.press(key, VK_CONTROL);
+        EXPECT_EQ(alignmentAt(fixture, 1), PFA_LEFT) << key;
+        PARAFORMAT2 paragraph{};
+        paragraph.cbSize = sizeof paragraph;
+        SendMessageW(fixture.control(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
+        EXPECT_EQ(paragraph.bLineSpacingRule, 0) << key;
+        EXPECT_EQ(fixture.picture(), L"2|+3") << key;
+        fixture.select(0, 3);
+    }
+}
+
 TEST(WorkArea, CharactersBeyondTheCodePageStayAsTyped) {
     WorkAreaFixture fixture;
     const std::wstring line = L"8+\u221E+\u044F\u4E2D\U0001F600";
