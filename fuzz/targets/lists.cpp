@@ -30,7 +30,7 @@ Real itemFrom(InputReader& reader, Real before) {
     }
     ExtendedBits bits{reader.number(8) | std::uint64_t{1} << 63, static_cast<std::uint16_t>(reader.number(2))};
     // Near 1 more often than not.
-    bits.signExponent = kind < 0xF0 ? 0x3FFF + bits.signExponent % 64 : bits.signExponent;
+    bits.signExponent = kind < 0xF0 ? static_cast<std::uint16_t>(0x3FFF + bits.signExponent % 64) : bits.signExponent;
     bits.mantissa = bits.exponentField() == 0 ? 0 : bits.mantissa;
     return bits.special() ? before : realOf(bits);
 }
