@@ -25,7 +25,7 @@ TipContent contentOf(const std::vector<Detail>& details, DetailKeys keys) {
         return message("This line has no value.");
     }
     const bool hasLetters = keys == DetailKeys::Letters;
-    TipContent content{.footer = hasLetters ? L"A letter or a click copies its row" : L"A click copies a row",
+    TipContent content{.footer = hasLetters ? L"A letter or a click copies its row." : L"A click copies a row.",
                        .canBeChosen = true};
     for (const Detail& detail : details) {
         TipRow& row = content.rows.emplace_back();
@@ -43,7 +43,11 @@ TipContent contentOf(const Completion& completion) {
     if (completion.names.empty()) {
         return message("No name has \"" + completion.typed + "\" in it or in its description.");
     }
-    TipContent content{.footer = L"Enter or Tab takes a name, Esc none", .isList = true, .canBeChosen = true};
+    const std::size_t count = completion.names.size();
+    TipContent content{.footer = std::to_wstring(count) + (count == 1 ? L" name" : L" names") +
+                                 L". Enter or Tab takes the marked one, Esc none.",
+                       .isList = true,
+                       .canBeChosen = true};
     for (const std::size_t name : completion.names) {
         TipCell call = bold(nameOf(name));
         call.text += wide(argumentTextOf(name));

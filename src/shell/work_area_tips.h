@@ -59,7 +59,9 @@ private:
     Tip& tip();
     void tell(Shown what, TipContent content, const Anchor& anchor);
     Rectangle rectangleOf(const Anchor& anchor) const;
+    bool hasMoved() const;
     void update();
+    void showNames(const CurrentLine& line, Completion completion);
     void updateNames(const CurrentLine& line);
     void updateArguments(const CurrentLine& line);
     void onTime();
@@ -77,7 +79,8 @@ private:
 
     Shown shown_ = Shown::Nothing;
     Anchor anchor_;
-    Rectangle place_;  ///< Of the anchor's line in the window, when the tip was shown.
+    Rectangle place_;  ///< Of the anchor's line in the window.
+    Point scrolled_;   ///< And how far the text was scrolled when the tip was shown there.
     std::vector<Detail> details_;
     std::optional<Completion> completion_;
     std::optional<OpenCall> call_;

@@ -33,10 +33,16 @@ bool contains(const Rectangle& area, Point point) {
            point.top < area.top + area.height;
 }
 
-/// Where the mouse is in a window.
-Point mouseIn(WindowHandle window) {
+Point mouseOnScreen() {
     POINT place{};
     GetCursorPos(&place);
+    return {static_cast<int>(place.x), static_cast<int>(place.y)};
+}
+
+/// Where the mouse is in a window.
+Point mouseIn(WindowHandle window) {
+    const Point screen = mouseOnScreen();
+    POINT place{screen.left, screen.top};
     ScreenToClient(window, &place);
     return {static_cast<int>(place.x), static_cast<int>(place.y)};
 }
@@ -63,20 +69,25 @@ Tip& WorkAreaTips::tip() {
 // --- Showing and hiding ---------------------------------------------------------------------------------------------
 
 Rectangle WorkAreaTips::rectangleOf(const Anchor& anchor) const {
-    const Rectangle first = workArea_.placeOf(anchor.lineStart);
-    const Rectangle last = workArea_.placeOf(anchor.lineEnd);
-    const Rectangle at = workArea_.placeOf(anchor.position);
     const Rectangle& area = workArea_.rectangle();
-    const int height = last.top + last.height - first.top;
+    const int first = workArea_.pointOf(anchor.lineStart).top;
+    const int last = workArea_.pointOf(anchor.lineEnd).top;
+    const int next = workArea_.pointOf(anchor.lineEnd + 1).top;  // the same after the last line of the text
+    const int height = (next > last ? next : last + TextArea::lineHeight()) - first;
+    const Point at = workArea_.pointOf(anchor.position);
     // A line that is wrapped so often that it fills the window leaves no room for a tip outside it.
     const bool isHigh = height > area.height / 2;
-    return {area.left + at.left, area.top + (isHigh ? at.top : first.top), 0, isHigh ? at.height : height};
+    const int top = isHigh ? at.top : first;
+    return {area.left + at.left, area.top + top, 0, isHigh ? TextArea::lineHeight() : height};
 }
+
+bool WorkAreaTips::hasMoved() const { return workArea_.scrolled() != scrolled_; }
 
 void WorkAreaTips::tell(Shown what, TipContent content, const Anchor& anchor) {
     shown_ = what;
     anchor_ = anchor;
     place_ = rectangleOf(anchor);
+    scrolled_ = workArea_.scrolled();
     const Size client = clientSize(window_);
     tip().tell(std::move(content), place_, {0, 0, client.width, client.height});
     tip().startTime(watchingTime);
@@ -89,6 +100,8 @@ void WorkAreaTips::hide() {
         tip_->stopTime();
         tip_->hideTip();
     }
+    // The system tells the work area of the mouse where the tip was, as if it had moved there.
+    mouse_ = mouseIn(workArea_.handle());
 }
 
 void WorkAreaTips::onTime() {
@@ -97,7 +110,7 @@ void WorkAreaTips::onTime() {
         return;
     }
     const bool isLeft = shown_ == Shown::DetailsUnderMouse && !isMouseOnTipOrLine();
-    if (isLeft || GetActiveWindow() != window_ || rectangleOf(anchor_) != place_) {
+    if (isLeft || GetActiveWindow() != window_ || hasMoved()) {
         hide();
     } else {
         tip().startTime(watchingTime);
@@ -131,14 +144,14 @@ void WorkAreaTips::showDetailsUnderMouse() {
     if (point != mouse_ || GetActiveWindow() != window_ || GetKeyState(VK_LBUTTON) < 0) {
         return;
     }
-    const CurrentLine line = workArea_.lineAt(workArea_.positionAt(point));
+    const CurrentLine line = workArea_.lineAt(workArea_.positionOnScreen(mouseOnScreen()));
     const auto at = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
     const std::size_t result = resultOffset(line.text);
-    const Rectangle begin = workArea_.placeOf(at(result));
-    const Rectangle end = workArea_.placeOf(at(line.text.size()));
-    const bool isAfterBegin = point.top >= begin.top + begin.height || point.left >= begin.left;
+    const Point begin = workArea_.pointOf(at(result));
+    const Point end = workArea_.pointOf(at(line.text.size()));
+    const bool isAfterBegin = point.top >= begin.top + TextArea::lineHeight() || point.left >= begin.left;
     const bool isBeforeEnd = point.top < end.top || point.left <= end.left;
-    if (point.top < begin.top || point.top >= end.top + end.height || !isAfterBegin || !isBeforeEnd) {
+    if (point.top < begin.top || point.top >= end.top + TextArea::lineHeight() || !isAfterBegin || !isBeforeEnd) {
         return;
     }
     if (details_ = detailsOfLine(line.text); !details_.empty()) {
@@ -178,25 +191,27 @@ void WorkAreaTips::copy(const Detail& detail) {
 
 void WorkAreaTips::completeName() {
     const CurrentLine line = workArea_.currentLine();
-    completion_ = completionAt(line.text, line.selectionEnd);
-    if (!completion_) {
-        return;
+    if (auto completion = completionAt(line.text, line.selectionEnd)) {
+        showNames(line, std::move(*completion));
     }
+}
+
+void WorkAreaTips::showNames(const CurrentLine& line, Completion completion) {
+    completion_ = std::move(completion);
     const auto at = [&](std::size_t offset) { return line.start + static_cast<std::int32_t>(offset); };
     tell(completion_->names.empty() ? Shown::Note : Shown::Names, contentOf(*completion_),
          {line.start, at(line.text.size()), at(completion_->begin)});
 }
 
 void WorkAreaTips::updateNames(const CurrentLine& line) {
-    const std::size_t begin = completion_->begin;
-    const auto completion = completionAt(line.text, line.selectionEnd);
-    const bool isSameWord = completion && line.start == anchor_.lineStart && completion->begin == begin &&
+    auto completion = completionAt(line.text, line.selectionEnd);
+    const bool isSameWord = completion && line.start == anchor_.lineStart && completion->begin == completion_->begin &&
                             line.selectionBegin == line.selectionEnd;
     if (!isSameWord || completion->names.empty()) {
         shown_ = Shown::Nothing;
         tip().hideTip();
     } else if (completion->names != completion_->names) {
-        completeName();
+        showNames(line, std::move(*completion));
     }
 }
 

@@ -56,10 +56,12 @@ public:
     /// nothing but the control's own search for a position.
     Paragraph paragraphAt(std::int32_t position) const;
 
-    /// Where a position stands in the window: the left edge of its character, without a width, as high as its line.
-    Rectangle placeOf(std::int32_t position) const;
-    /// The position of the character nearest to a point.
-    std::int32_t positionAt(Point point) const;
+    /// The upper left corner of a position's character in the window. As costly as any search for a position.
+    Point pointOf(std::int32_t position) const;
+    /// How high a line of normal text is.
+    static int lineHeight();
+    /// How far the text is scrolled.
+    Point scrolled() const;
 
     /// The characters of a range, line ends as "\r".
     std::wstring charactersIn(TextRange range) const;

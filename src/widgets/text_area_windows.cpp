@@ -306,25 +306,21 @@ std::wstring TextArea::charactersIn(TextRange range) const {
 
 std::wstring TextArea::characters() const { return charactersIn({0, lengthOf(handle())}); }
 
-Rectangle TextArea::placeOf(std::int32_t position) const {
-    const auto pointOf = [this](LRESULT place) {
-        POINTL point{};
-        SendMessageW(handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&point), place);
-        return point;
-    };
-    const POINTL point = pointOf(position);
-    // The control tells the height of no line, but where the next one is.
-    const LRESULT line = SendMessageW(handle(), EM_EXLINEFROMCHAR, 0, position);
-    const LRESULT next = SendMessageW(handle(), EM_LINEINDEX, static_cast<WPARAM>(line + 1), 0);
-    const int distance = next < 0 ? 0 : static_cast<int>(pointOf(next).y - point.y);
-    constexpr int pointsPerInch = 72;
-    const int usual = fontPoints * screenDotsPerInch() * 6 / 5 / pointsPerInch;
-    return {static_cast<int>(point.x), static_cast<int>(point.y), 0, distance > 0 ? distance : usual};
+Point TextArea::pointOf(std::int32_t position) const {
+    POINTL point{};
+    SendMessageW(handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&point), position);
+    return {static_cast<int>(point.x), static_cast<int>(point.y)};
 }
 
-std::int32_t TextArea::positionAt(Point point) const {
-    POINTL place{point.left, point.top};
-    return static_cast<std::int32_t>(SendMessageW(handle(), EM_CHARFROMPOS, 0, reinterpret_cast<LPARAM>(&place)));
+int TextArea::lineHeight() {
+    constexpr int pointsPerInch = 72;
+    return fontPoints * screenDotsPerInch() * 6 / 5 / pointsPerInch;
+}
+
+Point TextArea::scrolled() const {
+    POINT place{};
+    SendMessageW(handle(), EM_GETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
+    return {static_cast<int>(place.x), static_cast<int>(place.y)};
 }
 
 Paragraph TextArea::paragraphAt(std::int32_t position) const {

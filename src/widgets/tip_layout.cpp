@@ -30,7 +30,7 @@ std::size_t endOfPiece(const TipCell& cell, TextSpan word, int width, const Cell
 }
 
 std::vector<int> columnWidths(const std::vector<TipRow>& rows, const TipMetrics& metrics, const CellMeasure& measure) {
-    constexpr int percentOfWidth = 45;
+    constexpr int percentOfWidth = 35;
     std::vector<int> widths;
     for (const TipRow& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));

@@ -70,7 +70,7 @@ struct TipLayout {
 std::vector<TextSpan> brokenLines(const TipCell& cell, int width, const CellMeasure& measure);
 
 /// Puts rows one below the other. A column is as wide as its widest cell, but none before the last takes more than
-/// 45 % of the width, and the last one gets what is left.
+/// 35 % of the width, and the last one gets what is left.
 TipLayout layOutTip(const std::vector<TipRow>& rows, const TipMetrics& metrics, const CellMeasure& measure);
 
 /// The room for a tip in an area: below a line or above it, whichever is higher; below where the tip fits there.

@@ -33,7 +33,7 @@ std::string drawn(const SheetState& state) {
 TEST(SheetCommands, TheMenuOffersWhatCanBeDone) {
     EXPECT_EQ(drawn({}),
               "!Undo !Redo -- !Cut !Copy !Copy Result !Copy Result in Full !Paste !Delete !Select All -- !Evaluate "
-              "!Evaluate All !Sum -- Bring Back Last Sheet ");
+              "!Evaluate All !Sum -- Details Complete Name -- Bring Back Last Sheet ");
     EXPECT_EQ(drawn({.isEmpty = false,
                      .hasSelection = true,
                      .lineHasResult = true,
@@ -43,7 +43,7 @@ TEST(SheetCommands, TheMenuOffersWhatCanBeDone) {
                      .canPaste = true,
                      .name = "sqrt"}),
               "Undo Redo -- Cut Copy Copy Result Copy Result in Full Paste Delete Select All -- Evaluate "
-              "Evaluate All Sum -- Help on sqrt Bring Back Last Sheet ");
+              "Evaluate All Sum -- Details Complete Name -- Help on sqrt Bring Back Last Sheet ");
 }
 
 TEST(SheetCommands, EachHasAKeyOrALetterOfItsOwn) {

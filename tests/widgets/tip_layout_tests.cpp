@@ -42,7 +42,7 @@ TEST(TipLayout, GivesColumnsWhatTheyNeedAndTheLastOneTheRest) {
     EXPECT_EQ(narrow.width, 100);
     EXPECT_EQ(narrow.rows[1].height, 30);
     EXPECT_EQ(narrow.rows[2].top, 45);
-    EXPECT_EQ(layOutTip({{{L"a long name"}, {L"b"}}}, {100, 15, 5}, measure).rows[0].cells[0].lines.size(), 3U);
+    EXPECT_EQ(layOutTip({{{L"a bc def"}, {L"b"}}}, {100, 15, 5}, measure).rows[0].cells[0].lines.size(), 3U);
 }
 
 TEST(TipLayout, PutsATipWhereItDoesNotCoverItsLine) {
