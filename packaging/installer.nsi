@@ -1,7 +1,7 @@
 ; The setup: for one user, without administrator's rights, with an uninstaller that leaves nothing but the user's own
 ; sheets. Setting up again repairs, and a later version takes the place and the settings of an earlier one.
-; Defined by the build: NAME, VERSION, SITE, FILES (the folder of the files), OUTPUT, TARGET (the kind of the setup
-; itself), ICON.
+; Defined by the build: NAME, VERSION, SERIES (2.0 for 2.0.1: the versions that share their settings), SITE, FILES (the
+; folder of the files), OUTPUT, TARGET (the kind of the setup itself), ICON.
 ; Silent: /S; with it /D=FOLDER (the last one), /COMMA=1 or 0 for the decimal mark, /PATH=1 or 0 for calq.
 ; Exit status: 0 done, 1 cancelled, 2 Calquo or calq is running, 3 files could not be written.
 
@@ -22,7 +22,7 @@ SetCompressor /SOLID lzma
 !define PROGRAMS_KEY "Software\Microsoft\Windows\CurrentVersion"
 !define UNINSTALL_KEY "${PROGRAMS_KEY}\Uninstall\${NAME}"
 !define APPLICATION_KEY "${PROGRAMS_KEY}\App Paths\${NAME}.exe"
-!define SETTINGS_KEY "Software\${SITE}\${NAME}" ; with a key below for each version
+!define SETTINGS_KEY "Software\${SITE}\${NAME}" ; with a key below for each series
 !define KEPT_SHEETS "$LOCALAPPDATA\${SITE}\${NAME}\Kept Sheets"
 !define INCOMING "$INSTDIR\Setup files" ; complete there before they take the old ones' places
 !define REGISTRY_OF_USER -2147483647 ; HKEY_CURRENT_USER
@@ -31,7 +31,7 @@ Name "${NAME} ${VERSION}"
 OutFile "${OUTPUT}"
 InstallDir "$LOCALAPPDATA\Programs\${NAME}"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
-VIProductVersion "${VERSION}.0.0"
+VIProductVersion "${VERSION}.0"
 VIAddVersionKey "ProductName" "${NAME}"
 VIAddVersionKey "FileDescription" "${NAME} ${VERSION} setup"
 VIAddVersionKey "FileVersion" "${VERSION}"
@@ -54,7 +54,7 @@ Page custom showChoices keepChoices
 !insertmacro MUI_LANGUAGE "English"
 
 Var PreviousFolder ; where the program is installed by now, or empty
-Var SettingsFrom   ; the version whose settings hold: this one, else the latest earlier one, else empty
+Var SettingsFrom   ; the series whose settings hold: this one, else the latest earlier one, else empty
 Var Comma          ; 1 for the decimal comma, 0 for the point, empty to leave it
 Var WasOnPath      ; 1 where the setup has put calq on the user's path by now
 Var OnPath         ; 1 to have it there, 0 not to
@@ -238,7 +238,7 @@ Function findSettings
             ${Break}
         ${EndIf}
         IntOp $1 $1 + 1
-        ${VersionCompare} $2 ${VERSION} $3 ; 1: later, 2: earlier
+        ${VersionCompare} $2 ${SERIES} $3 ; 1: later, 2: earlier
         ${If} $3 <> 1
             ${VersionCompare} $2 "0$SettingsFrom" $3
             ${If} $3 = 1
@@ -390,21 +390,21 @@ Section "" programs
     WriteRegDWORD HKCU "${UNINSTALL_KEY}" "OnPath" $OnPath
 
     ${If} $SettingsFrom != ""
-    ${AndIf} $SettingsFrom != ${VERSION}
-        System::Call 'advapi32::RegCreateKeyW(p ${REGISTRY_OF_USER}, w "${SETTINGS_KEY}\${VERSION}", *p .r1) i .r0'
+    ${AndIf} $SettingsFrom != ${SERIES}
+        System::Call 'advapi32::RegCreateKeyW(p ${REGISTRY_OF_USER}, w "${SETTINGS_KEY}\${SERIES}", *p .r1) i .r0'
         System::Call 'advapi32::RegCopyTreeW(p ${REGISTRY_OF_USER}, w "${SETTINGS_KEY}\$SettingsFrom", p r1) i .r0'
         System::Call 'advapi32::RegCloseKey(p r1)'
     ${EndIf}
     ; Marks that the user has set to others by hand stay where the choice agrees with them.
-    ReadRegStr $0 HKCU "${SETTINGS_KEY}\${VERSION}" "Decimal Mark"
+    ReadRegStr $0 HKCU "${SETTINGS_KEY}\${SERIES}" "Decimal Mark"
     ${If} $Comma == 1
     ${AndIf} $0 != ","
-        WriteRegStr HKCU "${SETTINGS_KEY}\${VERSION}" "Decimal Mark" ","
-        WriteRegStr HKCU "${SETTINGS_KEY}\${VERSION}" "Group Mark" "."
+        WriteRegStr HKCU "${SETTINGS_KEY}\${SERIES}" "Decimal Mark" ","
+        WriteRegStr HKCU "${SETTINGS_KEY}\${SERIES}" "Group Mark" "."
     ${ElseIf} $Comma == 0
     ${AndIf} $0 == ","
-        WriteRegStr HKCU "${SETTINGS_KEY}\${VERSION}" "Decimal Mark" "."
-        WriteRegStr HKCU "${SETTINGS_KEY}\${VERSION}" "Group Mark" ","
+        WriteRegStr HKCU "${SETTINGS_KEY}\${SERIES}" "Decimal Mark" "."
+        WriteRegStr HKCU "${SETTINGS_KEY}\${SERIES}" "Group Mark" ","
     ${EndIf}
 SectionEnd
 

@@ -21,7 +21,7 @@ set(setup_script ${CMAKE_CURRENT_SOURCE_DIR}/installer.nsi)
 add_custom_target(package
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/pack_windows ${packages} ${package_name} ${CMAKE_STRIP}
             ${CALQUO_HELP_PAGES}/site $<TARGET_FILE:Calquo> $<TARGET_FILE:calq> ${CMAKE_BINARY_DIR}/Calquo2.chm ${texts}/README.txt ${texts}/LICENSE.txt ${texts}/THIRD_PARTY.txt
-    COMMAND ${make_setup} -DVERSION=${PROJECT_VERSION} -DOUTPUT=${packages}/${package_name}-setup.exe ${setup_script}
+    COMMAND ${make_setup} -DVERSION=${PROJECT_VERSION} -DSERIES=${CALQUO_SERIES} -DOUTPUT=${packages}/${package_name}-setup.exe ${setup_script}
     COMMAND ${CMAKE_COMMAND} -E chdir ${packages} ${CMAKE_COMMAND} -E sha256sum ${package_name}.zip
             ${package_name}-setup.exe > ${packages}/${package_name}.sha256
     COMMENT "Packing ${packages}"
@@ -30,7 +30,7 @@ add_dependencies(package Calquo calq help_file)
 
 # The same programs as a later version, for the tests of the setup.
 add_custom_target(later_setup
-    COMMAND ${make_setup} -DVERSION=99.0 -DOUTPUT=${CMAKE_BINARY_DIR}/later-setup.exe ${setup_script}
+    COMMAND ${make_setup} -DVERSION=99.0.0 -DSERIES=99.0 -DOUTPUT=${CMAKE_BINARY_DIR}/later-setup.exe ${setup_script}
     VERBATIM)
 add_dependencies(later_setup package)
 

@@ -30,6 +30,9 @@ wait_until() {
     done
 }
 
+# configured FOLDER NAME: what CMake keeps under a name in a build folder.
+configured() { sed -n "s/^$2:[A-Z]*=//p" "$1/CMakeCache.txt"; }
+
 # --- Wine -----------------------------------------------------------------------------------------------------------
 
 # What the name of a prefix ends with: nothing, or that of a copy.

@@ -57,7 +57,7 @@ void closeRegistryKey(RegistryKey key) { RegCloseKey(key); }
 
 std::wstring settingsKeyPath() {
     std::wstring path = L"Software";
-    for (const std::string_view level : {makersSite, programName, programVersion}) {
+    for (const std::string_view level : {makersSite, programName, programSeries}) {
         path += L'\\';
         path.append(level.begin(), level.end());
     }

@@ -72,7 +72,8 @@ TEST(ProgramFile, TellsWhatItIs) {
     ASSERT_NE(VerQueryValueW(information.data(), L"\\", &fixed, &length), 0);
     const auto& numbers = *static_cast<const VS_FIXEDFILEINFO*>(fixed);
     EXPECT_EQ(wide(programVersion), std::to_wstring(HIWORD(numbers.dwFileVersionMS)) + L'.' +
-                                        std::to_wstring(LOWORD(numbers.dwFileVersionMS)));
+                                        std::to_wstring(LOWORD(numbers.dwFileVersionMS)) + L'.' +
+                                        std::to_wstring(HIWORD(numbers.dwFileVersionLS)));
 }
 
 }  // namespace
