@@ -50,8 +50,6 @@ WindowHandle About::open(WindowHandle parent) { return DialogWindow::open({L"Cal
 
 Size About::build() {
     panel_ = std::make_unique<Panel>(handle(), Panel::Creation{});
-    const int dots = screenDotsPerInch();
-    const auto scaled = [dots](int pixels) { return scaledToScreen(pixels, dots); };
     constexpr std::uint16_t none = 0;
     const Rectangle picture{scaled(margin), scaled(margin), scaled(pictureSide), scaled(pictureSide)};
     panel_->add<BitMapImage>(none, paintIcon(picture.width)).moveTo(picture);
@@ -66,7 +64,7 @@ Size About::build() {
         top += size.height + scaled(distance);
         right = std::max(right, left + size.width);
     };
-    addLine(panel_->add<Label>(none, programName, headingFont()), betweenLines);
+    addLine(panel_->add<Label>(none, programName, headingFont), betweenLines);
     addLine(panel_->add<Label>(none, std::string("Version ") + programVersion), betweenParagraphs);
     addLine(panel_->add<Label>(none, "A scientific calculator in which you write as on paper:"), betweenLines);
     addLine(panel_->add<Label>(none, "what you type and what comes out stay in one text."), betweenParagraphs);

@@ -44,6 +44,8 @@ protected:
 
     /// Makes the widgets on the new window, and returns the size that shows them.
     virtual Size build() = 0;
+    /// The same for the widgets that are there, in a scale that has changed.
+    virtual Size rebuild() { return build(); }
     /// Enter, or the button that says the same.
     virtual void accept() { close(); }
     /// Any other widget tells something.
@@ -51,12 +53,13 @@ protected:
 
     bool onCommand(const Notification& notification) override;
     bool onClose() override;
+    bool onScaleChanged(int dotsPerInch, const Rectangle& suggested) override;
     bool onFocusMove(WindowHandle control, bool backwards) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
     void create(const Creation& creation);
-    void moveOver(WindowHandle owner, Size client);
+    void moveOver(WindowHandle owner);
 };
 
 }  // namespace calquo

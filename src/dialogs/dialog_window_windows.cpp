@@ -3,6 +3,7 @@
 
 #include "dialogs/form_layout.h"
 #include "widgets/screens.h"
+#include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
@@ -32,18 +33,27 @@ void DialogWindow::create(const Creation& creation) {
     registerClass(description);
     Window::create({creation.windowClass, wideText(creation.title).c_str(), windowStyle, {}, creation.owner});
     try {
-        moveOver(creation.owner, build());
+        moveOver(creation.owner);
     } catch (...) {
         close();
         throw;
     }
 }
 
-void DialogWindow::moveOver(WindowHandle owner, Size client) {
-    const Rectangle frame = windowAround(client, windowStyle);
+void DialogWindow::moveOver(WindowHandle owner) {
+    const ScaleInForce scale(dotsPerInchOf(owner));
+    const Rectangle frame = windowAround(build(), windowStyle, calquo::scale());
     const auto [left, top, width, height] =
         dialogRectangle({frame.width, frame.height}, windowRectangle(owner), screenOf(owner).usableArea);
     MoveWindow(handle(), left, top, width, height, FALSE);
+}
+
+bool DialogWindow::onScaleChanged(int dotsPerInch, const Rectangle& suggested) {
+    const ScaleInForce scale(dotsPerInch);
+    const Rectangle frame = windowAround(rebuild(), windowStyle, dotsPerInch);
+    MoveWindow(handle(), suggested.left, suggested.top, frame.width, frame.height, TRUE);
+    InvalidateRect(handle(), nullptr, TRUE);
+    return true;
 }
 
 void DialogWindow::close() {

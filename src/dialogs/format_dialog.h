@@ -35,6 +35,7 @@ public:
 
 protected:
     Size build() override;
+    Size rebuild() override;
     void onGone() override;
     WindowHandle focusTarget() const override;
     /// Writes the values to the word and closes; when one cannot be written, says why and stays open.
@@ -61,6 +62,7 @@ private:
     };
 
     Control makeControl(const Attribute& attribute, std::uint16_t command) const;
+    Size arrange() const;
     int heightOfLongestMessage(int width) const;
 
     /// Takes the values of the controls over; the first that has none is the fault.

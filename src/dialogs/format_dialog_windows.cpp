@@ -70,18 +70,37 @@ FormatDialog::Control FormatDialog::makeControl(const Attribute& attribute, std:
 
 Size FormatDialog::build() {
     const auto kind = static_cast<FormatKind>(getField(access_.read(), field::kind));
-    FormParts parts;
     std::uint16_t command = firstCommand;
     for (const Attribute* const attribute : attributesOf(kind)) {
-        const Control& control = controls_.emplace_back(makeControl(*attribute, command++));
-        const Size label = control.label == nullptr ? Size{} : control.label->preferredSize();
-        parts.rows.push_back({label, control.widget().preferredSize()});
+        controls_.push_back(makeControl(*attribute, command++));
     }
     message_ = std::make_unique<TextBlock>(handle(), std::uint16_t{0}, "");
     ok_ = std::make_unique<PushButton>(handle(), acceptCommand, "Ok", PushButton::Look::Default);
     cancel_ = std::make_unique<PushButton>(handle(), closeCommand, "Cancel", PushButton::Look::Plain);
+    return arrange();
+}
+
+Size FormatDialog::rebuild() {
+    for (const Control& control : controls_) {
+        if (control.label != nullptr) {
+            control.label->fitToScale();
+        }
+        control.widget().fitToScale();
+    }
+    message_->fitToScale();
+    ok_->fitToScale();
+    cancel_->fitToScale();
+    return arrange();
+}
+
+Size FormatDialog::arrange() const {
+    FormParts parts;
+    for (const Control& control : controls_) {
+        const Size label = control.label == nullptr ? Size{} : control.label->preferredSize();
+        parts.rows.push_back({label, control.widget().preferredSize()});
+    }
     parts.buttons = {ok_->preferredSize(), cancel_->preferredSize()};
-    parts.dotsPerInch = screenDotsPerInch();
+    parts.dotsPerInch = scale();
 
     const FormLayout layout = layOutForm(parts, heightOfLongestMessage(formWidth(parts)));
     for (std::size_t index = 0; index < controls_.size(); ++index) {

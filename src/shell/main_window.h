@@ -55,6 +55,7 @@ protected:
 
     bool onPlacing(Rectangle& rectangle) override;
     bool onMoved() override;
+    bool onScaleChanged(int dotsPerInch, const Rectangle& suggested) override;
     std::optional<SizeLimits> sizeLimits() const override;
     HitArea onHitTest(HitArea byClass) const override;
 

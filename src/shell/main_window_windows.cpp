@@ -51,7 +51,7 @@ private:
 
 /// The maximized window on the screen that a window is on.
 Rectangle maximizedRectangleOf(HWND window) {
-    return maximizedRectangle(screenOf(window).usableArea, windowAround({}, windowStyle));
+    return maximizedRectangle(screenOf(window).usableArea, windowAround({}, windowStyle, scale()));
 }
 
 }  // namespace
@@ -95,7 +95,8 @@ MainWindow::~MainWindow() { destroy(); }
 // --- Beginning and end ----------------------------------------------------------------------------------------------
 
 void MainWindow::onCreate() {
-    setButtonSize(settings_.buttonSize().value_or(scaledToScreen(defaultButtonSize, screenDotsPerInch())));
+    setScale(dotsPerInchOf(handle()));
+    setButtonSize(settings_.buttonSize().value_or(defaultButtonSize));
     caption_ = std::make_unique<CaptionStrip>(handle());
     workArea_ = std::make_unique<WorkArea>(
         handle(), identifierOf(Command::WorkArea), windowKeys(),
@@ -302,7 +303,7 @@ WindowParts MainWindow::parts() const {
 }
 
 Size MainWindow::smallestWindow() const {
-    const Rectangle needed = windowAround(smallestClient(parts()), windowStyle);
+    const Rectangle needed = windowAround(smallestClient(parts()), windowStyle, scale());
     // More than the screen has would put a part of the window out of reach.
     const Rectangle most = maximizedRectangleOf(handle());
     return {std::min(needed.width, most.width), std::min(needed.height, most.height)};
@@ -321,7 +322,7 @@ std::optional<SizeLimits> MainWindow::sizeLimits() const {
 void MainWindow::moveWhereItCanBeReached() {
     const Rectangle rectangle = windowRectangle(handle());
     WindowReach reach;
-    reach.frame = windowAround({}, windowStyle);
+    reach.frame = windowAround({}, windowStyle, scale());
     reach.captionHeight = caption_->left().preferredSize().height;
     reach.captionPiece = draggedPiece();
     reach.smallest = smallestWindow();
@@ -337,7 +338,7 @@ bool MainWindow::onPlacing(Rectangle& rectangle) {
     // The system works out the place on other screens from that on the main one.
     const bool isMaximized = IsZoomed(handle()) != 0 && IsIconic(handle()) == 0;
     if (isMaximized) {
-        rectangle = maximizedRectangle(screenAt(rectangle).usableArea, windowAround({}, windowStyle));
+        rectangle = maximizedRectangle(screenAt(rectangle).usableArea, windowAround({}, windowStyle, scale()));
     }
     return isMaximized;
 }
@@ -357,6 +358,21 @@ bool MainWindow::onMoved() {
     // Also while minimized or maximized: the next start is to find the last rectangle that the system reported.
     const RECT edges = edgesOf(windowRectangle(handle()));
     settings_.setWindowRect({edges.left, edges.top, edges.right, edges.bottom});
+    return true;
+}
+
+bool MainWindow::onScaleChanged(int dotsPerInch, const Rectangle& suggested) {
+    setScale(dotsPerInch);
+    if (commands_ == nullptr) {
+        return true;  // there is nothing yet that has a scale
+    }
+    hideHint();
+    caption_->left().fitToScale();
+    caption_->right().fitToScale();
+    panels_.fitToScale();
+    workArea_->fitToScale();
+    MoveWindow(handle(), suggested.left, suggested.top, suggested.width, suggested.height, FALSE);
+    layOutAndRefresh();
     return true;
 }
 

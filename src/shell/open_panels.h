@@ -21,6 +21,8 @@ public:
     void close(std::uint16_t identifier);
 
     std::vector<std::uint16_t> identifiers() const;
+    /// Takes over the scale in force.
+    void fitToScale();
     std::vector<Size> preferredSizes() const;
 
     /// Moves each panel to its rectangle, and hides or shows them all.

@@ -23,6 +23,12 @@ std::vector<std::uint16_t> OpenPanels::identifiers() const {
     return identifiers;
 }
 
+void OpenPanels::fitToScale() {
+    for (const auto& panel : panels_) {
+        panel->fitToScale();
+    }
+}
+
 std::vector<Size> OpenPanels::preferredSizes() const {
     std::vector<Size> sizes;
     for (const auto& panel : panels_) {

@@ -31,6 +31,8 @@ public:
     /// A button that sends `parent` WM_COMMAND with `command` and a ButtonNotice.
     Button(WindowHandle parent, std::uint16_t command, const ButtonDescription& description);
 
+    void fitToScale() override;
+
     Symbol symbol() const { return symbol_; }
     Color face() const { return face_; }
     bool isPressed() const { return press_.isPressed(); }
@@ -57,6 +59,7 @@ private:
     void redraw();
     void notify(ButtonNotice notice);
 
+    int extraHalfWidths_;
     Symbol symbol_;
     Color face_;
     ButtonPress press_;

@@ -104,11 +104,16 @@ const Component::WidgetClass& Button::widgetClass() {
 
 Button::Button(WindowHandle parent, std::uint16_t command, const ButtonDescription& description)
     : Component(widgetClass(), {parent, command, BS_OWNERDRAW, textOf(description)}),
+      extraHalfWidths_(description.extraHalfWidths),
       symbol_(description.symbol),
       face_(description.face),
       press_(description.repeats) {
+    Button::fitToScale();
+}
+
+void Button::fitToScale() {
     const int size = buttonSize();
-    setPreferredSize({(description.extraHalfWidths + 2) * size / 2, size});
+    setPreferredSize({(extraHalfWidths_ + 2) * size / 2, size});
 }
 
 void Button::setLook(const ButtonDescription& description) {

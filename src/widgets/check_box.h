@@ -12,6 +12,7 @@ public:
     /// A box with the label of `text`, "label|description"; an "&" in it marks the letter of its key.
     CheckBox(WindowHandle parent, std::uint16_t command, std::string_view text);
 
+    void fitToScale() override;
     bool isChecked() const override;
     void setChecked(bool checked) override;
 

@@ -22,11 +22,13 @@ const Component::WidgetClass& CheckBox::widgetClass() {
 
 CheckBox::CheckBox(WindowHandle parent, std::uint16_t command, std::string_view text, std::uint32_t style)
     : Component(widgetClass(), {parent, command, style, text}) {
+    CheckBox::fitToScale();
+}
+
+void CheckBox::fitToScale() {
     showIn(textFont());
     const Size written = extentOf(textFont(), wideText(label()));
-    const int dots = screenDotsPerInch();
-    setPreferredSize(
-        {written.width + scaledToScreen(checkMarkWidth, dots), written.height + scaledToScreen(spareHeight, dots)});
+    setPreferredSize({written.width + scaled(checkMarkWidth), written.height + scaled(spareHeight)});
 }
 
 CheckBox::CheckBox(WindowHandle parent, std::uint16_t command, std::string_view text)

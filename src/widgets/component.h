@@ -15,6 +15,8 @@ public:
     ~Component() override = default;
     /// The size in pixels that shows all of the widget.
     virtual Size preferredSize() const { return preferredSize_; }
+    /// Takes over the scale in force: fonts, and the preferred size. Constructors do so, too.
+    virtual void fitToScale() {}
     /// Places the widgets that stand on this one.
     virtual void layOut() {}
     /// A child window of the widget tells something.

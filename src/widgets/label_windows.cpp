@@ -13,20 +13,25 @@ const Component::WidgetClass& Label::widgetClass() {
     return registered;
 }
 
-Label::Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text, FontHandle font)
-    : Component(widgetClass(), {parent, command, style, text}) {
-    showIn(font);
-    setPreferredSize(extentOf(font, wideText(label())));
+Label::Label(WindowHandle parent, std::uint16_t command, std::uint32_t style, std::string_view text,
+             FontHandle (*font)())
+    : Component(widgetClass(), {parent, command, style, text}), font_(font) {
+    Label::fitToScale();
 }
 
-Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text, FontHandle font)
+void Label::fitToScale() {
+    showIn(font_());
+    setPreferredSize(extentOf(font_(), wideText(label())));
+}
+
+Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text, FontHandle (*font)())
     : Label(parent, command, SS_CENTERIMAGE, text, font) {}
 
 Label::Label(WindowHandle parent, std::uint16_t command, std::string_view text)
-    : Label(parent, command, text, textFont()) {}
+    : Label(parent, command, text, textFont) {}
 
 TextBlock::TextBlock(WindowHandle parent, std::uint16_t command, std::string_view text)
-    : Label(parent, command, SS_LEFT | SS_NOPREFIX, text, textFont()) {}
+    : Label(parent, command, SS_LEFT | SS_NOPREFIX, text, textFont) {}
 
 HitArea Label::onHitTest(HitArea byClass) const {
     // The system's class lets the mouse through to the parent, and no tooltip would ever notice it.

@@ -16,6 +16,8 @@ public:
     /// A field with `number` in it, and `description` for its tooltip.
     NumberField(WindowHandle parent, std::uint16_t command, std::uint32_t number, std::string_view description);
 
+    void fitToScale() override;
+
     /// What stands in the field; a character outside ASCII as "?".
     std::string typed() const;
     void selectAll();

@@ -29,11 +29,15 @@ const Component::WidgetClass& NumberField::widgetClass() {
 NumberField::NumberField(WindowHandle parent, std::uint16_t command, std::uint32_t number, std::string_view description)
     : Component(widgetClass(), {parent, command, ES_AUTOHSCROLL | ES_RIGHT | WS_TABSTOP, storedText("", description),
                                 WS_EX_CLIENTEDGE}) {
+    NumberField::fitToScale();
+    SetWindowTextW(handle(), std::to_wstring(number).c_str());
+}
+
+void NumberField::fitToScale() {
     showIn(textFont());
     const Size written = extentOf(textFont(), widestNumber);
-    setPreferredSize({written.width + scaledToScreen(spareWidth, screenDotsPerInch()),
-                      written.height + 2 * GetSystemMetrics(SM_CYEDGE) + spareHeight});
-    SetWindowTextW(handle(), std::to_wstring(number).c_str());
+    setPreferredSize(
+        {written.width + scaled(spareWidth), written.height + 2 * GetSystemMetrics(SM_CYEDGE) + spareHeight});
 }
 
 std::string NumberField::typed() const {

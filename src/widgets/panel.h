@@ -45,6 +45,7 @@ public:
 
     /// The size of the children in their direction, and of the margin.
     Size preferredSize() const override;
+    void fitToScale() override;
     /// Places the children within the panel's present size, and theirs.
     void layOut() override;
     /// Passes the notification on to the panel's own parent, unchanged.
@@ -61,12 +62,13 @@ protected:
 private:
     static const WidgetClass& widgetClass();
 
+    int margin() const;
     void layOutDown(int width);
     void layOutAcross(int width);
     void drawChildren(DrawingContext context) const;
 
     Direction direction_;
-    int margin_;
+    bool hasMargin_;
     bool paintsChildren_;
     std::vector<std::unique_ptr<Component>> children_;
 };

@@ -26,12 +26,20 @@ const Component::WidgetClass& Panel::widgetClass() {
 Panel::Panel(WindowHandle parent, const Creation& creation)
     : Component(widgetClass(), {parent, creation.command, styleOf(creation), {}}),
       direction_(creation.direction),
-      margin_((creation.style & panelMargin) != 0 ? buttonSize() / 4 : 0),
+      hasMargin_((creation.style & panelMargin) != 0),
       paintsChildren_(creation.paintsChildren) {}
 
 Panel::~Panel() {
     // With the children's windows, which then need not vanish one by one.
     destroy();
+}
+
+int Panel::margin() const { return hasMargin_ ? buttonSize() / 4 : 0; }
+
+void Panel::fitToScale() {
+    for (const auto& child : children_) {
+        child->fitToScale();
+    }
 }
 
 Size Panel::preferredSize() const {
@@ -41,13 +49,13 @@ Size Panel::preferredSize() const {
         inner = direction_ == Direction::Down ? Size{std::max(inner.width, size.width), inner.height + size.height}
                                               : Size{inner.width + size.width, std::max(inner.height, size.height)};
     }
-    return {inner.width + 2 * margin_, inner.height + 2 * margin_};
+    return {inner.width + 2 * margin(), inner.height + 2 * margin()};
 }
 
 void Panel::layOut() {
     RECT client{};
     GetClientRect(handle(), &client);
-    const int width = client.right - 2 * margin_;
+    const int width = client.right - 2 * margin();
     if (direction_ == Direction::Down) {
         layOutDown(width);
     } else {
@@ -56,28 +64,28 @@ void Panel::layOut() {
 }
 
 void Panel::layOutDown(int width) {
-    int top = margin_;
+    int top = margin();
     for (const auto& child : children_) {
         Size size = child->preferredSize();
         // What a row lacks through the rounding of its buttons' widths is less than half a button: it is made even.
         if (size.width < width && 2 * (width - size.width) < buttonSize()) {
             size.width = width;
         }
-        child->moveTo({margin_, top, size.width, size.height});
+        child->moveTo({margin(), top, size.width, size.height});
         child->layOut();
         top += size.height;
     }
 }
 
 void Panel::layOutAcross(int width) {
-    const int preferred = preferredSize().width - 2 * margin_;
-    const auto placed = [&](int offset) { return margin_ + (preferred == 0 ? 0 : offset * width / preferred); };
+    const int preferred = preferredSize().width - 2 * margin();
+    const auto placed = [&](int offset) { return margin() + (preferred == 0 ? 0 : offset * width / preferred); };
     int offset = 0;
     for (const auto& child : children_) {
         const Size size = child->preferredSize();
         const int left = placed(offset);
         offset += size.width;
-        child->moveTo({left, margin_, placed(offset) - left, size.height});
+        child->moveTo({left, margin(), placed(offset) - left, size.height});
         child->layOut();
     }
 }

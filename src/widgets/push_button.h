@@ -15,6 +15,8 @@ public:
     /// the focus is; it never moves to another button.
     PushButton(WindowHandle parent, std::uint16_t command, std::string_view text, Look look);
 
+    void fitToScale() override;
+
 protected:
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 

@@ -27,11 +27,14 @@ PushButton::PushButton(WindowHandle parent, std::uint16_t command, std::string_v
     : Component(widgetClass(),
                 {parent, command,
                  (look == Look::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | std::uint32_t{WS_TABSTOP}, text}) {
+    PushButton::fitToScale();
+}
+
+void PushButton::fitToScale() {
     showIn(textFont());
     const Size written = extentOf(textFont(), wideText(label()));
-    const int dots = screenDotsPerInch();
-    setPreferredSize({std::max(scaledToScreen(leastWidth, dots), written.width + scaledToScreen(spareWidth, dots)),
-                      written.height + scaledToScreen(spareHeight, dots)});
+    setPreferredSize(
+        {std::max(scaled(leastWidth), written.width + scaled(spareWidth)), written.height + scaled(spareHeight)});
 }
 
 std::optional<std::intptr_t> PushButton::onSimpleMessage(std::uint32_t message) {

@@ -7,6 +7,7 @@
 #include "widgets/geometry.h"
 #include "widgets/handles.h"
 
+struct tagLOGFONTW;
 struct tagRECT;
 
 namespace calquo {
@@ -25,8 +26,12 @@ Screen screenAt(const Rectangle& rectangle);
 /// The usable areas of all screens, that of the window's own screen first (and once more in its turn).
 std::vector<Rectangle> usableAreasAround(WindowHandle window);
 
-/// Dots per inch of the screens.
-int screenDotsPerInch();
+/// Dots per inch of the screen that a window is on, and of the system: what lengths without a window are in.
+int dotsPerInchOf(WindowHandle window);
+int systemDotsPerInch();
+
+/// The font that the user has chosen for messages, as high as it is at `dotsPerInch`.
+tagLOGFONTW messageFont(int dotsPerInch);
 
 /// A window with its frame, on the screen.
 Rectangle windowRectangle(WindowHandle window);
@@ -37,8 +42,8 @@ struct WindowStyle {
     std::uint32_t extendedStyle = 0;
 };
 
-/// The window around a client area of `client`, by its upper left corner in the client's coordinates.
-Rectangle windowAround(Size client, WindowStyle style);
+/// The window around a client area of `client` at `dotsPerInch`, by its upper left corner in the client's coordinates.
+Rectangle windowAround(Size client, WindowStyle style, int dotsPerInch);
 
 /// The system's rectangle as ours, and back.
 Rectangle rectangleOf(const tagRECT& edges);

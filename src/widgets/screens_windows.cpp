@@ -18,6 +18,13 @@ BOOL CALLBACK noteUsableArea(HMONITOR monitor, HDC, LPRECT, LPARAM areas) {
     return TRUE;
 }
 
+/// A function of the system's library of windows that only newer systems have, null on others.
+template <typename Function>
+Function findNewer(const char* name) {
+    const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
+    return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(found));
+}
+
 }  // namespace
 
 Screen screenOf(WindowHandle window) { return describe(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
@@ -33,11 +40,31 @@ std::vector<Rectangle> usableAreasAround(WindowHandle window) {
     return areas;
 }
 
-int screenDotsPerInch() {
+int dotsPerInchOf(WindowHandle window) {
+    using Ask = UINT(WINAPI*)(HWND);
+    static const auto ask = findNewer<Ask>("GetDpiForWindow");
+    return ask == nullptr ? systemDotsPerInch() : static_cast<int>(ask(window));
+}
+
+int systemDotsPerInch() {
     const HDC screen = GetDC(nullptr);
     const int dots = GetDeviceCaps(screen, LOGPIXELSY);
     ReleaseDC(nullptr, screen);
     return dots;
+}
+
+tagLOGFONTW messageFont(int dotsPerInch) {
+    using Ask = BOOL(WINAPI*)(UINT, UINT, PVOID, UINT, UINT);
+    static const auto ask = findNewer<Ask>("SystemParametersInfoForDpi");
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    if (ask != nullptr &&
+        ask(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, static_cast<UINT>(dotsPerInch)) != 0) {
+        return metrics.lfMessageFont;
+    }
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
+    metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dotsPerInch, systemDotsPerInch());
+    return metrics.lfMessageFont;
 }
 
 Rectangle windowRectangle(WindowHandle window) {
@@ -46,9 +73,15 @@ Rectangle windowRectangle(WindowHandle window) {
     return rectangleOf(edges);
 }
 
-Rectangle windowAround(Size client, WindowStyle style) {
+Rectangle windowAround(Size client, WindowStyle style, int dotsPerInch) {
+    using Adjust = BOOL(WINAPI*)(LPRECT, DWORD, BOOL, DWORD, UINT);
+    static const auto adjust = findNewer<Adjust>("AdjustWindowRectExForDpi");
     RECT around{0, 0, client.width, client.height};
-    AdjustWindowRectEx(&around, style.style, FALSE, style.extendedStyle);
+    if (adjust != nullptr) {
+        adjust(&around, style.style, FALSE, style.extendedStyle, static_cast<UINT>(dotsPerInch));
+    } else {
+        AdjustWindowRectEx(&around, style.style, FALSE, style.extendedStyle);
+    }
     return rectangleOf(around);
 }
 

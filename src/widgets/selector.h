@@ -2,7 +2,9 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "widgets/component.h"
 
@@ -15,6 +17,8 @@ public:
     /// Offers `choices`; none is selected.
     Selector(WindowHandle parent, std::uint16_t command, Look look, std::span<const std::string_view> choices);
 
+    void fitToScale() override;
+
     /// The index of the selected choice, -1 for none.
     int selected() const;
     void select(int index);
@@ -25,6 +29,8 @@ private:
     static const LookRow& rowOf(Look look);
 
     const LookRow& row_;
+    const Look look_;
+    std::vector<std::wstring> choices_;
 };
 
 }  // namespace calquo

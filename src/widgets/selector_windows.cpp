@@ -40,19 +40,27 @@ const Selector::LookRow& Selector::rowOf(Look look) {
 }
 
 Selector::Selector(WindowHandle parent, std::uint16_t command, Look look, std::span<const std::string_view> choices)
-    : Component(rowOf(look).widgetClass, {parent, command, rowOf(look).style | WS_TABSTOP, {}}), row_(rowOf(look)) {
+    : Component(rowOf(look).widgetClass, {parent, command, rowOf(look).style | WS_TABSTOP, {}}),
+      row_(rowOf(look)),
+      look_(look) {
+    for (const std::string_view choice : choices) {
+        choices_.push_back(wideText(choice));
+        SendMessageW(handle(), row_.add, 0, reinterpret_cast<LPARAM>(choices_.back().c_str()));
+    }
+    Selector::fitToScale();
+}
+
+void Selector::fitToScale() {
     showIn(textFont());
     int widest = 0;
-    for (const std::string_view choice : choices) {
-        const std::wstring line = wideText(choice);
-        SendMessageW(handle(), row_.add, 0, reinterpret_cast<LPARAM>(line.c_str()));
-        widest = std::max(widest, extentOf(textFont(), line).width);
+    for (const std::wstring& choice : choices_) {
+        widest = std::max(widest, extentOf(textFont(), choice).width);
     }
-    const int lines = std::min(static_cast<int>(choices.size()), mostLinesShown);
+    const int lines = std::min(static_cast<int>(choices_.size()), mostLinesShown);
     const int border = 2 * GetSystemMetrics(SM_CYBORDER);
     const int list = lines * static_cast<int>(SendMessageW(handle(), row_.lineHeight, 0, 0)) + border;
-    const int width = widest + GetSystemMetrics(SM_CXVSCROLL) + scaledToScreen(spareWidth, screenDotsPerInch());
-    if (look == Look::ComboBox) {
+    const int width = widest + GetSystemMetrics(SM_CXVSCROLL) + scaled(spareWidth);
+    if (look_ == Look::ComboBox) {
         RECT closed{};
         GetWindowRect(handle(), &closed);
         setPreferredSize({width, closed.bottom - closed.top});

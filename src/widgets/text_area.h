@@ -48,6 +48,8 @@ public:
     /// control is not to be had.
     TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);
 
+    void fitToScale() override;
+
     TextRange selection() const;
     bool hasSelection() const;
     void select(TextRange range);

@@ -9,6 +9,8 @@
 
 #include "widgets/fonts.h"
 #include "widgets/painting.h"
+#include "widgets/screens.h"
+#include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -197,6 +199,14 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
 
 int TextArea::fontHalfPoints() { return 2 * fontPoints; }
 
+void TextArea::fitToScale() {
+    // The control counts a font's points at the dots per inch of the system.
+    const int usual = systemDotsPerInch();
+    const bool isUsual = scale() == usual;
+    SendMessageW(handle(), EM_SETZOOM, isUsual ? 0 : static_cast<WPARAM>(scale()), isUsual ? 0 : usual);
+    onPlaced();
+}
+
 bool TextArea::onKey(const KeyEvent& event) {
     // The keys of the main menu are the top-level window's, although the control would keep them.
     const bool menuKey =
@@ -271,7 +281,7 @@ void TextArea::makeEmptyParagraphPlain(std::int32_t caret) {
 }
 
 void TextArea::onPlaced() {
-    const int space = scaledToScreen(margin, screenDotsPerInch());
+    const int space = scaled(margin);
     RECT inside{space, space, rectangle().width - space, rectangle().height - space};
     // The control breaks its lines anew for every rectangle.
     SendMessageW(handle(), EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
@@ -314,7 +324,7 @@ Point TextArea::pointOf(std::int32_t position) const {
 
 int TextArea::lineHeight() {
     constexpr int pointsPerInch = 72;
-    return fontPoints * screenDotsPerInch() * 6 / 5 / pointsPerInch;
+    return fontPoints * scale() * 6 / 5 / pointsPerInch;
 }
 
 Point TextArea::scrolled() const {
@@ -514,7 +524,7 @@ Point TextArea::pointBelowCaret() const {
     POINTL place{};
     SendMessageW(handle(), EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), selection().end);
     const Size client = clientSize(handle());
-    const int lineHeight = 2 * scaledToScreen(fontPoints, screenDotsPerInch());
+    const int lineHeight = 2 * scaled(fontPoints);
     POINT point{std::clamp<LONG>(place.x, 0, client.width), std::clamp<LONG>(place.y + lineHeight, 0, client.height)};
     ClientToScreen(handle(), &point);
     return {point.x, point.y};

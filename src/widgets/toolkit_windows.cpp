@@ -1,11 +1,13 @@
-// The fonts of the widgets.
+// The scale of the widgets and their fonts.
 #include "widgets/toolkit.h"
 
 #include <algorithm>
 #include <cwchar>
+#include <map>
 #include <vector>
 
 #include "widgets/fonts.h"
+#include "widgets/screens.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
@@ -15,14 +17,13 @@ namespace {
 constexpr const wchar_t* buttonFontNames[] = {
     L"Segoe UI", L"DejaVu Sans Condensed", L"DejaVu Sans", L"Liberation Sans", L"Tahoma", L"Arial"};
 
-int buttonSizeNow = defaultButtonSize;
-/// The fonts of the buttons so far, by the average width of their characters; at 0 the one of usual width.
-std::vector<FontOwner> buttonFonts;
+int scaleNow = designDotsPerInch;
+int buttonSizeAtDesign = defaultButtonSize;
 
-FontOwner makeButtonFont(int averageWidth) {
+FontOwner makeButtonFont(int height, int averageWidth) {
     static const wchar_t* const name = installedFont(buttonFontNames);
     LOGFONTW font{};
-    font.lfHeight = buttonSizeNow * 3 / 4;
+    font.lfHeight = height;
     font.lfWidth = averageWidth;
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfQuality = CLEARTYPE_QUALITY;
@@ -30,62 +31,63 @@ FontOwner makeButtonFont(int averageWidth) {
     return FontOwner(CreateFontIndirectW(&font));
 }
 
+/// The fonts of the buttons of one height so far, by the average width of their characters; at 0 the one of usual
+/// width.
+using ButtonFonts = std::vector<FontOwner>;
+
 FontHandle sharedButtonFont(int averageWidth) {
+    static std::map<int, ButtonFonts> fontsByHeight;
+    const int height = buttonSize() * 3 / 4;
+    ButtonFonts& fonts = fontsByHeight[height];
     const auto index = static_cast<std::size_t>(averageWidth);
-    if (index >= buttonFonts.size()) {
-        buttonFonts.resize(index + 1);
+    if (index >= fonts.size()) {
+        fonts.resize(index + 1);
     }
-    if (!buttonFonts[index]) {
-        buttonFonts[index] = makeButtonFont(averageWidth);
+    if (!fonts[index]) {
+        fonts[index] = makeButtonFont(height, averageWidth);
     }
-    return buttonFonts[index].get();
+    return fonts[index].get();
 }
 
-LOGFONTW messageFont() {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
-    return metrics.lfMessageFont;
+struct TextFonts {
+    FontOwner text;
+    FontOwner bold;
+    FontOwner heading;
+};
+
+const TextFonts& textFonts() {
+    static std::map<int, TextFonts> fontsByScale;
+    const auto [place, isNew] = fontsByScale.try_emplace(scaleNow);
+    TextFonts& fonts = place->second;
+    if (isNew) {
+        LOGFONTW description = messageFont(scaleNow);
+        fonts.text = FontOwner(CreateFontIndirectW(&description));
+        description.lfWeight = FW_BOLD;
+        fonts.bold = FontOwner(CreateFontIndirectW(&description));
+        description.lfHeight = description.lfHeight * 3 / 2;
+        fonts.heading = FontOwner(CreateFontIndirectW(&description));
+    }
+    return fonts;
 }
 
 }  // namespace
 
-void setButtonSize(int pixels) {
-    buttonSizeNow = std::max(pixels, smallestButtonSize);
-    buttonFonts.clear();
-}
+void setScale(int dotsPerInch) { scaleNow = dotsPerInch; }
 
-int buttonSize() { return buttonSizeNow; }
+int scale() { return scaleNow; }
+
+void setButtonSize(int pixels) { buttonSizeAtDesign = std::max(pixels, smallestButtonSize); }
+
+int buttonSize() { return scaled(buttonSizeAtDesign); }
 
 FontHandle buttonFont() { return sharedButtonFont(0); }
 
 FontHandle narrowButtonFont(int averageWidth) { return sharedButtonFont(averageWidth); }
 
-FontHandle textFont() {
-    static const FontOwner font = [] {
-        const LOGFONTW description = messageFont();
-        return FontOwner(CreateFontIndirectW(&description));
-    }();
-    return font.get();
-}
+FontHandle textFont() { return textFonts().text.get(); }
 
-FontHandle boldTextFont() {
-    static const FontOwner font = [] {
-        LOGFONTW description = messageFont();
-        description.lfWeight = FW_BOLD;
-        return FontOwner(CreateFontIndirectW(&description));
-    }();
-    return font.get();
-}
+FontHandle boldTextFont() { return textFonts().bold.get(); }
 
-FontHandle headingFont() {
-    static const FontOwner font = [] {
-        LOGFONTW description = messageFont();
-        description.lfHeight = description.lfHeight * 3 / 2;
-        description.lfWeight = FW_BOLD;
-        return FontOwner(CreateFontIndirectW(&description));
-    }();
-    return font.get();
-}
+FontHandle headingFont() { return textFonts().heading.get(); }
 
 }  // namespace calquo

@@ -108,6 +108,8 @@ protected:
     /// The window is about to be placed; another rectangle may be given to it.
     virtual bool onPlacing(Rectangle& /*rectangle*/) { return false; }
     virtual bool onMoved() { return false; }
+    /// The window is on a screen of another scale, for which the system suggests a rectangle.
+    virtual bool onScaleChanged(int /*dotsPerInch*/, const Rectangle& /*suggested*/) { return false; }
     virtual std::optional<SizeLimits> sizeLimits() const { return std::nullopt; }
     virtual HitArea onHitTest(HitArea byClass) const { return byClass; }
 

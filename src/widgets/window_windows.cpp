@@ -184,6 +184,9 @@ Window::Result Window::dispatchPlacement(const Message& message) {
             return takePlace(message);
         case WM_WINDOWPOSCHANGED:
             return dealtWith(onMoved());
+        case WM_DPICHANGED:
+            return dealtWith(
+                onScaleChanged(HIWORD(message.wParam), rectangleOf(*reinterpret_cast<const RECT*>(message.lParam))));
         case WM_GETMINMAXINFO:
             return takeSizeLimits(message);
         case WM_NCHITTEST:

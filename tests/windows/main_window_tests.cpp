@@ -69,6 +69,32 @@ void expectLaidOut(const Program& program, const std::vector<unsigned>& panels) 
     EXPECT_EQ(shown(program.placeOf(program.workArea())), shown({edge, left.bottom, client.right, client.bottom}));
 }
 
+TEST(MainWindow, FollowsTheScaleOfItsScreen) {
+    Program program(storedPanels({basicKeypad, angles}));
+    const RECT place = placeOnScreen(program.handle());
+    program.command(0x4511);  // the dialog of Automatic
+    const HWND dialog = FindWindowW(L"Format", nullptr);
+    const RECT dialogBefore = placeOnScreen(dialog);
+    const SIZE usual{dialogBefore.right - dialogBefore.left, dialogBefore.bottom - dialogBefore.top};
+    for (const int dots : {144, 192, 240, 120, 96}) {
+        RECT suggested{place.left, place.top, place.left + 400 * dots / 96, place.top + 320 * dots / 96};
+        SendMessageW(program.handle(), WM_DPICHANGED, MAKEWPARAM(dots, dots), reinterpret_cast<LPARAM>(&suggested));
+        EXPECT_EQ(shown(placeOnScreen(program.handle())), shown(suggested)) << dots;
+        const RECT caption = program.placeOf(program.child(leftCaption));
+        EXPECT_EQ(caption.bottom, buttonSize()) << dots;
+        EXPECT_EQ(buttonSize(), 20 * dots / 96);
+        expectLaidOut(program, {basicKeypad, angles});
+
+        RECT wanted{10, 10, 20, 20};
+        SendMessageW(dialog, WM_DPICHANGED, MAKEWPARAM(dots, dots), reinterpret_cast<LPARAM>(&wanted));
+        const RECT grown = placeOnScreen(dialog);
+        EXPECT_NEAR(grown.right - grown.left, usual.cx * dots / 96, 20 * dots / 96) << dots;
+        EXPECT_NEAR(grown.bottom - grown.top, usual.cy * dots / 96, 40 * dots / 96) << dots;
+        EXPECT_EQ(buttonSize(), 20 * dots / 96) << "the dialog's scale is its own";
+    }
+    SendMessageW(dialog, WM_CLOSE, 0, 0);
+}
+
 TEST(MainWindow, OpensAndClosesPanelsInTheirOrder) {
     Program program;
     const LONG widest = program.placeOf(program.workArea()).right;
