@@ -26,7 +26,8 @@ char styleOfSelection(HWND control) {
     format.cbSize = sizeof format;
     SendMessageW(control, EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
     constexpr LONG twelvePoints = 240;
-    const DWORD effects = format.dwEffects & CFM_EFFECTS2 & ~static_cast<DWORD>(CFE_BOLD);
+    // The system's own colour of text is black, too.
+    const DWORD effects = format.dwEffects & CFM_EFFECTS2 & ~static_cast<DWORD>(CFE_BOLD | CFE_AUTOCOLOR);
     if (effects != CFE_AUTOBACKCOLOR || format.yHeight != twelvePoints ||
         std::wcscmp(format.szFaceName, L"Arial") == 0) {
         return '?';
