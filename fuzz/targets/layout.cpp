@@ -54,6 +54,11 @@ void checkWindow(InputReader& reader) {
     const WindowLayout layout = layOutWindow(client, parts);
     const Rectangle whole{0, 0, client.width, client.height};
     std::vector<Rectangle> all = layout.panels;
+    for (Rectangle& panel : all) {
+        panel.top += layout.column.top;
+        require(isWithin(panel, layout.column) || panel.height == 0, "a panel leaves the column");
+    }
+    require(!overlap(layout.column, layout.workArea), "the column covers the work area");
     all.insert(all.end(), {layout.leftCaption, layout.rightCaption, layout.title, layout.workArea});
     for (std::size_t index = 0; index < all.size(); ++index) {
         require(isWithin(all[index], whole), "a part leaves the window");

@@ -76,6 +76,7 @@ void Commands::togglePanel(std::uint16_t identifier) {
     const bool open = !targets_.menu.isChecked(identifier);
     if (open) {
         targets_.panels.open(targets_.window, identifier);
+        targets_.panels.bringIntoView(identifier);
     } else {
         targets_.panels.close(identifier);
     }

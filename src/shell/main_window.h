@@ -63,6 +63,7 @@ protected:
     WindowHandle focusTarget() const override;
 
     bool onKey(const KeyEvent& event) override;
+    bool onWheel(const WheelEvent& turn) override { return panels_.turnWheel(turn); }
     void onPressInside() override;
     bool onMenuKey() override { return true; }  // ours has opened already
     bool onCommand(const Notification& notification) override;

@@ -276,7 +276,7 @@ std::optional<Color> MainWindow::backgroundOf(WindowHandle child) const {
 }
 
 bool MainWindow::onPaintBackground(DrawingContext context) {
-    // The background of the panels goes on below the last of them.
+    // Whatever no part covers yet looks as the panels' column does.
     const Size client = clientSize(handle());
     const int strip = caption_ == nullptr ? 0 : caption_->left().preferredSize().height;
     const RECT column{0, strip, client.width, client.height};
@@ -383,9 +383,10 @@ void MainWindow::layOut() {
         const Size present{window.width, window.height};
         const Size wanted = growth_.sizeFor(present, smallestWindow());
         if (wanted != present) {
+            const Rectangle place = resizedRectangle(window, wanted, maximizedRectangleOf(handle()));
             isSizing_ = true;
-            SetWindowPos(handle(), nullptr, 0, 0, wanted.width, wanted.height,
-                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+            SetWindowPos(handle(), nullptr, place.left, place.top, place.width, place.height,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
             isSizing_ = false;
         }
     }
@@ -394,7 +395,7 @@ void MainWindow::layOut() {
     caption_->left().layOut();
     caption_->right().moveTo(positions.rightCaption);
     caption_->right().layOut();
-    panels_.layOut(positions.panels, settings_.boolean(BooleanSetting::HideButtons));
+    panels_.layOut(positions);
     workArea_->moveTo(positions.workArea);
 }
 

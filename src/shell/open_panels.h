@@ -1,13 +1,15 @@
-// The open button panels, one below the other in the order in which they were opened.
+// The open button panels, one below the other in the order in which they were opened, in a column that scrolls.
 #pragma once
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "panels/button_panel.h"
-#include "widgets/geometry.h"
+#include "shell/window_layout.h"
+#include "widgets/scroller.h"
 
 namespace calquo {
 
@@ -19,18 +21,24 @@ public:
     /// Opens a panel of the catalogue on `parent`, below the others; nothing happens for another identifier.
     void open(WindowHandle parent, std::uint16_t identifier);
     void close(std::uint16_t identifier);
+    /// Scrolls to an open panel as soon as the panels are shown in a layout.
+    void bringIntoView(std::uint16_t identifier) { awaited_ = identifier; }
 
     std::vector<std::uint16_t> identifiers() const;
     /// Takes over the scale in force.
     void fitToScale();
     std::vector<Size> preferredSizes() const;
 
-    /// Moves each panel to its rectangle, and hides or shows them all.
-    void layOut(const std::vector<Rectangle>& rectangles, bool hidden);
+    /// Moves the column and the panels to their rectangles, or hides them all.
+    void layOut(const WindowLayout& layout);
+    /// Scrolls the column when the wheel is turned over it; false when that has no effect.
+    bool turnWheel(const WheelEvent& turn) { return column_ != nullptr && column_->turnWheel(turn); }
 
 private:
     ButtonPanel::Listener listener_;
+    std::unique_ptr<Scroller> column_;  ///< Made with the first panel.
     std::vector<std::unique_ptr<ButtonPanel>> panels_;
+    std::optional<std::uint16_t> awaited_;  ///< The panel that is to be seen.
 };
 
 }  // namespace calquo

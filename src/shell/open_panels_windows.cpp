@@ -7,7 +7,10 @@ namespace calquo {
 
 void OpenPanels::open(WindowHandle parent, std::uint16_t identifier) {
     if (const PanelEntry* const entry = findPanel(identifier)) {
-        panels_.push_back(std::make_unique<ButtonPanel>(parent, *entry, listener_));
+        if (column_ == nullptr) {
+            column_ = std::make_unique<Scroller>(parent);
+        }
+        panels_.push_back(std::make_unique<ButtonPanel>(column_->content(), *entry, listener_));
     }
 }
 
@@ -37,13 +40,25 @@ std::vector<Size> OpenPanels::preferredSizes() const {
     return sizes;
 }
 
-void OpenPanels::layOut(const std::vector<Rectangle>& rectangles, bool hidden) {
+void OpenPanels::layOut(const WindowLayout& layout) {
+    if (layout.column.width == 0) {
+        if (column_ != nullptr) {
+            column_->hide();
+        }
+        return;
+    }
+    const Rectangle& lowest = layout.panels.back();
+    column_->place(layout.column, lowest.top + lowest.height);
     for (std::size_t index = 0; index < panels_.size(); ++index) {
         ButtonPanel& panel = *panels_[index];
-        panel.moveTo(rectangles[index]);
+        const Rectangle& rectangle = layout.panels[index];
+        panel.moveTo(rectangle);
         panel.layOut();
-        hidden ? panel.hide() : panel.show();
+        if (panel.command() == awaited_) {
+            column_->bringIntoView({rectangle.top, rectangle.height});
+        }
     }
+    awaited_.reset();
 }
 
 }  // namespace calquo

@@ -35,6 +35,11 @@ bool showsCaption(const Rectangle& area, const Rectangle& window, const WindowRe
            commonLength(top, reach.captionHeight, area.top, area.height) >= reach.captionPiece.height;
 }
 
+/// Where a stretch begins that has grown, within another one as far as it was before.
+int beginAfterGrowth(int begin, int length, int mostBegin, int mostLength) {
+    return std::clamp(mostBegin + mostLength - length, std::min(begin, mostBegin), begin);
+}
+
 Size largerOf(Size one, Size other) { return {std::max(one.width, other.width), std::max(one.height, other.height)}; }
 
 }  // namespace
@@ -54,7 +59,7 @@ WindowLayout layOutWindow(Size client, const WindowParts& parts) {
     layout.rightCaption = {rightEdge, 0, parts.rightCaption.width, parts.rightCaption.height};
     layout.title = {parts.leftCaption.width, 0, std::max(0, rightEdge - parts.leftCaption.width), strip};
 
-    int top = strip;
+    int top = 0;
     for (const Size& panel : parts.panels) {
         const Size shown = showsPanels(parts) ? panel : Size{};
         layout.panels.push_back({0, top, shown.width, shown.height});
@@ -62,7 +67,9 @@ WindowLayout layOutWindow(Size client, const WindowParts& parts) {
     }
 
     const int left = columnSize(parts).width;
-    layout.workArea = {left, strip, std::max(0, client.width - left), std::max(0, client.height - strip)};
+    const int height = std::max(0, client.height - strip);
+    layout.column = {0, strip, left, height};
+    layout.workArea = {left, strip, std::max(0, client.width - left), height};
     return layout;
 }
 
@@ -86,6 +93,17 @@ Rectangle reachableRectangle(const Rectangle& wanted, const WindowReach& reach,
 Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame) {
     return {usableArea.left + frame.left, usableArea.top + frame.top, usableArea.width + frame.width,
             usableArea.height + frame.height};
+}
+
+Rectangle resizedRectangle(const Rectangle& window, Size size, const Rectangle& most) {
+    Rectangle resized{window.left, window.top, size.width, size.height};
+    if (size.width > window.width) {
+        resized.left = beginAfterGrowth(window.left, size.width, most.left, most.width);
+    }
+    if (size.height > window.height) {
+        resized.top = beginAfterGrowth(window.top, size.height, most.top, most.height);
+    }
+    return resized;
 }
 
 Size WindowGrowth::sizeFor(Size present, Size least) {

@@ -17,12 +17,13 @@ struct WindowParts {
     Size smallestWorkArea;  ///< Less than this is too small to work in.
 };
 
-/// The rectangles of the parts in the client area. That of a hidden panel has no size.
+/// The rectangles of the parts in the client area.
 struct WindowLayout {
     Rectangle leftCaption;
     Rectangle rightCaption;
-    Rectangle title;  ///< The caption strip between the two panels.
-    std::vector<Rectangle> panels;
+    Rectangle title;                ///< The caption strip between the two panels.
+    Rectangle column;               ///< Where the panels are seen; without a width when none is shown.
+    std::vector<Rectangle> panels;  ///< In the column, which may be too low for them. A hidden one has no size.
     Rectangle workArea;
 };
 
@@ -51,6 +52,10 @@ Rectangle reachableRectangle(const Rectangle& wanted, const WindowReach& reach,
 /// The maximized window, whose client area is a screen's usable area: all of the frame hangs over. `frame` is the
 /// window around an empty client area at the origin.
 Rectangle maximizedRectangle(const Rectangle& usableArea, const Rectangle& frame);
+
+/// A window that is given another size. Its corner stays, but what it grows by is not to leave `most`, the maximized
+/// window, at the right or below while there is room on the other side.
+Rectangle resizedRectangle(const Rectangle& window, Size size, const Rectangle& most);
 
 /// Lets a window grow with what it shows, and shrink with it again.
 class WindowGrowth {

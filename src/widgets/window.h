@@ -28,6 +28,12 @@ struct MouseEvent {
     Point position;  ///< In the client area; without meaning when the capture is lost.
 };
 
+/// A turn of the mouse's wheel.
+struct WheelEvent {
+    Point position;  ///< Of the mouse on the screen.
+    int delta = 0;   ///< 120 for each notch away from the user, negative towards the user.
+};
+
 /// A key that goes down or up, with the modifier keys held at that time.
 struct KeyEvent {
     std::uint32_t key = 0;  ///< The system's virtual key.
@@ -124,6 +130,8 @@ protected:
     /// The system would open the window's menu for a key that was pressed alone.
     virtual bool onMenuKey() { return false; }
     virtual bool onMouse(const MouseEvent&) { return false; }
+    /// The wheel is turned while any part of this top-level window has the focus, or the mouse over it.
+    virtual bool onWheel(const WheelEvent&) { return false; }
     /// The context menu is wanted at a point of the screen, or without one by a key.
     virtual bool onContextMenu(std::optional<Point>) { return false; }
     /// A mouse button goes down in a child window or on the frame.
@@ -163,6 +171,7 @@ private:
 
     Result takeKey(const Message& message);
     Result takeMouse(MouseAction action, const Message& message);
+    Result takeWheel(const Message& message) const;
     Result takeContextMenu(const Message& message);
     Result takePlace(const Message& message);
     Result takeSizeLimits(const Message& message) const;

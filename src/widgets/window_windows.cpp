@@ -231,6 +231,8 @@ Window::Result Window::dispatchInput(const Message& message) {
             return takeMouse(MouseAction::Release, message);
         case WM_CAPTURECHANGED:
             return takeMouse(MouseAction::CaptureLost, message);
+        case WM_MOUSEWHEEL:
+            return takeWheel(message);
         case WM_RBUTTONUP:
         case WM_CONTEXTMENU:
             return takeContextMenu(message);
@@ -295,6 +297,14 @@ Window::Result Window::takeKey(const Message& message) {
 Window::Result Window::takeMouse(MouseAction action, const Message& message) {
     const Point position{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
     return dealtWith(onMouse({action, position}));
+}
+
+Window::Result Window::takeWheel(const Message& message) const {
+    // The focus, to which many systems send the wheel, says nothing of what it is turned over.
+    Window* const topLevel = of(GetAncestor(handle(), GA_ROOT));
+    const Point position{static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
+    const int delta = static_cast<short>(HIWORD(message.wParam));
+    return dealtWith(topLevel != nullptr && topLevel->onWheel({position, delta}));
 }
 
 Window::Result Window::takeContextMenu(const Message& message) {

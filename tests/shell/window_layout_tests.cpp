@@ -48,9 +48,37 @@ TEST(WindowRectangle, OnlyOneWhoseCaptionCannotBeReachedIsMoved) {
     EXPECT_EQ(reachableRectangle({10, 10, 67, 99}, reach, usableAreas), middle);
 }
 
+TEST(WindowLayout, PanelsThatDoNotFitStandInAColumnThatEndsWithTheWindow) {
+    const WindowParts parts{{60, 20}, {60, 20}, {{120, 300}, {100, 400}}, false, {200, 100}};
+    const WindowLayout layout = layOutWindow({500, 220}, parts);
+    EXPECT_EQ(layout.column, (Rectangle{0, 20, 120, 200}));
+    EXPECT_EQ(layout.panels, (std::vector<Rectangle>{{0, 0, 120, 300}, {0, 300, 100, 400}}));
+    EXPECT_EQ(layout.workArea, (Rectangle{120, 20, 380, 200}));
+}
+
 TEST(WindowRectangle, MaximizedItsClientAreaFillsTheUsableArea) {
     EXPECT_EQ(maximizedRectangle({100, 40, 1000, 760}, {-4, -5, 8, 10}), (Rectangle{96, 35, 1008, 770}));
     EXPECT_EQ(maximizedRectangle({-1920, 0, 1920, 1040}, {-3, -3, 6, 6}), (Rectangle{-1923, -3, 1926, 1046}));
+}
+
+TEST(WindowRectangle, GrowsWhereThereIsRoom) {
+    constexpr Rectangle most{-3, -3, 1006, 806};
+    struct Row {
+        Rectangle window;
+        Size size;
+        Point corner;
+    };
+    const Row rows[] = {
+        {{100, 200, 300, 200}, {300, 603}, {100, 200}},  {{100, 200, 300, 200}, {300, 604}, {100, 199}},
+        {{100, 200, 300, 200}, {300, 806}, {100, -3}},   {{100, 200, 300, 200}, {300, 900}, {100, -3}},
+        {{800, 700, 300, 200}, {400, 200}, {603, 700}},  // only where it grows
+        {{-50, -20, 300, 200}, {2000, 900}, {-50, -20}}, {{800, 700, 300, 200}, {100, 100}, {800, 700}},
+    };
+    for (const Row& row : rows) {
+        const Rectangle place = resizedRectangle(row.window, row.size, most);
+        EXPECT_EQ(place, (Rectangle{row.corner.left, row.corner.top, row.size.width, row.size.height}))
+            << row.size.width << "x" << row.size.height << ": " << place.left << ", " << place.top;
+    }
 }
 
 TEST(WindowGrowth, EndsWithWhatItWasForUnlessAPersonHasSizedTheWindow) {

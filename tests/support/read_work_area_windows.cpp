@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <cwchar>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -183,16 +182,16 @@ void printWindow(HWND window, HWND workArea) {
     std::printf("focus %s\n", focusOf(window, workArea).c_str());
     std::printf("menus %d\n", countShown("#32768"));
     std::printf("hint %s\n", hintOf(window).c_str());
-    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        wchar_t name[16] = L"";
-        GetClassNameW(child, name, static_cast<int>(std::size(name)));
-        const bool isTip = std::wcscmp(name, L"CalquoTip") == 0;
-        if (isTip && isShown(child)) {
-            GetWindowRect(child, &place);
+    std::vector<HWND> parts;
+    EnumChildWindows(window, listWindow, reinterpret_cast<LPARAM>(&parts));
+    for (const HWND part : parts) {
+        if (isShown(part) && classOf(part) == "CalquoTip") {
+            GetWindowRect(part, &place);
             std::printf("tip %ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
-        } else if (child != workArea && isShown(child) && std::wcscmp(name, L"CalquoHint") != 0) {
-            std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(child)));
-            printButtons(child);
+        } else if (isShown(part) && classOf(part) == "CalquoPanel" && GetDlgCtrlID(part) != 0) {
+            // Rows and the column, too, are panels, but no command is theirs.
+            std::printf("panel %04X\n", static_cast<unsigned>(GetDlgCtrlID(part)));
+            printButtons(part);
         }
     }
 }

@@ -17,6 +17,18 @@ BOOL CALLBACK noteButton(HWND window, LPARAM list) {
     return TRUE;
 }
 
+struct Search {
+    int identifier;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK find(HWND window, LPARAM parameter) {
+    Search& search = *reinterpret_cast<Search*>(parameter);
+    const bool isIt = GetDlgCtrlID(window) == search.identifier;
+    search.found = isIt ? window : nullptr;
+    return isIt ? FALSE : TRUE;
+}
+
 LRESULT CALLBACK closeMenu(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && reinterpret_cast<const CWPSTRUCT*>(lParam)->message == WM_INITMENUPOPUP) {
         ++Program::menusOpened;
@@ -67,7 +79,11 @@ void Program::command(unsigned identifier) {
     serveMessages();
 }
 
-HWND Program::child(unsigned identifier) const { return GetDlgItem(handle(), static_cast<int>(identifier)); }
+HWND Program::child(unsigned identifier) const {
+    Search search{static_cast<int>(identifier)};
+    EnumChildWindows(handle(), find, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
 
 std::vector<HWND> Program::buttonsOf(unsigned panel) const {
     std::vector<HWND> buttons;

@@ -30,7 +30,7 @@ public:
 
     void command(unsigned identifier);
 
-    /// The child window of an identifier, null when there is none.
+    /// The child window of an identifier, wherever it stands; null when there is none.
     HWND child(unsigned identifier) const;
     /// The buttons of a panel, row by row.
     std::vector<HWND> buttonsOf(unsigned panel) const;
