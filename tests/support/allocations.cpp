@@ -45,7 +45,7 @@ void* counted(void* memory) {
 
 }  // namespace
 
-// The other forms of both end in these.
+// The other forms of both end in these; those that do not throw would be the address check's own, were they not here.
 void* operator new(std::size_t size) {
     take(size);
     return counted(std::malloc(size));
@@ -61,6 +61,14 @@ void* operator new(std::size_t size, std::align_val_t alignment) {
 #endif
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void operator delete(void* memory) noexcept {
     deleted += memory != nullptr ? 1 : 0;
     std::free(memory);
@@ -74,6 +82,8 @@ void operator delete(void* memory, std::align_val_t) noexcept {
     std::free(memory);
 #endif
 }
+
+void operator delete(void* memory, const std::nothrow_t&) noexcept { operator delete(memory); }
 
 void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
 
