@@ -10,6 +10,7 @@
 #include "engine/characters.h"
 #include "engine/evaluator.h"
 #include "engine/keywords.h"
+#include "engine/number_literal.h"
 #include "same_value.h"
 #include "target.h"
 #include "values/errors.h"
@@ -37,6 +38,24 @@ void checkCall(std::string_view line, std::size_t caret) {
     require(text.presentBegin <= text.presentEnd && text.presentEnd <= text.text.size(), "an argument out of place");
 }
 
+std::size_t lastPieceBegin(std::string_view line) {
+    std::size_t begin = 0;
+    for (std::size_t index = 0; index < line.size(); index = pieceAt(line, index).end) {
+        begin = index;
+    }
+    return begin;
+}
+
+/// The length of the number at an index; 0 where the language reads none.
+std::size_t numberLength(std::string_view line, std::size_t index) {
+    try {
+        Real number = 0;
+        return readNumber(line, index, number);
+    } catch (const Except&) {
+        return 0;
+    }
+}
+
 void checkCompletion(const std::string& line, std::size_t caret) {
     const auto completion = completionAt(line, caret);
     if (!completion) {
@@ -50,14 +69,21 @@ void checkCompletion(const std::string& line, std::size_t caret) {
     std::ranges::sort(names);
     require(std::ranges::adjacent_find(names) == names.end(), "a name is offered twice");
     require(names.empty() || (names.front() >= 1 && names.back() <= keywordCount()), "no name is offered");
+    // After a base prefix letters are digits, and what is refused there stays so.
+    const bool hasBase = line.find(markCharacter(TokenClass::BaseMark)) != std::string::npos;
+    const std::size_t number = lastPieceBegin(line.substr(0, completion->begin));
     for (const std::size_t name : completion->names) {
         dimensionOf(name);
         const std::string text = textFor(name, line, *completion);
-        require(text.starts_with(nameOf(name)) && text.size() <= nameOf(name).size() + 1, "another name is put in");
-        const bool endsThere = !isNameCharacter(characterAt(line, completion->end));
+        const std::size_t blanks = text.starts_with(' ') ? 1 : 0;
+        require(std::string_view(text).substr(blanks).starts_with(nameOf(name)) &&
+                    text.size() <= blanks + nameOf(name).size() + 1,
+                "another name is put in");
         std::string completed = line;
         completed.replace(completion->begin, completion->end - completion->begin, text);
-        require(!endsThere || keywordAt(completed, completion->begin), "what is put in is no name");
+        require(keywordAt(completed, completion->begin + blanks), "what is put in is no name");
+        require(hasBase || numberLength(completed, number) == numberLength(line.substr(0, completion->begin), number),
+                "what is put in changes the number before it");
     }
 }
 

@@ -8,35 +8,30 @@
 #include "target.h"
 #include "workarea/record.h"
 #include "workarea/utf8.h"
+#include "workarea/visible_text.h"
 
 namespace calquo {
 namespace {
 
 constexpr std::size_t longestHint = 400;  // bytes
 
-/// Takes the first character away; false for one that no line has.
-bool takeCharacter(std::string_view& text) {
-    const auto character = firstUtf8Character(text);
-    text.remove_prefix(character ? character->length : 1);
-    return character && (character->code >= U' ' || character->code == U'\t');
-}
-
+/// The characters of the bytes but for line ends, control characters among them.
 std::string lineFrom(std::string_view bytes) {
     std::string line;
     while (!bytes.empty()) {
-        const std::string_view before = bytes;
-        if (takeCharacter(bytes)) {
-            line += before.substr(0, before.size() - bytes.size());
+        const auto character = firstUtf8Character(bytes);
+        const std::size_t length = character ? character->length : 1;
+        if (character && character->code != U'\n' && character->code != U'\r') {
+            line += bytes.substr(0, length);
         }
+        bytes.remove_prefix(length);
     }
     return line;
 }
 
-void checkText(std::string_view hint) {
+void checkText(const std::string& hint) {
     require(hint.size() <= longestHint, "a long hint");
-    while (!hint.empty()) {
-        require(takeCharacter(hint), "a hint that is no line of text");
-    }
+    require(hint.find('\n') == std::string::npos && visibleText(hint) == hint, "a hint that is no line of text");
 }
 
 void check(FuzzInput input) {

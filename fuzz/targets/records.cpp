@@ -1,11 +1,11 @@
 // Any line under any format: the record that it gives is found right when it is checked, and recording it again changes
 // nothing; a saved result that differs is told in one line.
 #include "console/line_answerer.h"
-#include "console/visible_text.h"
 #include "engine/characters.h"
 #include "numeric/random.h"
 #include "target.h"
 #include "values/errors.h"
+#include "workarea/visible_text.h"
 
 namespace calquo {
 namespace {

@@ -8,12 +8,13 @@
 #include "assist/name_dimension.h"
 #include "engine/characters.h"
 #include "engine/keywords.h"
+#include "hints/foreign_words.h"
 
 namespace calquo {
 namespace {
 
 /// How well a name fits, the best first.
-enum class Fit : std::uint8_t { Same, Beginning, Inside, WordOfDescription, InsideDescription, None };
+enum class Fit : std::uint8_t { Same, Beginning, OtherWord, Inside, WordOfDescription, InsideDescription, None };
 
 struct Ranked {
     Fit fit;
@@ -41,10 +42,27 @@ Fit fitOfDescription(std::string_view description, std::string_view word) {
     return best;
 }
 
-Fit fitOf(std::size_t name, std::string_view word) {
+/// The name for what other calculators call by a word; 0 where there is none that takes the same arguments.
+std::size_t nameForOtherWord(std::string_view word) {
+    if (const ForeignName* row = foreignName(word)) {
+        return lookup(row->write);
+    }
+    const ForeignCall* row = foreignCall(word);
+    const std::string_view call = row == nullptr ? std::string_view() : row->write;
+    const std::string_view name = call.substr(0, call.find('('));
+    const std::string_view arguments = call.substr(name.size());
+    const bool areSame = arguments == "(#0)" || arguments == "(#1)" || arguments == "(#1; #2)";
+    return areSame ? lookup(name) : 0;
+}
+
+/// @param otherWord the name that the word is another word for, or 0
+Fit fitOf(std::size_t name, std::string_view word, std::size_t otherWord) {
     const std::size_t at = findWord(nameOf(name), word);
     if (at == 0) {
         return nameOf(name).size() == word.size() ? Fit::Same : Fit::Beginning;
+    }
+    if (name == otherWord) {
+        return Fit::OtherWord;
     }
     if (at != std::string_view::npos) {
         return Fit::Inside;
@@ -55,9 +73,10 @@ Fit fitOf(std::size_t name, std::string_view word) {
 
 std::vector<std::size_t> namesFor(std::string_view word) {
     std::vector<Ranked> ranked;
+    const std::size_t otherWord = nameForOtherWord(word);
     for (std::size_t name = 1; name <= keywordCount(); ++name) {
         const bool isReserved = bindingOf(name).as<ReservedName>() != nullptr;
-        const Fit fit = isReserved ? Fit::None : fitOf(name, word);
+        const Fit fit = isReserved ? Fit::None : fitOf(name, word, otherWord);
         if (fit != Fit::None) {
             ranked.push_back({fit, name});
         }
@@ -97,13 +116,19 @@ std::optional<Completion> completionAt(std::string_view line, std::size_t caret)
 }
 
 std::string textFor(std::size_t name, std::string_view line, const Completion& completion) {
+    const auto classAt = [&](std::size_t index) { return classOfCharacter(characterAt(line, index)); };
+    const std::size_t before = completion.begin - 1;
+    const bool isAfterNumber = completion.begin > 0 && (isDecimalDigit(characterAt(line, before)) ||
+                                                        classAt(before) == TokenClass::DecimalMark);
     std::string text(nameOf(name));
-    const bool isFunction = !argumentsOf(name).empty();
-    const bool isOpen = classOfCharacter(characterAt(line, completion.end)) == TokenClass::ListOpen;
-    if (isFunction && !isOpen) {
-        text += markCharacter(TokenClass::ListOpen);
+    if (isAfterNumber && lowerCase(text[0]) == 'e') {
+        text.insert(0, 1, ' ');
     }
-    return text;
+    if (!argumentsOf(name).empty()) {
+        const bool isOpen = classAt(completion.end) == TokenClass::ListOpen;
+        return isOpen ? text : text + markCharacter(TokenClass::ListOpen);
+    }
+    return isNameCharacter(characterAt(line, completion.end)) ? text + ' ' : text;
 }
 
 }  // namespace calquo

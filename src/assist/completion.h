@@ -18,12 +18,14 @@ struct Completion {
 };
 
 /// The names that fit the word at the caret, without regard to case: those that are it, that begin with it, that
-/// contain it, those whose description or dimension has a word that begins with it, and those whose description
-/// contains it; each kind in the order of the alphabet. Every name where no word stands; none inside a number and after
-/// a base prefix, where letters are digits.
+/// is called by it on other calculators, that contain it, those whose description or dimension has a word that begins
+/// with it, and those whose description contains it; each kind in the order of the alphabet. Every name where no word
+/// stands; none inside a number and after a base prefix, where letters are digits.
 std::optional<Completion> completionAt(std::string_view line, std::size_t caret);
 
-/// What takes the place of the completed word: the name, and for a function its "(" unless the line has it already.
+/// What takes the place of the completed word: the name, and for a function its "(" unless the line has it already. A
+/// blank keeps the name apart from a word or number right after it, and one that begins with "e" from a number before
+/// it, of which the "e" would begin the exponent.
 std::string textFor(std::size_t name, std::string_view line, const Completion& completion);
 
 }  // namespace calquo

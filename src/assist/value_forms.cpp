@@ -61,6 +61,23 @@ std::string polarCall(Real radius, Real angle, std::string_view unitName) {
     return text + ")";
 }
 
+std::string closestPolarCall(const Value& value, Real radius, Real angle, std::string_view unitName) {
+    // The functions round; numbers beside theirs may be those that give the value back.
+    constexpr std::array steps = {0, 1, -1};
+    const auto stepped = [](Real number, int step) {
+        return step == 0 ? number : std::nextafter(number, step > 0 ? positiveInfinity : -positiveInfinity);
+    };
+    for (const int radiusStep : steps) {
+        for (const int angleStep : steps) {
+            std::string text = polarCall(stepped(radius, radiusStep), stepped(angle, angleStep), unitName);
+            if (readsAs(text, value)) {
+                return text;
+            }
+        }
+    }
+    return polarCall(radius, angle, unitName);
+}
+
 /// Adds a term of a sum unless it is 0.
 void appendTerm(std::string& sum, const std::string& number, std::string_view unitName) {
     if (number != "0") {
@@ -125,23 +142,15 @@ std::string baseText(Real number, std::uint32_t base) {
 }
 
 std::string polarText(const Value& value, std::string_view unitName, Real unit) {
-    // The functions round; numbers beside theirs may be those that give the value back.
-    constexpr std::array steps = {0, 1, -1};
-    const auto stepped = [](Real number, int step) {
-        return step == 0 ? number : std::nextafter(number, step > 0 ? positiveInfinity : -positiveInfinity);
-    };
-    const FullPrecision precision;
-    const Real radius = abs(value).re;
-    const Real angle = arg(value).re / unit;
-    for (const int radiusStep : steps) {
-        for (const int angleStep : steps) {
-            std::string text = polarCall(stepped(radius, radiusStep), stepped(angle, angleStep), unitName);
-            if (readsAs(text, value)) {
-                return text;
-            }
-        }
+    if (bitsOf(value.re).special() || bitsOf(value.im).special()) {
+        return "";
     }
-    return polarCall(radius, angle, unitName);
+    const FullPrecision precision;
+    try {
+        return closestPolarCall(value, abs(value).re, arg(value).re / unit, unitName);
+    } catch (const Except&) {
+        return "";  // the magnitude is beyond the finite range
+    }
 }
 
 std::string timeText(Real seconds) {

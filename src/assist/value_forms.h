@@ -24,7 +24,8 @@ std::string fractionText(Real number);
 /// A whole number below 2^64 in magnitude in a base of 2 to 36, with its prefix; empty for any other.
 std::string baseText(Real number, std::uint32_t base);
 
-/// "polar(r; angle)" with the angle times a unit, whose name goes after it when it has one.
+/// "polar(r; angle)" with the angle times a unit, whose name goes after it when it has one. Empty
+/// where a part of the value or its magnitude is not finite.
 std::string polarText(const Value& value, std::string_view unitName, Real unit);
 
 /// "1 day + 2 hour + 30 minute + 15 second", without what is 0; empty below a minute and from 1e12 seconds on.

@@ -8,7 +8,7 @@
 #include <cstring>
 
 #include "console/system_files.h"
-#include "console/visible_text.h"
+#include "workarea/visible_text.h"
 
 namespace calquo {
 namespace {

@@ -13,10 +13,10 @@
 #include "console/line_answerer.h"
 #include "console/line_reader.h"
 #include "console/system_files.h"
-#include "console/visible_text.h"
 #include "engine/characters.h"
 #include "engine/keywords.h"
 #include "values/program.h"
+#include "workarea/visible_text.h"
 
 namespace calquo {
 namespace {

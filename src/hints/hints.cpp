@@ -7,6 +7,7 @@
 
 #include "hints/accepted_lines.h"
 #include "hints/refused_lines.h"
+#include "workarea/visible_text.h"
 
 namespace calquo {
 
@@ -20,7 +21,7 @@ std::string hintFor(std::string_view line, const Answer* answer, const HintSetti
     const std::string_view expression = expressionOf(line);
     splitIntoWords(expression, words);
     const Situation situation{line, expression, words, answer, settings};
-    return answer != nullptr && answer->failed ? hintForRefused(situation) : hintForAccepted(situation);
+    return visibleText(answer != nullptr && answer->failed ? hintForRefused(situation) : hintForAccepted(situation));
 }
 
 }  // namespace calquo

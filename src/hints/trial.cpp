@@ -19,8 +19,9 @@ std::string withoutRandomNumbers(std::string_view expression) {
         if (!word->isName() || !sameLetters(word->text.substr(0, beginning.size()), beginning)) {
             continue;
         }
+        // After a number "e" would begin an exponent.
         const ArgumentClass taken = classOf(lookup(word->text));
-        const std::string_view calm = taken == ArgumentClass::Two ? "max" : taken == ArgumentClass::One ? "abs" : "e";
+        const std::string_view calm = taken == ArgumentClass::Two ? "max" : taken == ArgumentClass::One ? "abs" : "pi";
         line.replace(static_cast<std::size_t>(word->text.data() - expression.data()), word->text.size(), calm);
     }
     return line;

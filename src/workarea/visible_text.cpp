@@ -1,5 +1,5 @@
 // Which characters are control characters, and how they are shown.
-#include "console/visible_text.h"
+#include "workarea/visible_text.h"
 
 #include <algorithm>
 
