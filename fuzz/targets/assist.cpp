@@ -12,8 +12,10 @@
 #include "engine/keywords.h"
 #include "engine/number_literal.h"
 #include "same_value.h"
+#include "shell/tip_contents.h"
 #include "target.h"
 #include "values/errors.h"
+#include "widgets/tip_layout.h"
 
 namespace calquo {
 namespace {
@@ -26,6 +28,27 @@ void checkPieces(std::string_view line) {
     }
 }
 
+/// A tip has all its rows, one below the other, and a place beside the line.
+void checkTip(const TipContent& content) {
+    constexpr TipMetrics metrics{300, 16, 12};
+    constexpr int widthOfCharacter = 7;
+    const auto measure = [](const TipCell&, TextSpan part) {
+        return static_cast<int>(part.end - part.begin) * widthOfCharacter;
+    };
+    const TipLayout layout = layOutTip(content.rows, metrics, measure);
+    require(layout.rows.size() == content.rows.size(), "a row of the tip is left out");
+    int bottom = 0;
+    for (const PlacedRow& row : layout.rows) {
+        require(row.top >= bottom && row.height >= metrics.lineHeight, "two rows of the tip overlap");
+        bottom = row.top + row.height;
+    }
+    constexpr Rectangle area{0, 0, 1000, 800};
+    const Rectangle line{500, 400, 20, 16};
+    const Size size{layout.width, std::min(bottom, roomBeside(line, bottom, area))};
+    const Rectangle place = placeBeside(line, size, area);
+    require(place.top >= line.top + line.height || place.top + place.height <= line.top, "the tip covers the line");
+}
+
 void checkCall(std::string_view line, std::size_t caret) {
     const auto call = callAt(line, caret);
     if (!call) {
@@ -35,6 +58,7 @@ void checkCall(std::string_view line, std::size_t caret) {
     require(!argumentTextOf(call->function).empty(), "a call of a name without arguments");
     const CallText text = textOf(*call);
     require(text.text.starts_with(nameOf(call->function)), "the text is of another function");
+    checkTip(contentOf(*call));
     require(text.presentBegin <= text.presentEnd && text.presentEnd <= text.text.size(), "an argument out of place");
 }
 
@@ -65,6 +89,7 @@ void checkCompletion(const std::string& line, std::size_t caret) {
             "a word that is not at the caret");
     require(completion->typed == std::string_view(line).substr(completion->begin, caret - completion->begin),
             "another word is completed");
+    checkTip(contentOf(*completion));
     std::vector<std::size_t> names = completion->names;
     std::ranges::sort(names);
     require(std::ranges::adjacent_find(names) == names.end(), "a name is offered twice");
@@ -88,6 +113,7 @@ void checkCompletion(const std::string& line, std::size_t caret) {
 }
 
 void checkDetails(const std::string& line) {
+    checkTip(contentOf(detailsOfLine(line), DetailKeys::Letters));
     for (const Detail& detail : detailsOfLine(line)) {
         require(!detail.text.empty() && !detail.what.empty(), "an empty detail");
     }
@@ -111,6 +137,7 @@ void check(FuzzInput input) {
     std::erase_if(line, [](char character) { return character == '\r' || character == '\n'; });
     const std::size_t caret = place % (line.size() + 1);
     checkPieces(line);
+    require(nameAt(line, caret) <= keywordCount(), "the caret is at no name");
     checkCall(line, caret);
     checkCompletion(line, caret);
     checkDetails(line);
