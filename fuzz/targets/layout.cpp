@@ -98,6 +98,10 @@ void checkPlace(InputReader& reader) {
         const Rectangle placed = dialogRectangle(dialog, wanted, area);
         const bool fits = dialog.width <= area.width && dialog.height <= area.height;
         require(!fits || isWithin(placed, area), "a dialog that fits leaves the screen");
+        const Rectangle resized = resizedRectangle(shown, dialog, maximized);
+        require(resized.width == dialog.width && resized.height == dialog.height, "a window has another size");
+        require(!fits || !isWithin(shown, maximized) || isWithin(resized, maximized),
+                "a window grows out of the screen");
         require(placed.left >= area.left && placed.top >= area.top, "the corner of a dialog is out of view");
     }
 }
