@@ -10,8 +10,18 @@
 #include "workarea/visible_text.h"
 
 namespace calquo {
+namespace {
+
+// In bytes. The rules look back and ahead from each word, and try the line again in other words, so their time grows
+// with the square of the length. Nobody waits for advice about a line that no one has typed by hand.
+constexpr std::size_t longestLineWithHint = 2000;
+
+}  // namespace
 
 std::string hintFor(std::string_view line, const Answer* answer, const HintSettings& settings) {
+    if (line.size() > longestLineWithHint) {
+        return {};
+    }
     // The words of short lines stay on the stack.
     constexpr std::size_t wordsOnStack = 64;
     alignas(Word) std::array<std::byte, wordsOnStack * sizeof(Word)> storage;

@@ -167,6 +167,11 @@ TEST(Hints, TheAngleOptionOfTheButtonsCounts) {
     }
 }
 
+TEST(Hints, AreNotSoughtForLongLines) {
+    EXPECT_FALSE(saidAbout("sin(30)" + std::string(1990, ' ')).hint.empty());
+    EXPECT_TRUE(saidAbout("sin(30)" + std::string(1994, ' ')).hint.empty());
+}
+
 TEST(Hints, LeaveTheErrorPositionAndTheRandomNumbersAsTheyAre) {
     Answer answer;
     evaluateInto(answer, "rndSeed(7)", defaultFormats[0]);
