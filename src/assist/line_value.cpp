@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "assist/value_details.h"
 #include "assist/value_forms.h"
 #include "engine/characters.h"
 #include "engine/evaluator.h"
@@ -59,7 +60,7 @@ std::optional<LineValue> valueWritten(std::string_view answer, std::string_view 
     Answer present;
     if (!expression.empty()) {
         evaluateInto(present, expression, format);
-        line.value = !present.failed && present.text == answer ? evaluated(expression) : line.value;
+        line.value = !present.failed && present.text == answer ? present.value : line.value;
     }
     return line;
 }
@@ -67,15 +68,18 @@ std::optional<LineValue> valueWritten(std::string_view answer, std::string_view 
 }  // namespace
 
 std::optional<LineValue> valueOf(std::string_view line, NumericFormat format) {
-    const std::string_view expression = expressionOf(line);
+    std::string_view expression = expressionOf(line);
+    if (drawsRandomNumbers(expression)) {
+        expression = {};  // another number would come, and others after it
+    }
     std::optional<LineValue> found;
     if (const std::size_t equals = line.find('='); equals != std::string_view::npos) {
         found = valueWritten(withoutBlanksAround(line.substr(equals + 1)), expression, format);
-    } else {
+    } else if (!expression.empty()) {
         Answer answer;
         evaluateInto(answer, expression, format);
         if (!answer.failed) {
-            found = LineValue{answer.text, evaluated(expression)};
+            found = LineValue{answer.text, answer.value};
         }
     }
     if (found && found->value && found->shown.front() != '(' && isRest(found->value->im)) {

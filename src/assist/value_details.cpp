@@ -37,12 +37,6 @@ bool hasName(std::string_view expression, const IsSuch& isSuch) {
     return false;
 }
 
-/// The random numbers and what seeds them: to evaluate them would change those to come.
-bool isRandom(std::string_view name) {
-    const std::string_view known = nameOf(lookup(name));
-    return known.starts_with("rnd");
-}
-
 bool isTimeUnit(std::string_view name) { return dimensionOf(lookup(name)) == dimension::time; }
 
 /// The expression with units of time that are twice as large.
@@ -97,9 +91,13 @@ std::vector<Detail> detailsOf(const Value& value, bool isTime) {
     return details;
 }
 
+bool drawsRandomNumbers(std::string_view expression) {
+    return hasName(expression, [](std::string_view name) { return nameOf(lookup(name)).starts_with("rnd"); });
+}
+
 std::vector<Detail> detailsOfLine(std::string_view line) {
     const std::string_view expression = expressionOf(line);
-    if (!hasName(expression, isRandom)) {
+    if (!drawsRandomNumbers(expression)) {
         if (const auto value = valueOf(expression)) {
             return detailsOf(*value, isTime(expression, *value));
         }

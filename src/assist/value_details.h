@@ -28,6 +28,9 @@ struct Detail {
 /// - days, hours, minutes and seconds, if `isTime`, for real numbers of a minute and more
 std::vector<Detail> detailsOf(const Value& value, bool isTime);
 
+/// Whether an expression names random numbers, or what seeds them: to evaluate it would change those to come.
+bool drawsRandomNumbers(std::string_view expression);
+
 /// The details of a line's value: that of its expression, or where the expression fails or is evaluated to something
 /// else each time, that of what stands after the "=". None where neither has a value. The value counts as time where
 /// the expression names units of time and is proportional to their size.

@@ -427,6 +427,11 @@ bool MainWindow::onFilesDropped(std::uintptr_t drop) {
 bool MainWindow::onCommand(const Notification& notification) {
     if (notification.control == nullptr) {
         workArea_->endFreshness();
+        const bool opensTip = notification.command == identifierOf(Command::ShowDetails) ||
+                              notification.command == identifierOf(Command::CompleteName);
+        if (!opensTip && tips_ != nullptr) {
+            tips_->pressed();
+        }
         commands_->run(notification.command);
     } else if (isPress(notification)) {
         runCaptionCommand(static_cast<CaptionCommand>(notification.command), notification.control);

@@ -240,6 +240,7 @@ bool WorkAreaTips::takesKeyOfNames(const KeyEvent& event) {
             return true;
         case VK_ESCAPE:
             shown_ = Shown::Nothing;
+            tip().stopTime();
             tip().hideTip();
             lineMayHaveChanged();
             return true;
@@ -253,6 +254,7 @@ void WorkAreaTips::take(std::size_t row) {
     const CurrentLine line = workArea_.currentLine();
     const auto word = completionAt(line.text, line.selectionEnd);
     shown_ = Shown::Nothing;
+    tip().stopTime();
     tip().hideTip();
     if (word) {
         const std::string text = textFor(completion_->names[row], line.text, *word);

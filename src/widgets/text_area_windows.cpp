@@ -375,10 +375,14 @@ std::string TextArea::richTextIn(TextRange range) {
 bool TextArea::replaceByRichText(TextRange range, std::string_view text) {
     const PaintingPause pause(handle());
     const TextRange before = selection();
+    const std::int32_t length = lengthOf(handle());
     select(range);
     const bool taken = streamIntoSelection(text, SF_RTF);
     if (!taken) {
-        SendMessageW(handle(), EM_UNDO, 0, 0);
+        // Where nothing was taken out or in, the last step is the user's own.
+        if (range.begin != range.end || lengthOf(handle()) != length) {
+            SendMessageW(handle(), EM_UNDO, 0, 0);
+        }
         select(before);
     }
     return taken;

@@ -326,6 +326,9 @@ void WorkArea::typeCharacters(std::string_view characters) {
 void WorkArea::pressKey(std::uint32_t virtualKey) { SendMessageW(handle(), WM_KEYDOWN, virtualKey, 1); }
 
 void WorkArea::insertForeignText(const ForeignText& text) {
+    if (text.plain.empty() && text.rich.empty()) {
+        return;
+    }
     try {
         if (text.plain.size() * sizeof(char16_t) > largestFile || text.rich.size() > largestFile) {
             throw FileFault{FileFailure::TooLarge, {}};
@@ -341,6 +344,9 @@ void WorkArea::insertForeignText(const ForeignText& text) {
 
 void WorkArea::insertPlainText(std::u16string_view foreign) {
     std::u16string text = pastedText(foreign);
+    if (text.empty()) {
+        return;
+    }
     const auto [begin, end] = selection();
     const bool beginsLine = paragraphAt(begin).range.begin == begin;
     // What spreadsheets say of one cell ends with a line end, which is wanted between lines alone.

@@ -122,6 +122,17 @@ TEST(Paste, EveryWayPutsTheLanguagesOwnTextInTheProgramsStyle) {
     EXPECT_EQ(askFor(fixture.workArea(), {{CF_BITMAP, "x"}}, RECO_DROP, false), E_FAIL);
 }
 
+TEST(Paste, NothingComesWhereThereIsNothing) {
+    for (const Offer& offer : {Offer{}, Offer{{richTextFormat(), "no rich text"}}}) {
+        copyToClipboard(offer);
+        Fixture fixture;
+        fixture.type("5");
+        pasteByKey(fixture);
+        pasteWithLooks(fixture);
+        EXPECT_EQ(fixture.picture(), L"5|");
+    }
+}
+
 TEST(Paste, LooksComeAlongWhereTheyAreWanted) {
     copyToClipboard(rich("{\\rtf1{\\colortbl;\\red0\\green0\\blue139;}2+3{\\b\\cf1  = 5}\\line{\\pict 00}6\\par}"));
     for (const auto paste : {pasteWithLooks, pasteByKey}) {

@@ -160,15 +160,16 @@ TEST(WorkArea, WhatIsTypedBesideAResultIsNormal) {
     EXPECT_EQ(fixture.picture(), L"4*5< = 20>\n\n20|\n6\n\n5");
 }
 
+DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
+    auto& text = *reinterpret_cast<std::string_view*>(rest);
+    *count = static_cast<LONG>(text.copy(reinterpret_cast<char*>(buffer), static_cast<std::size_t>(room)));
+    text.remove_prefix(static_cast<std::size_t>(*count));
+    return 0;
+}
+
 /// Puts rich text at the caret as pasting with its formats does.
 void streamIn(const WorkAreaFixture& fixture, std::string_view text) {
-    EDITSTREAM stream{
-        reinterpret_cast<DWORD_PTR>(&text), 0, [](DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
-            auto& text = *reinterpret_cast<std::string_view*>(rest);
-            *count = static_cast<LONG>(text.copy(reinterpret_cast<char*>(buffer), static_cast<std::size_t>(room)));
-            text.remove_prefix(static_cast<std::size_t>(*count));
-            return DWORD{0};
-        }};
+    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, readPiece};
     SendMessageW(fixture.control(), EM_STREAMIN, SF_RTF | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
 }
 
