@@ -111,11 +111,12 @@ bool findsShortArgument(const Situation& situation, Findings& findings) {
         }
         const Word& next = words[i + 2];
         const bool isPower = (next.is("^") || next.is("**")) && i + 3 < words.size();
-        const bool isUnit = argument.isNumber() && next.isName() && unitOf(next.text) != nullptr;
-        if (!isPower && !isUnit) {
+        const bool isFactor = argument.isNumber() && isNumberName(next);
+        const bool isPartOfPi = isOneOf(ofAngles, words[i]) && isNamed(argument, "pi") && next.is("/");
+        if (!isPower && !isFactor && !isPartOfPi) {
             continue;
         }
-        std::size_t end = i + 3;
+        std::size_t end = isPartOfPi ? i + 2 : i + 3;
         if (isPower) {
             end += words[end].is("-") ? 1 : 0;
             end = end < words.size() && words[end].is("(") ? closingOf(words, end) + 1 : end + 1;
@@ -123,6 +124,9 @@ bool findsShortArgument(const Situation& situation, Findings& findings) {
             while (end < words.size() && isNumberName(words[end])) {
                 ++end;
             }
+            // "sin pi/2", "cos 2pi/3": a part of the circle.
+            const bool isPart = end + 1 < words.size() && words[end].is("/") && words[end + 1].isNumber();
+            end += isPart && isOneOf(ofAngles, words[i]) && isNamed(words[end - 1], "pi") ? 2 : 0;
         }
         Draft draft(words);
         const std::string call = std::string(words[i].text) + "(" + draft.text(i + 1, end) + ")";

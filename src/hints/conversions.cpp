@@ -2,6 +2,7 @@
 #include "hints/conversions.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "hints/draft.h"
 #include "hints/name_facts.h"
@@ -41,6 +42,15 @@ std::string enclosed(const Words& words, std::size_t begin, std::size_t end) {
     const std::string inside = draft.text(begin, end);
     draft.replace(begin, end - begin, "(" + inside + ")");
     return draft.text();
+}
+
+/// Whether two values differ by more than rounding.
+bool differs(const Value& a, const Value& b) {
+    constexpr Real traceOfRounding = 1e-15L;
+    const auto apart = [](Real x, Real y) {
+        return !(std::fabs(x - y) <= traceOfRounding * std::max(std::fabs(x), std::fabs(y)));
+    };
+    return apart(a.re, b.re) || apart(a.im, b.im);
 }
 
 }  // namespace
@@ -113,7 +123,9 @@ bool findsDivisorSideBySide(const Situation& situation, Findings& findings) {
             }
         }
         findings[0] = enclosed(words, i + 1, end);
-        return hasResult(findings[0]);
+        Answer meant;
+        return evaluates(findings[0], situation.settings.format, meant) &&
+               differs(meant.value, situation.answer->value);
     }
     return false;
 }

@@ -81,6 +81,19 @@ bool losesDigits(const Answer& answer, std::uint32_t digits) {
     return digitsShown(scientific(answer, digits)) > digitsShown(answer.text);
 }
 
+/// Whether a temperature is converted: what rounding leaves of 0 is as large as the offset of its scale makes it.
+bool hasScale(const Words& words) {
+    return std::ranges::any_of(words, [](const Word& word) {
+        const Unit* const unit = word.isName() ? unitOf(word.text) : nullptr;
+        return unit != nullptr && unit->offset != 0;
+    });
+}
+
+/// Factorials come from an approximation, whose last digits are not those of the whole number.
+bool hasFactorial(const Words& words) {
+    return std::ranges::any_of(words, [](const Word& word) { return word.is("!") || isNamed(word, "fact"); });
+}
+
 bool isRealAnswer(const Answer* answer) {
     return answer != nullptr && std::fabs(answer->value.im) < 1e-12L && std::isfinite(answer->value.re);
 }
@@ -96,6 +109,10 @@ bool findsHiddenValue(const Situation& situation, Findings& findings) {
     if (std::fabs(answer->value.re) < largestTrace && maySumToZero(situation.words)) {
         return false;
     }
+    constexpr Real largestTraceOfOffset = 1e-12L;
+    if (std::fabs(answer->value.re) < largestTraceOfOffset && hasScale(situation.words)) {
+        return false;
+    }
     findings[0] = scientific(*answer, someDigits);
     return true;
 }
@@ -103,7 +120,7 @@ bool findsHiddenValue(const Situation& situation, Findings& findings) {
 bool findsHiddenDigits(const Situation& situation, Findings& findings) {
     const Answer* const answer = situation.answer;
     constexpr Real million = 1e6L;
-    if (!isRealAnswer(answer) || !keepsDigits(situation.settings.format)) {
+    if (!isRealAnswer(answer) || !keepsDigits(situation.settings.format) || hasFactorial(situation.words)) {
         return false;
     }
     const Real magnitude = std::fabs(answer->value.re);
