@@ -9,8 +9,8 @@ namespace calquo {
 bool findsRadiansForDegrees(const Situation& situation, Findings& findings);
 /// "aTan(1)" where the buttons add degrees. Finds the unit and the line that converts.
 bool findsAngleInRadians(const Situation& situation, Findings& findings);
-/// "sin 30 deg", "sin pi/2", "ln 2^3": without parentheses a function takes the one number after it. Finds the function and the
-/// line with parentheses.
+/// "sin 30 deg", "sin pi/2", "ln 2^3": without parentheses a function takes the one number after it. Finds the function
+/// and the line with parentheses.
 bool findsShortArgument(const Situation& situation, Findings& findings);
 
 }  // namespace calquo

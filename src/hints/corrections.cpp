@@ -54,6 +54,8 @@ std::span<const Correction> corrections() {
          "names are of letters and digits", splitGluedUnits},
         {"a quantity has several parts", "The parts of a quantity are added.", "5 lb 3 oz",
          "juxtaposition takes names and groups only", addQuantities},
+        {"minutes have the letter of the metre", "\"m\" is the metre here; the minute is \"mn\".", "1h + 30m",
+         "the units' table", replaceMetresByMinutes},
         // Words
         {"a result is wanted in another base", "The base of a result is chosen by \"%2\" at the end.", "255 in hex",
          "the directive for the output base", replaceBaseWords},

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace calquo {
@@ -64,6 +65,20 @@ void replaceSuperscripts(Draft& draft, std::size_t index) {
     }
     draft.words.insert(draft.words.begin() + static_cast<std::ptrdiff_t>(index + (negative ? 2 : 1)),
                        {WordKind::Number, exponent.substr(negative ? 1 : 0)});
+}
+
+/// "3√27": a whole number before the sign is the degree where the root is a whole number too.
+bool isRootOfDegree(const Draft& draft, std::size_t index) {
+    const auto isShort = [](const DraftWord& word, std::size_t digits) {
+        return word.isNumber() && isWholeNumber(word.text) && word.text.size() <= digits;
+    };
+    if (!draft.at(index).is("√") || draft.at(index).afterBlank || index == 0 || !isShort(draft.at(index - 1), 1) ||
+        !isShort(draft.at(index + 1), 9)) {
+        return false;
+    }
+    const double degree = std::stod(draft.at(index - 1).text);
+    const double radicand = std::stod(draft.at(index + 1).text);
+    return degree > 2 && std::pow(std::round(std::pow(radicand, 1 / degree)), degree) == radicand;
 }
 
 }  // namespace
@@ -171,7 +186,13 @@ bool replaceSigns(Draft& draft, Findings& findings) {
             draft.remove(i);
             draft.words[i].text = "∛";
         }
-        if (const Sign* row = rowOf(signs, draft.words[i])) {
+        if (isRootOfDegree(draft, i)) {
+            const std::string degree = draft.at(i - 1).text;
+            draft.replace(i - 1, 3, "root(" + draft.at(i + 1).text + "; " + degree + ")");
+            findings = changed ? findings : Findings{degree + sign, "root", ""};
+            changed = true;
+            --i;
+        } else if (const Sign* row = rowOf(signs, draft.words[i])) {
             write = row->write;
             const bool isOperand = write.size() > 1 && write[0] != '-' && write[0] != '*';
             if (isOperand && draft.at(i - 1).isNumber() && write.find('/') != std::string::npos) {

@@ -148,6 +148,17 @@ std::string otherForm(std::string_view form) {
     return isName ? "is \"" + name + "\"" : "is calculated in another way";
 }
 
+/// Whether a unit follows the number of a sine or the like: "sin 30d", "sin(30 d)".
+bool isOfAngle(const Draft& draft, std::size_t index) {
+    constexpr std::array<std::string_view, 6> ofAngles = {"sin", "cos", "tan", "sec", "csc", "cot"};
+    if (index < 2 || !draft.at(index - 1).isNumber()) {
+        return false;
+    }
+    const std::size_t function = index - (draft.at(index - 2).is("(") && index > 2 ? 3 : 2);
+    return std::ranges::any_of(ofAngles,
+                               [&](std::string_view name) { return sameLetters(name, draft.at(function).text); });
+}
+
 bool isUnknown(const DraftWord& word) {
     if (!word.isName()) {
         return false;
@@ -222,6 +233,15 @@ bool replaceArrowWords(Draft& draft, Findings& findings) {
 
 bool replacePercentWords(Draft& draft, Findings& /*findings*/) {
     bool changed = false;
+    // "50/200 in %": how many hundredths that is.
+    if (const std::size_t count = draft.words.size();
+        count > 2 && draft.words[count - 1].is("%") && isArrow(draft.words[count - 2])) {
+        draft.remove(count - 2, 2);
+        const bool isSum = draft.sideBegin(count - 2, "+-") != 0;
+        const std::string share = draft.text();
+        draft.replace(0, count - 2, (isSum ? "(" + share + ")" : share) + "*100");
+        return true;
+    }
     for (std::size_t i = 1; i < draft.words.size(); ++i) {
         const DraftWord& word = draft.words[i];
         if (!word.isName() || !draft.endsOperand(i - 1)) {
@@ -305,10 +325,12 @@ bool replaceCalls(Draft& draft, Findings& findings) {
     bool changed = false;
     // From the end, so that the innermost calls come first.
     for (std::size_t i = draft.words.size(); i-- > 0;) {
-        if (!isUnknown(draft.words[i])) {
+        // "C(5, 2)": combinations, where the language has a temperature.
+        const bool isChoice = draft.words[i].is("C") && draft.at(i + 1).is("(");
+        if (!isChoice && !isUnknown(draft.words[i])) {
             continue;
         }
-        const ForeignCall* const row = foreignCall(draft.words[i].text);
+        const ForeignCall* const row = foreignCall(isChoice ? "ncr" : draft.words[i].text);
         if (row == nullptr) {
             continue;
         }
@@ -416,7 +438,10 @@ bool replaceNames(Draft& draft, Findings& findings) {
     bool changed = false;
     for (std::size_t i = 0; i < draft.words.size(); ++i) {
         const bool isForeign = isUnknown(draft.words[i]) && missingWord(draft.words[i].text) == nullptr;
-        const auto found = isForeign ? replacementFor(draft.words[i].text) : std::nullopt;
+        auto found = isForeign ? replacementFor(draft.words[i].text) : std::nullopt;
+        if (found && draft.words[i].is("d") && isOfAngle(draft, i)) {
+            found->text = "deg";
+        }
         if (!found) {
             continue;
         }

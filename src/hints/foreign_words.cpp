@@ -293,6 +293,8 @@ constexpr auto calls = std::to_array<ForeignCall>({
     {"shl", "bShift(#1; -#2)"},
     {"lshift", "bShift(#1; -#2)"},
     {"bitlshift", "bShift(#1; -#2)"},
+    {"random", "rndR(#1; #2)"},
+    {"rand", "rndR(#1; #2)"},
     {"randint", "floor(rndR(#1; #2+1))"},
     {"randbetween", "floor(rndR(#1; #2+1))"},
 });

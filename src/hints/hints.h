@@ -22,8 +22,8 @@ inline constexpr std::string_view firstStartHint =
 
 /// The hint about a line, in UTF-8 and without a line end or any control character but tabs, those of the line being
 /// written as "\x1B"; empty where there is nothing to say, and for lines of more than 2,000 bytes. Nothing is changed:
-/// the line may be evaluated again in other words, but the random numbers and the place of the last error stay what they
-/// were.
+/// the line may be evaluated again in other words, but the random numbers and the place of the last error stay what
+/// they were.
 /// @param line the whole line in UTF-8, with what follows the "="
 /// @param answer what the line's expression gave; null where the line has none
 std::string hintFor(std::string_view line, const Answer* answer, const HintSettings& settings);

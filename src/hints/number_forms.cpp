@@ -36,6 +36,19 @@ bool isExchanged(std::string_view text) {
 
 bool hasBasePrefix(std::string_view text) { return text.find('\'') != std::string_view::npos; }
 
+/// "1,2,3": single digits between two commas or more.
+bool isListOfDigits(std::string_view text) {
+    if (text.size() < 5 || text.size() % 2 == 0) {
+        return false;
+    }
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (i % 2 == 0 ? !isDecimalDigit(text[i]) : text[i] != ',') {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool isGroup(const DraftWord& word) {
     return word.isNumber() && word.text.size() == thousandsGroup && isWholeNumber(word.text);
 }
@@ -107,6 +120,15 @@ bool separateItems(Draft& draft, Findings& findings) {
             changed = true;
         }
     }
+    // "1,2,3": items alone.
+    for (DraftWord& word : draft.words) {
+        if (word.isNumber() && decimalMark() != ',' && isListOfDigits(word.text)) {
+            for (std::size_t comma = word.text.find(','); comma != std::string::npos; comma = word.text.find(',')) {
+                word.text.replace(comma, 1, "; ");
+            }
+            changed = true;
+        }
+    }
     findings[0] = groupMark();
     return changed;
 }
@@ -173,6 +195,12 @@ bool exchangeMarks(Draft& draft, Findings& findings) {
             }
         } catch (const Except&) {
             value = 0;
+        }
+        // "1,234,56" may have a digit too few as well as another mark.
+        const bool isUncertain =
+            marks > 1 && !hasDecimal && word.text.size() - word.text.rfind(groupMark()) - 1 != thousandsGroup;
+        if (isUncertain) {
+            continue;
         }
         if (isExchanged(word.text)) {
             std::erase(word.text, decimalMark());

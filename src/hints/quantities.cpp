@@ -34,6 +34,21 @@ bool isHourOrMinute(std::string_view unit) {
 
 bool isWhole(const DraftWord& word) { return word.isNumber() && isWholeNumber(word.text); }
 
+/// "8:30 pm", "12:30 to 17:45": times of the day, in whose place no sum of units can stand.
+bool hasTimeOfDay(const Draft& draft) {
+    bool afterColon = false;
+    for (std::size_t i = 0; i < draft.words.size(); ++i) {
+        const std::string& text = draft.words[i].text;
+        const bool isHalf = sameLetters(text, "am") || sameLetters(text, "pm");
+        const bool isSpan = (sameLetters(text, "to") || text == "->") && draft.at(i + 2).is(":");
+        if (afterColon && (isHalf || isSpan)) {
+            return true;
+        }
+        afterColon = afterColon || text == ":";
+    }
+    return false;
+}
+
 }  // namespace
 
 bool replaceFeetAndInches(Draft& draft, Findings& findings) {
@@ -90,11 +105,16 @@ bool replaceArcMinutes(Draft& draft, Findings& findings) {
 
 bool replaceClockTimes(Draft& draft, Findings& findings) {
     bool changed = false;
+    if (hasTimeOfDay(draft)) {
+        return true;
+    }
     for (std::size_t i = 0; i + 2 < draft.words.size(); ++i) {
         const auto isPart = [&](std::size_t mark) {
             return draft.at(mark).is(":") && isWhole(draft.at(mark + 1)) && draft.at(mark + 1).text.size() == 2;
         };
-        if (!isWhole(draft.words[i]) || !isPart(i + 1)) {
+        // "sum(1:10)" is a range elsewhere.
+        const bool isRange = draft.isInList(i) && draft.words[i].text.size() == 1 && draft.at(i + 3).is(")");
+        if (!isWhole(draft.words[i]) || !isPart(i + 1) || isRange) {
             continue;
         }
         std::string sum = "(" + draft.words[i].text + " hr + " + draft.words[i + 2].text + " mn";
@@ -113,6 +133,22 @@ bool splitGluedUnits(Draft& draft, Findings& /*findings*/) {
         const DraftWord word = draft.words[i];
         const std::size_t digits = word.text.find_first_of("0123456789");
         if (!word.isName() || lookup(word.text) != 0 || digits == std::string::npos || !draft.at(i - 1).isNumber()) {
+            continue;
+        }
+        const bool isOneLetter = digits == 1 && isWholeNumber(std::string_view(word.text).substr(1));
+        if (isOneLetter && word.text[0] == 'C' && !word.afterBlank) {
+            // "5C2": the word that stands between its arguments.
+            draft.words[i].text = "nCr";
+            draft.words.insert(draft.words.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                               {WordKind::Number, word.text.substr(1), true});
+            changed = true;
+            continue;
+        }
+        if (isOneLetter && word.text[0] == 'e') {
+            // "1.5 e3": an exponent after a blank.
+            draft.replace(i - 1, 2, draft.at(i - 1).text + word.text);
+            --i;
+            changed = true;
             continue;
         }
         const DraftWord unit{WordKind::Name, word.text.substr(0, digits), word.afterBlank};
@@ -165,6 +201,29 @@ bool addQuantities(Draft& draft, Findings& findings) {
         findings[0] = changed ? findings[0] : sum;
         draft.replace(i, end - i, sum);
         changed = true;
+    }
+    return changed;
+}
+
+bool replaceMetresByMinutes(Draft& draft, Findings& /*findings*/) {
+    const auto isHour = [](const DraftWord& word) {
+        const std::string unit = unitNameOf(word);
+        return unit == "hr" || unit == "hour" || (word.settled && word.text.find(" hr + ") != std::string::npos);
+    };
+    const auto isArrow = [](const DraftWord& word) {
+        return word.is("->") || sameLetters(word.text, "to") || sameLetters(word.text, "in");
+    };
+    bool changed = false;
+    bool afterHour = false;
+    for (std::size_t i = 0; i < draft.words.size(); ++i) {
+        const bool toHour = isArrow(draft.at(i + 1)) && isHour(draft.at(i + 2));
+        const bool isAfterNumber = i > 0 && draft.at(i - 1).isNumber();
+        if (isAfterNumber && draft.words[i].is("m") && (afterHour || toHour)) {
+            draft.words[i].text = "mn";
+            draft.words[i].afterBlank = true;
+            changed = true;
+        }
+        afterHour = afterHour || (isHour(draft.words[i]) && (isAfterNumber || draft.words[i].settled));
     }
     return changed;
 }

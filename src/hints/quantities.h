@@ -15,6 +15,8 @@ bool replaceClockTimes(Draft& draft, Findings& findings);
 bool splitGluedUnits(Draft& draft, Findings& findings);
 /// "2 h 30 m", "6 foot 2 inch": a number with a unit after another. Finds the sum.
 bool addQuantities(Draft& draft, Findings& findings);
+/// "1h + 30m", "90m to h": minutes by the letter of the metre, where hours stand before them or are asked for.
+bool replaceMetresByMinutes(Draft& draft, Findings& findings);
 /// "3 1/2": a fraction after a whole number. Finds the sum.
 bool addFractions(Draft& draft, Findings& findings);
 

@@ -66,6 +66,16 @@ std::string hintForUnknown(std::string_view name) {
     return text + (near.empty() ? "" : ".");
 }
 
+/// "30 mpg to l/100km": a target per so many of a unit is often the reciprocal of what is converted.
+bool hasCountedTarget(const Draft& draft) {
+    for (std::size_t i = 0; i + 3 < draft.words.size(); ++i) {
+        if (draft.words[i].is("->") && draft.at(i + 2).is("/") && draft.at(i + 3).isNumber()) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool hasNumbersSideBySide(const Draft& draft) {
     const auto areNumbers = [](const DraftWord& a, const DraftWord& b) { return a.isNumber() && b.isNumber(); };
     return std::ranges::adjacent_find(draft.words, areNumbers) != draft.words.end();
@@ -136,7 +146,7 @@ std::string hintForRefused(const Situation& situation) {
     }
     Draft draft(situation.words);
     const std::vector<std::string> reasons = correct(draft);
-    if (const std::string line = draft.text(); !reasons.empty() && hasResult(line)) {
+    if (const std::string line = draft.text(); !reasons.empty() && !hasCountedTarget(draft) && hasResult(line)) {
         return joined(reasons) + " Write \"" + asMeant(line, situation.settings) + "\".";
     }
     const std::string_view unknown = unknownNameIn(draft);
