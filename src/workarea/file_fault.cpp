@@ -26,8 +26,7 @@ constexpr SystemErrorRow systemErrorRows[] = {
     {54, FileFailure::Unreachable},                                     // the network is busy
     {55, FileFailure::Unreachable},   {59, FileFailure::Unreachable},   // an error of the network
     {64, FileFailure::Unreachable},                                     // the share is gone
-    {65, FileFailure::AccessDenied},
-    {66, FileFailure::Unreachable},                                     // what Wine says of a share that is not there
+    {65, FileFailure::AccessDenied},  {66, FileFailure::Unreachable},   // what Wine says of a share that is not there
     {67, FileFailure::Unreachable},                                     // no such share
     {112, FileFailure::DiskFull},     {121, FileFailure::Unreachable},  // no answer in time
     {123, FileFailure::InvalidName},  {161, FileFailure::InvalidName},
