@@ -33,7 +33,8 @@ char styleOfSelection(HWND control) {
         return '?';
     }
     const bool bold = (format.dwEffects & CFE_BOLD) != 0;
-    if (!bold && format.crTextColor == RGB(0, 0, 0)) {
+    const bool isBlack = (format.dwEffects & CFE_AUTOCOLOR) != 0 || format.crTextColor == RGB(0, 0, 0);
+    if (!bold && isBlack) {
         return 'n';
     }
     return bold && format.crTextColor == RGB(0, 0, 139) ? 'r' : '?';

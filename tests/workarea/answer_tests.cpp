@@ -38,7 +38,7 @@ TEST(Answer, LongListsTakeAtMost64BytesAnItemAndAnErrorWhenThereAreNone) {
     }
     const std::size_t place = std::string("median(").size() + 16 * 2 + 1;  // after those that stand on the stack
     const std::string line = "median(" + items;
-    for (const std::size_t bytes : {std::size_t{0}, 52 * count}) {
+    for (const std::size_t bytes : {std::size_t{0}, (sizeof(Value) + 4) * count}) {
         {
             const MemoryLimit few(bytes);
             evaluateInto(answer, line, defaultFormats[0]);
