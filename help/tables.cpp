@@ -18,6 +18,7 @@
 #include "panels/catalogue.h"
 #include "units/named_constants.h"
 #include "units/unit_table.h"
+#include "widgets/widget_text.h"
 #include "workarea/record.h"
 
 namespace calquo {
@@ -78,13 +79,6 @@ std::string numberText(Real number) {
     setField(format, field::zeroOut, 0);
     std::string text;
     FormatReal(number, format, 10, text);
-    return text;
-}
-
-/// A menu's or a dialog's label without the mark of its key.
-std::string withoutMnemonic(std::string_view label) {
-    std::string text(label);
-    std::erase(text, '&');
     return text;
 }
 

@@ -49,7 +49,7 @@ About::~About() { close(); }
 WindowHandle About::open(WindowHandle parent) { return DialogWindow::open({L"CalquoAbout", "About Calquo 2", parent}); }
 
 Size About::build() {
-    panel_ = std::make_unique<Panel>(handle(), Panel::Creation{});
+    panel_ = std::make_unique<Panel>(handle(), Panel::Creation{.holdsTabStops = true});
     constexpr std::uint16_t none = 0;
     const Rectangle picture{scaled(margin), scaled(margin), scaled(pictureSide), scaled(pictureSide)};
     panel_->add<BitMapImage>(none, paintIcon(picture.width)).moveTo(picture);

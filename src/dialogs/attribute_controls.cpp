@@ -4,15 +4,10 @@
 #include <algorithm>
 #include <charconv>
 
+#include "widgets/widget_text.h"
+
 namespace calquo {
 namespace {
-
-/// The label as it is shown, without the "&" of its key.
-std::string shownLabel(const Attribute& attribute) {
-    std::string shown(attribute.label);
-    std::erase(shown, '&');
-    return shown;
-}
 
 std::string_view withoutBlanks(std::string_view text) {
     constexpr std::string_view blanks = " \t";
@@ -44,15 +39,16 @@ TypedNumber readNumber(const Attribute& attribute, std::string_view typed) {
     const bool isInRange =
         error == std::errc{} && stop == end && value >= attribute.range.smallest && value <= attribute.range.largest;
     if (!isInRange) {
-        return {std::nullopt, shownLabel(attribute) + ": please enter " + rangeInWords(attribute) + "."};
+        return {std::nullopt, withoutMnemonic(attribute.label) + ": please enter " + rangeInWords(attribute) + "."};
     }
     return {value, {}};
 }
 
 std::string widthFault(const Attribute& attribute, std::uint32_t value) {
     const std::uint32_t most = largestIn(attribute.field);
-    return value <= most ? std::string()
-                         : shownLabel(attribute) + ": a format cannot keep more than " + std::to_string(most) + ".";
+    return value <= most
+               ? std::string()
+               : withoutMnemonic(attribute.label) + ": a format cannot keep more than " + std::to_string(most) + ".";
 }
 
 WorkingValues::WorkingValues(NumericFormat word)

@@ -19,6 +19,8 @@ public:
     /// The panel of an entry, its rows one below the other.
     ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener);
 
+    std::string spokenName() const override;
+
 protected:
     bool onCommand(const Notification& notification) override;
 

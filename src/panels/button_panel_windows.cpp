@@ -61,6 +61,10 @@ ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener 
     }
 }
 
+std::string ButtonPanel::spokenName() const {
+    return withoutMnemonic(labelOf(entry_.group)) + ", " + withoutMnemonic(entry_.menuLabel);
+}
+
 bool ButtonPanel::onCommand(const Notification& notification) {
     if (isPress(notification)) {
         listener_(entry_, *buttons_.at(notification.command - 1U));

@@ -56,19 +56,27 @@ void showMarksOf(const std::vector<MenuEntry>& entries, HMENU menu, const std::f
     }
 }
 
-/// Alt opens the menu as it goes down. When F4 follows, the user meant the window; when Alt is held, it repeats itself,
-/// which would close the menu.
+/// Leaves the menu for a command of the window.
+LRESULT leaveFor(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    EndMenu();
+    PostMessageW(GetActiveWindow(), message, wParam, lParam);
+    return 1;
+}
+
+/// Alt opens the menu as it goes down. When F4 or a blank follows, the user meant the window or the system's menu of
+/// it; when Alt is held, it repeats itself, which would close the menu.
 LRESULT CALLBACK onKeyInMenu(int code, WPARAM wParam, LPARAM lParam) {
     const MSG& message = *reinterpret_cast<const MSG*>(lParam);
-    if (code == MSGF_MENU && message.message == WM_SYSKEYDOWN) {
-        if (message.wParam == VK_F4) {
-            EndMenu();
-            PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
-            return 1;
-        }
-        if (message.wParam == VK_MENU && (HIWORD(message.lParam) & KF_REPEAT) != 0) {
-            return 1;
-        }
+    const bool isKey = code == MSGF_MENU && (message.message == WM_SYSKEYDOWN || message.message == WM_KEYDOWN);
+    const bool isWithAlt = isKey && message.message == WM_SYSKEYDOWN;
+    if (isWithAlt && message.wParam == VK_F4) {
+        return leaveFor(WM_CLOSE);
+    }
+    if (isKey && message.wParam == VK_SPACE) {
+        return leaveFor(WM_SYSCOMMAND, SC_KEYMENU, ' ');
+    }
+    if (isWithAlt && message.wParam == VK_MENU && (HIWORD(message.lParam) & KF_REPEAT) != 0) {
+        return 1;
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "shell/always_on_top.h"
 #include "shell/caption_strip.h"
 #include "shell/commands.h"
 #include "shell/file_commands.h"
@@ -66,6 +67,7 @@ protected:
     bool onWheel(const WheelEvent& turn) override { return panels_.turnWheel(turn); }
     void onPressInside() override;
     bool onMenuKey() override { return true; }  // ours has opened already
+    bool onSystemMenu(std::uint16_t command) override { return runAlwaysOnTop(handle(), command); }
     bool onCommand(const Notification& notification) override;
     bool onFilesDropped(std::uintptr_t drop) override;
 

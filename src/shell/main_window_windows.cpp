@@ -123,6 +123,7 @@ void MainWindow::onCreate() {
     commands_ = std::make_unique<Commands>(CommandTargets{handle(), settings_, menu_, panels_, *workArea_, *files_,
                                                           *recovery_, *tips_, dialogs_, [this] { layOutAndRefresh(); },
                                                           [this](WindowHandle dialog) { lastFocus_ = dialog; }});
+    addAlwaysOnTop(handle());
     workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isCheckedUnder(settings_, identifier); });
     for (const std::uint16_t identifier : settings_.selectedPanels()) {

@@ -32,6 +32,7 @@ public:
     Button(WindowHandle parent, std::uint16_t command, const ButtonDescription& description);
 
     void fitToScale() override;
+    std::string spokenName() const override { return spokenNameOf(text(), symbol_ == Symbol::None); }
 
     Symbol symbol() const { return symbol_; }
     Color face() const { return face_; }

@@ -117,8 +117,8 @@ void Button::fitToScale() {
 }
 
 void Button::setLook(const ButtonDescription& description) {
-    setText(textOf(description));
     symbol_ = description.symbol;
+    setText(textOf(description));
     face_ = description.face;
     redraw();
 }

@@ -37,6 +37,8 @@ public:
     std::string_view label() const { return labelOf(text_); }
     /// Empty when the text has none.
     std::string_view description() const { return descriptionOf(text_); }
+    /// What screen readers say in place of the window's text; empty where they are to say the text.
+    virtual std::string spokenName() const { return spokenNameOf(text_, true); }
 
     /// Moves the window to a rectangle in the parent's client area, and shows it the first time.
     void moveTo(const Rectangle& rectangle);
@@ -72,6 +74,8 @@ protected:
     /// moveTo() has given the window another rectangle.
     virtual void onPlaced() {}
     bool onMouse(const MouseEvent& event) override;
+    void onDescriptionWanted() override;
+    void onDestroy() override;
     void onGone() override { tooltip_.reset(); }
 
     void setText(std::string_view text);
@@ -90,6 +94,7 @@ private:
     bool placed_ = false;  ///< A widget is shown when it first gets its rectangle.
     int dropHeight_ = 0;
     WindowOwner tooltip_;
+    bool annotated_ = false;  ///< The spoken name stands in an annotation of the window.
 };
 
 }  // namespace calquo

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "values/errors.h"
+#include "widgets/annotation.h"
 #include "widgets/tooltip.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -53,9 +54,26 @@ bool Component::onMouse(const MouseEvent& event) {
     return false;
 }
 
+void Component::onDescriptionWanted() {
+    // Not before: most windows are never asked, and hundreds of annotations would cost the program's start.
+    if (!annotated_ && !spokenName().empty()) {
+        annotated_ = annotateName(handle(), wideText(spokenName()));
+    }
+}
+
+void Component::onDestroy() {
+    if (std::exchange(annotated_, false)) {
+        removeAnnotation(handle());
+    }
+}
+
 void Component::setText(std::string_view text) {
     text_ = text;
     tooltip_.reset();  // made anew from the new text
+    if (std::exchange(annotated_, false)) {
+        removeAnnotation(handle());
+        onDescriptionWanted();
+    }
     SetWindowTextW(handle(), wideText(label()).c_str());
 }
 

@@ -27,6 +27,8 @@ public:
         Direction direction = Direction::Down;
         /// Paints its children as well, all at once: panels that do so too, and buttons.
         bool paintsChildren = false;
+        /// Lets Tab walk among its children, in a dialog.
+        bool holdsTabStops = false;
     };
 
     Panel(WindowHandle parent, const Creation& creation);

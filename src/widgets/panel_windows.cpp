@@ -24,7 +24,11 @@ const Component::WidgetClass& Panel::widgetClass() {
 }
 
 Panel::Panel(WindowHandle parent, const Creation& creation)
-    : Component(widgetClass(), {parent, creation.command, styleOf(creation), {}}),
+    : Component(widgetClass(), {parent,
+                                creation.command,
+                                styleOf(creation),
+                                {},
+                                creation.holdsTabStops ? std::uint32_t{WS_EX_CONTROLPARENT} : 0U}),
       direction_(creation.direction),
       hasMargin_((creation.style & panelMargin) != 0),
       paintsChildren_(creation.paintsChildren) {}

@@ -105,6 +105,8 @@ protected:
     /// The window is about to be destroyed, or is gone together with its children.
     virtual void onDestroy() {}
     virtual void onGone() {}
+    /// A program that reads the screen, or one like it, is about to ask what the window is.
+    virtual void onDescriptionWanted() {}
     virtual bool onClose() { return false; }
     /// Whether the system may end the session; it has then ended, or not. A critical end comes whatever the answer, and
     /// leaves no time for questions.
@@ -132,6 +134,8 @@ protected:
     virtual bool onMouse(const MouseEvent&) { return false; }
     /// The wheel is turned while any part of this top-level window has the focus, or the mouse over it.
     virtual bool onWheel(const WheelEvent&) { return false; }
+    /// An entry of the window's system menu is chosen that the program has put there.
+    virtual bool onSystemMenu(std::uint16_t /*command*/) { return false; }
     /// The context menu is wanted at a point of the screen, or without one by a key.
     virtual bool onContextMenu(std::optional<Point>) { return false; }
     /// A mouse button goes down in a child window or on the frame.
@@ -170,6 +174,7 @@ private:
     Result dispatchPainting(const Message& message);
 
     Result takeKey(const Message& message);
+    Result takeSystemCommand(const Message& message);
     Result takeMouse(MouseAction action, const Message& message);
     Result takeWheel(const Message& message) const;
     Result takeContextMenu(const Message& message);

@@ -166,6 +166,11 @@ Window::Result Window::dispatchLife(const Message& message) {
         case WM_DESTROY:
             onDestroy();
             return std::nullopt;
+        case WM_GETOBJECT:
+            if (static_cast<LONG>(message.lParam) == OBJID_CLIENT) {
+                onDescriptionWanted();
+            }
+            return std::nullopt;
         case WM_CLOSE:
             return dealtWith(onClose());
         case WM_QUERYENDSESSION:
@@ -221,7 +226,7 @@ Window::Result Window::dispatchInput(const Message& message) {
         case WM_SYSCHAR:
             return dealtWith(onCharacter(static_cast<wchar_t>(message.wParam)));
         case WM_SYSCOMMAND:
-            return dealtWith(isMenuKey(message.wParam, message.lParam) && onMenuKey());
+            return takeSystemCommand(message);
         case WM_MOUSEMOVE:
             return takeMouse(MouseAction::Move, message);
         case WM_LBUTTONDOWN:
@@ -292,6 +297,12 @@ Window::Result Window::takeKey(const Message& message) {
     event.control = isHeld(VK_CONTROL);
     event.alt = isHeld(VK_MENU);
     return dealtWith(onKey(event));
+}
+
+Window::Result Window::takeSystemCommand(const Message& message) {
+    constexpr WPARAM firstOfSystem = 0xF000;
+    return dealtWith(message.wParam < firstOfSystem ? onSystemMenu(LOWORD(message.wParam))
+                                                    : isMenuKey(message.wParam, message.lParam) && onMenuKey());
 }
 
 Window::Result Window::takeMouse(MouseAction action, const Message& message) {

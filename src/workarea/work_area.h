@@ -75,6 +75,8 @@ public:
     WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCommand> keyCommands, FormatSource format,
              WorkAreaListener listener = {});
 
+    std::string spokenName() const override { return "Work area"; }
+
     CurrentLine currentLine() const;
     /// The line that holds a position, with the selection as far as it lies there.
     CurrentLine lineAt(std::int32_t position) const;

@@ -81,6 +81,13 @@ TEST(About, ShowsAPictureAndNamesTheProgramItsVersionAndItsSite) {
 TEST(About, IsOneWindowThatClosesInEveryWayAndLeavesNothingBehind) {
     const std::function<void()> ways[] = {
         [] { press(VK_RETURN); },
+        [] {
+            press(VK_TAB);
+            EXPECT_EQ(settledFocus(), childNamed("Close"));
+            press(VK_SPACE);
+            PostMessageW(GetFocus(), WM_KEYUP, VK_SPACE, 1);
+            Program::serveMessages();
+        },
         [] { press(VK_ESCAPE); },
         [] { SendMessageW(childNamed("Close"), BM_CLICK, 0, 0); },
         [] { SendMessageW(about(), WM_CLOSE, 0, 0); },

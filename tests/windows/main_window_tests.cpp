@@ -329,6 +329,28 @@ TEST(MainWindow, AltAloneOpensTheMenuOnce) {
 
 // --- Commands -------------------------------------------------------------------------------------------------------
 
+TEST(MainWindow, StaysOnTopWhileItsSystemMenuSaysSo) {
+    Program program;
+    const auto entry = [&] {
+        const HMENU menu = GetSystemMenu(program.handle(), FALSE);
+        MENUITEMINFOW item{};
+        for (int place = 0; item.wID == 0 || item.wID >= 0xF000; ++place) {
+            item.cbSize = sizeof item;
+            item.fMask = MIIM_ID | MIIM_STATE;
+            EXPECT_NE(GetMenuItemInfoW(menu, static_cast<UINT>(place), TRUE, &item), 0);
+        }
+        return item;
+    };
+    for (const bool on : {true, false, true}) {
+        program.storage().written.clear();
+        SendMessageW(program.handle(), WM_SYSCOMMAND, entry().wID, 0);
+        EXPECT_EQ((GetWindowLongW(program.handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0, on);
+        EXPECT_EQ((entry().fState & MFS_CHECKED) != 0, on);
+        std::erase(program.storage().written, L"Window Rect");
+        EXPECT_TRUE(program.storage().written.empty()) << "is for this run alone";
+    }
+}
+
 TEST(Commands, OptionsAreAMarkAndASetting) {
     const std::pair<std::uint16_t, BooleanSetting> rows[] = {{0x142, BooleanSetting::ReadDefaultAtStartup},
                                                              {0x143, BooleanSetting::SaveDefaultAtExit},
