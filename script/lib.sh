@@ -153,10 +153,10 @@ leave_prefix_copy() {
 display_processes=()
 display_folder=
 
-# Starts a display of our own with a window manager and points DISPLAY at it.
+# start_display [WIDTHxHEIGHT]: starts a display of our own with a window manager and points DISPLAY at it.
 start_display() {
     display_folder=$(mktemp -d)
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$display_folder/number" 2>"$display_folder/log" &
+    Xvfb -displayfd 3 -screen 0 "${1-1280x800}x24" -nolisten tcp 3>"$display_folder/number" 2>"$display_folder/log" &
     display_processes+=($!)
     wait_until 20 test -s "$display_folder/number" || fail "no virtual display: $(cat "$display_folder/log")"
     DISPLAY=:$(cat "$display_folder/number")

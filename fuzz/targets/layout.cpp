@@ -137,7 +137,7 @@ void checkButton(InputReader& reader) {
                   static_cast<std::uint8_t>(reference >> 16)} == color,
             "the system takes a color for another");
     for (const bool pressed : {false, true}) {
-        const ButtonFace face = buttonFace(size, color, pressed);
+        const ButtonFace face = buttonFace(size, color, pressed, {});
         require(contrast(color, face.textColor) >= 4.5, "the text cannot be read on the button");
         for (const RoundedRectangle& layer : face.layers) {
             require(isWithin(layer.rectangle, {0, 0, size.width, size.height}), "a layer leaves the button");

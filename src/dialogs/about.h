@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "dialogs/dialog_window.h"
+#include "widgets/bitmap_image.h"
 #include "widgets/panel.h"
 
 namespace calquo {
@@ -20,11 +21,13 @@ public:
 protected:
     Size build() override;
     void onGone() override;
+    void onSystemColors() override;
     WindowHandle focusTarget() const override;
 
 private:
     std::unique_ptr<Panel> panel_;
-    const Component* close_ = nullptr;  ///< The button, on the panel.
+    BitMapImage* picture_ = nullptr;    ///< On the panel, as the next.
+    const Component* close_ = nullptr;  ///< The button.
 };
 
 }  // namespace calquo

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "values/program.h"
-#include "widgets/bitmap_image.h"
 #include "widgets/label.h"
 #include "widgets/push_button.h"
 #include "widgets/toolkit.h"
@@ -52,7 +51,8 @@ Size About::build() {
     panel_ = std::make_unique<Panel>(handle(), Panel::Creation{.holdsTabStops = true});
     constexpr std::uint16_t none = 0;
     const Rectangle picture{scaled(margin), scaled(margin), scaled(pictureSide), scaled(pictureSide)};
-    panel_->add<BitMapImage>(none, paintIcon(picture.width)).moveTo(picture);
+    picture_ = &panel_->add<BitMapImage>(none, paintIcon(picture.width));
+    picture_->moveTo(picture);
 
     const int left = picture.left + picture.width + scaled(besidePicture);
     int top = picture.top;
@@ -81,8 +81,16 @@ Size About::build() {
 }
 
 void About::onGone() {
+    picture_ = nullptr;
     close_ = nullptr;
     panel_.reset();
+}
+
+void About::onSystemColors() {
+    if (picture_ != nullptr) {
+        picture_->show(paintIcon(picture_->preferredSize().width));
+    }
+    DialogWindow::onSystemColors();
 }
 
 WindowHandle About::focusTarget() const { return close_ == nullptr ? nullptr : close_->handle(); }

@@ -54,6 +54,8 @@ protected:
     bool onCommand(const Notification& notification) override;
     bool onClose() override;
     bool onScaleChanged(int dotsPerInch, const Rectangle& suggested) override;
+    /// Everything is painted anew.
+    void onSystemColors() override;
     bool onFocusMove(WindowHandle control, bool backwards) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 

@@ -56,6 +56,11 @@ bool DialogWindow::onScaleChanged(int dotsPerInch, const Rectangle& suggested) {
     return true;
 }
 
+void DialogWindow::onSystemColors() {
+    // Later, when the main window has taken the colours over: either may be told first.
+    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 void DialogWindow::close() {
     // The owner, which becomes active on the way, must already find the dialog closed.
     const WindowOwner closing = release();

@@ -7,15 +7,13 @@
 #include "dialogs/form_layout.h"
 #include "values/errors.h"
 #include "widgets/fonts.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
-
-/// What is wrong is written in it, and so is the number that is.
-constexpr Color faultColor{176, 0, 32};
 
 /// The range of a number, for the tooltip: "A whole number from 2 to 8".
 std::string hintOf(const Attribute& attribute) {
@@ -219,7 +217,7 @@ void FormatDialog::showAt(Fault fault) {
 std::optional<Color> FormatDialog::textColorOf(WindowHandle control) const {
     const bool isFaulty = fault_.control != nullptr && control == fault_.control->widget().handle();
     const bool isMessage = message_ != nullptr && control == message_->handle();
-    return isFaulty || isMessage ? std::optional(faultColor) : std::nullopt;
+    return isFaulty || isMessage ? std::optional(palette().fault) : std::nullopt;
 }
 
 }  // namespace calquo

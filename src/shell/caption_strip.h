@@ -37,6 +37,9 @@ public:
     /// Takes the colours of an active window, or of another.
     void showActive(bool active);
 
+    /// Takes the colours of the palette in force.
+    void takeColors() { giveLooks(); }
+
     /// The colour of the strip behind the title and the buttons.
     Color background() const;
     /// Draws the title into its rectangle between the panels.

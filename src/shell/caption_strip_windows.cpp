@@ -6,6 +6,7 @@
 
 #include "values/program.h"
 #include "widgets/screens.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -35,15 +36,7 @@ constexpr CaptionButton rightButtons[] = {
 /// What the button that maximizes the window looks like while the window is maximized.
 constexpr ButtonDescription restoreLook{.label = "R", .description = "Restore the window", .symbol = Symbol::Restore};
 
-/// The colours of the strip: behind everything, and of the buttons.
-struct CaptionColors {
-    Color background;
-    Color face;
-};
-constexpr CaptionColors activeColors{{38, 56, 89}, {58, 80, 120}};
-constexpr CaptionColors inactiveColors{{188, 194, 204}, {210, 215, 223}};
-
-const CaptionColors& colorsOf(bool active) { return active ? activeColors : inactiveColors; }
+const CaptionColors& colorsOf(bool active) { return active ? palette().activeCaption : palette().inactiveCaption; }
 
 void addButtons(Panel& panel, std::span<const CaptionButton> buttons) {
     for (const CaptionButton& button : buttons) {
@@ -78,7 +71,7 @@ void CaptionStrip::giveLooks() {
         for (std::size_t index = 0; index < buttons.size(); ++index) {
             const bool restores = maximized_ && buttons[index].command == CaptionCommand::MaximizeOrRestore;
             ButtonDescription look = restores ? restoreLook : buttons[index].look;
-            look.face = colorsOf(active_).face;
+            look.face = colorsOf(active_).button;
             dynamic_cast<Button&>(*panel.children()[index]).setLook(look);
         }
     };
@@ -86,13 +79,13 @@ void CaptionStrip::giveLooks() {
     give(right_, rightButtons);
 }
 
-Color CaptionStrip::background() const { return colorsOf(active_).background; }
+Color CaptionStrip::background() const { return colorsOf(active_).title.ground; }
 
 void CaptionStrip::paint(DrawingContext context, const Rectangle& title) const {
     RECT area = edgesOf(title);
     SetBkColor(context, colorReference(background()));
     ExtTextOutW(context, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);  // fills it without a brush
-    SetTextColor(context, colorReference(textColorOn(background())));
+    SetTextColor(context, colorReference(colorsOf(active_).title.ink));
     const HGDIOBJ before = SelectObject(context, buttonFont());
     InflateRect(&area, -buttonSize() / 2, 0);
     DrawTextW(context, wideProgramTitle, -1, &area,

@@ -73,6 +73,7 @@ protected:
 
     bool onPaint() override;
     bool onPaintBackground(DrawingContext context) override;
+    void onSystemColors() override;
 
 private:
     /// The dialogs, before which the work area is kept.

@@ -14,6 +14,7 @@
 #include "values/program.h"
 #include "widgets/painting.h"
 #include "widgets/screens.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -29,9 +30,6 @@ constexpr Size smallestWorkAreaInButtons{10, 5};
 
 /// How much of the caption a person needs to drag the window: three buttons, half as high.
 Size draggedPiece() { return {3 * buttonSize(), buttonSize() / 2}; }
-
-/// The colour behind the button panels.
-constexpr Color panelBackground{236, 239, 243};
 
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
 constexpr int menuOffset = 8;
@@ -97,6 +95,7 @@ MainWindow::~MainWindow() { destroy(); }
 void MainWindow::onCreate() {
     setScale(dotsPerInchOf(handle()));
     setButtonSize(settings_.buttonSize().value_or(defaultButtonSize));
+    takeSystemColors();
     caption_ = std::make_unique<CaptionStrip>(handle());
     workArea_ = std::make_unique<WorkArea>(
         handle(), identifierOf(Command::WorkArea), windowKeys(),
@@ -273,7 +272,7 @@ void MainWindow::hideHint() {
 
 std::optional<Color> MainWindow::backgroundOf(WindowHandle child) const {
     const bool isCaption = child == caption_->left().handle() || child == caption_->right().handle();
-    return isCaption ? caption_->background() : panelBackground;
+    return isCaption ? caption_->background() : palette().panelGround;
 }
 
 bool MainWindow::onPaintBackground(DrawingContext context) {
@@ -281,9 +280,17 @@ bool MainWindow::onPaintBackground(DrawingContext context) {
     const Size client = clientSize(handle());
     const int strip = caption_ == nullptr ? 0 : caption_->left().preferredSize().height;
     const RECT column{0, strip, client.width, client.height};
-    SetDCBrushColor(context, colorReference(panelBackground));
+    SetDCBrushColor(context, colorReference(palette().panelGround));
     FillRect(context, &column, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     return true;
+}
+
+void MainWindow::onSystemColors() {
+    if (created_ && takeSystemColors()) {
+        caption_->takeColors();
+        workArea_->takeColors();
+        RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
 }
 
 HitArea MainWindow::onHitTest(HitArea byClass) const { return byClass == HitArea::Client ? HitArea::Caption : byClass; }

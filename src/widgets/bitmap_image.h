@@ -10,6 +10,9 @@ public:
     /// Shows `bitmap` pixel by pixel; `parent` must be a panel.
     BitMapImage(WindowHandle parent, std::uint16_t command, BitmapOwner bitmap);
 
+    /// Shows another picture from the next drawing on; this is not asked for here.
+    void show(BitmapOwner bitmap);
+
     void draw(DrawingContext context, Size size) override;
 
 private:

@@ -17,6 +17,8 @@ BitMapImage::BitMapImage(WindowHandle parent, std::uint16_t command, BitmapOwner
     setPreferredSize({description.bmWidth, description.bmHeight});
 }
 
+void BitMapImage::show(BitmapOwner bitmap) { bitmap_ = std::move(bitmap); }
+
 void BitMapImage::draw(DrawingContext context, Size size) {
     const DrawingContextOwner source(CreateCompatibleDC(context));
     const HGDIOBJ previous = SelectObject(source.get(), bitmap_.get());

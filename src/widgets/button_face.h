@@ -5,6 +5,7 @@
 
 #include "widgets/color.h"
 #include "widgets/geometry.h"
+#include "widgets/palette.h"
 
 namespace calquo {
 
@@ -26,7 +27,7 @@ struct ButtonFace {
     Color textColor;
 };
 
-/// The face of a button of `size` pixels whose colour is `color`.
-ButtonFace buttonFace(Size size, Color color, bool pressed);
+/// The face of a button of `size` pixels whose colour is `color`, where the palette lets that count.
+ButtonFace buttonFace(Size size, Color color, bool pressed, const Palette& palette);
 
 }  // namespace calquo

@@ -7,6 +7,7 @@
 
 #include "widgets/painting.h"
 #include "widgets/shape_coverage.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -210,7 +211,7 @@ bool Button::onPaint() {
 }
 
 void Button::drawFace(DrawingContext context, Size size) const {
-    const ButtonFace face = buttonFace(size, face_, press_.isPressed());
+    const ButtonFace face = buttonFace(size, face_, press_.isPressed(), palette());
     paintLayers(context, face.layers);
     if (symbol_ == Symbol::None) {
         paintLabel(context, wideText(label()), size, face.textColor);

@@ -2,8 +2,8 @@
 #include "widgets/hint_line.h"
 
 #include "widgets/fonts.h"
-#include "widgets/hint_colors.h"
 #include "widgets/painting.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -40,13 +40,13 @@ bool HintLine::onPaint() {
     const HDC context = painting.context();
     const RECT whole{0, 0, size.width, size.height};
     const HBRUSH brush = static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
-    SetDCBrushColor(context, colorReference(hintPaper));
+    SetDCBrushColor(context, colorReference(palette().hint.ground));
     FillRect(context, &whole, brush);
-    SetDCBrushColor(context, colorReference(hintEdge));
+    SetDCBrushColor(context, colorReference(palette().hintEdge));
     FrameRect(context, &whole, brush);
     const Selection font(context, textFont());
     SetBkMode(context, TRANSPARENT);
-    SetTextColor(context, colorReference(hintInk));
+    SetTextColor(context, colorReference(palette().hint.ink));
     RECT inside{padding(), padding(), size.width - padding(), size.height - padding()};
     DrawTextW(context, hint_.c_str(), static_cast<int>(hint_.size()), &inside, DT_WORDBREAK | DT_NOPREFIX);
     return true;

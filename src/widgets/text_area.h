@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "widgets/color.h"
 #include "widgets/component.h"
 
 namespace calquo {
@@ -44,9 +45,9 @@ public:
     /// Whether the control's library can be loaded.
     static bool isAvailable();
 
-    /// An empty area. What is typed looks like `normal`, wherever the caret stands. Raises InternalFault when the
-    /// control is not to be had.
-    TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal);
+    /// An empty area on `paper`. What is typed looks like `normal`, wherever the caret stands. Raises InternalFault
+    /// when the control is not to be had.
+    TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, Color paper = white);
 
     void fitToScale() override;
 
@@ -100,6 +101,11 @@ public:
     /// The same for plain text, which looks normal; line ends are "\r".
     bool replaceContentByPlainText(std::wstring_view text);
 
+    /// Changes how the text looks: `text` is what it says, as rich text in its new looks. The selection stays and
+    /// nothing counts as changed, but no step can be undone any more, which would bring the old looks back. False, with
+    /// all as it was, when the control does not take the text.
+    bool changeLooks(CharacterStyle normal, Color paper, std::string_view text);
+
     bool canUndo() const;
     bool canRedo() const;
     /// Whether the clipboard holds something that could be pasted.
@@ -148,6 +154,7 @@ private:
     bool startInNormalStyle();
 
     CharacterStyle normal_;
+    Color paper_;
     std::wstring fontName_;
     std::uint32_t revision_ = 0;
     bool hasGoneBack_ = false;  ///< By undo or redo, which the control's modified flag does not show.

@@ -6,6 +6,7 @@
 #include <cwchar>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "widgets/fonts.h"
 #include "widgets/painting.h"
@@ -29,7 +30,6 @@ constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
 constexpr const wchar_t* fontNames[] = {L"Consolas", L"DejaVu Sans Mono", L"Liberation Mono", L"Courier New"};
 constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
-constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr int margin = 8;  // at 96 dots per inch
 
 /// Appends text to a rich text: its special characters escaped, everything beyond ASCII by number.
@@ -187,9 +187,10 @@ const Component::WidgetClass& TextArea::widgetClass() {
 
 bool TextArea::isAvailable() { return static_cast<bool>(loadSystemLibrary(controlLibrary)); }
 
-TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal)
+TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle normal, Color paper)
     : Component(widgetClass(), {parent, command, controlStyle, {}}),
       normal_(normal),
+      paper_(paper),
       fontName_(installedFont(fontNames)) {
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
@@ -242,7 +243,7 @@ std::optional<std::intptr_t> TextArea::onSimpleMessage(std::uint32_t message) {
 
 void TextArea::chooseLook() {
     format(handle(), SCF_DEFAULT, formatOf(normal_, fontName_));
-    SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, paper);
+    SendMessageW(handle(), EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(colorReference(paper_)));
 }
 
 /// Lets what is typed look normal, although the control takes its look from its neighbours or from what it replaces.
@@ -503,6 +504,29 @@ bool TextArea::startInNormalStyle() {
     }
     format(handle(), SCF_SELECTION, normal);
     return !isEmpty;
+}
+
+bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view text) {
+    const TextRange selected = selection();
+    POINT place{};
+    SendMessageW(handle(), EM_GETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
+    revision();
+    const auto look = [&] {
+        std::swap(normal_, normal);
+        std::swap(paper_, paper);
+        chooseLook();
+    };
+    look();
+    const bool taken = replaceContentByRichText(text);
+    if (taken) {
+        forgetSteps();
+    } else {
+        look();
+    }
+    SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
+    select(selected);
+    SendMessageW(handle(), EM_SETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
+    return taken;
 }
 
 // --- Editing --------------------------------------------------------------------------------------------------------

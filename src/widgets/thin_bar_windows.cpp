@@ -1,17 +1,13 @@
 // The looks of the bar, and what the mouse does to it.
 #include "widgets/thin_bar.h"
 
-#include "widgets/color.h"
 #include "widgets/painting.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
 namespace calquo {
 namespace {
-
-constexpr Color groove{214, 218, 224};
-constexpr Color thumbColor{124, 132, 146};
-constexpr Color heldThumbColor{74, 90, 118};
 
 void fill(HDC context, const RECT& area, Color color) {
     SetDCBrushColor(context, colorReference(color));
@@ -74,8 +70,9 @@ bool ThinBar::onPaint() {
     const BufferedPainting painting(handle(), parent());
     const auto [width, height] = painting.size();
     const Stretch thumb = view_.thumb();
-    fill(painting.context(), {0, 0, width, height}, groove);
-    fill(painting.context(), {0, thumb.top, width, thumb.top + thumb.height}, grip_ ? heldThumbColor : thumbColor);
+    fill(painting.context(), {0, 0, width, height}, palette().barGroove);
+    fill(painting.context(), {0, thumb.top, width, thumb.top + thumb.height},
+         grip_ ? palette().barHeldThumb : palette().barThumb);
     painting.show();
     return true;
 }

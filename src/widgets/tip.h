@@ -55,7 +55,7 @@ private:
     std::size_t endOfShownRows() const;
     std::optional<std::size_t> rowAt(Point point) const;
     void speak();
-    void paintRow(DrawingContext context, std::size_t row, int top) const;
+    void paintRow(DrawingContext context, std::size_t row, int top, Color ink) const;
 
     TipListener listener_;
     TipContent content_;

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "widgets/fonts.h"
-#include "widgets/hint_colors.h"
 #include "widgets/painting.h"
+#include "widgets/system_colors.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -18,10 +18,6 @@ constexpr UINT wakeMessage = WM_USER + 1;
 
 /// How many lines of a list show at most.
 constexpr int mostLinesOfList = 10;
-
-constexpr Color selectedPaper = Color{232, 223, 184};
-
-Color faintInk() { return mixed(hintInk, hintPaper, 25); }
 
 /// Between the text and the tip's edges, between columns, and as much text as is good to read, in pixels.
 int padding() { return buttonSize() / 4; }
@@ -210,7 +206,7 @@ bool Tip::onPaint() {
     const HDC context = painting.context();
     const HBRUSH brush = static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
     const RECT whole{0, 0, size.width, size.height};
-    SetDCBrushColor(context, colorReference(hintPaper));
+    SetDCBrushColor(context, colorReference(palette().hint.ground));
     FillRect(context, &whole, brush);
     SetBkMode(context, TRANSPARENT);
     int top = padding();
@@ -218,26 +214,26 @@ bool Tip::onPaint() {
         const bool isMarked = (content_.isList && row == selected_) || (content_.canBeChosen && row == underMouse_);
         if (isMarked) {
             const RECT behind{0, top, size.width, top + layout_.rows[row].height};
-            SetDCBrushColor(context, colorReference(selectedPaper));
+            SetDCBrushColor(context, colorReference(palette().selectedRow.ground));
             FillRect(context, &behind, brush);
         }
-        paintRow(context, row, top);
+        paintRow(context, row, top, isMarked ? palette().selectedRow.ink : palette().hint.ink);
         top += layout_.rows[row].height;
     }
     const Selection font(context, textFont());
-    SetTextColor(context, colorReference(faintInk()));
+    SetTextColor(context, colorReference(palette().faintInk.value_or(palette().hint.ink)));
     const int footerTop = size.height - padding() - lineHeight();
     TextOutW(context, padding(), footerTop, content_.footer.c_str(), static_cast<int>(content_.footer.size()));
-    SetDCBrushColor(context, colorReference(hintEdge));
+    SetDCBrushColor(context, colorReference(palette().hintEdge));
     FrameRect(context, &whole, brush);
     return true;
 }
 
-void Tip::paintRow(DrawingContext context, std::size_t row, int top) const {
+void Tip::paintRow(DrawingContext context, std::size_t row, int top, Color ink) const {
     for (std::size_t column = 0; column < content_.rows[row].size(); ++column) {
         const TipCell& cell = content_.rows[row][column];
         const PlacedCell& placed = layout_.rows[row].cells[column];
-        SetTextColor(context, colorReference(cell.faint ? faintInk() : hintInk));
+        SetTextColor(context, colorReference(cell.faint ? palette().faintInk.value_or(ink) : ink));
         int lineTop = top;
         for (const TextSpan line : placed.lines) {
             int left = padding() + placed.place.left;

@@ -155,6 +155,8 @@ protected:
     /// A child window is to be drawn into an area of `size` pixels from the context's origin.
     virtual bool onDrawChild(WindowHandle /*child*/, DrawingContext, Size) { return false; }
     virtual std::optional<Color> textColorOf(WindowHandle /*child*/) const { return std::nullopt; }
+    /// The system may have other colours than before, or high contrast; only top-level windows are told.
+    virtual void onSystemColors() {}
 
     /// Tells `receiver` what its onCommand() is called with; it may destroy this window before the call returns.
     static void sendCommand(WindowHandle receiver, const Notification& notification);

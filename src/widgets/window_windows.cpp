@@ -282,6 +282,11 @@ Window::Result Window::dispatchPainting(const Message& message) {
         case WM_CTLCOLORBTN:
         case WM_CTLCOLOREDIT:
             return colorsOfChild(message);
+        case WM_SYSCOLORCHANGE:
+        case WM_SETTINGCHANGE:
+        case WM_THEMECHANGED:
+            onSystemColors();
+            return std::nullopt;
         default:
             return std::nullopt;
     }

@@ -38,7 +38,8 @@ struct Scope {
 
 class Filter {
 public:
-    Filter(std::string_view bytes, std::uint64_t mostCost) : tokens_(bytes), shown_(mostCost) {}
+    Filter(std::string_view bytes, std::uint64_t mostCost, const ColorChange& colors)
+        : tokens_(bytes), shown_(mostCost), change_(colors) {}
 
     std::string run(LastLineEnd lastLineEnd) {
         do {
@@ -77,6 +78,7 @@ private:
     ShownText shown_;
     RichTextFonts fonts_;
     RichTextColors colors_;
+    const ColorChange& change_;
     std::string_view characterSet_ = "ansi";
     std::optional<std::int32_t> codePage_;
 
@@ -234,6 +236,10 @@ Look Filter::look() const {
     if (look.characters.font == CharacterFormat::unset) {
         look.characters.font = fonts_.defaultPlace();
     }
+    if (change_.ofCharacters) {
+        look.characters.color = change_.ofCharacters(look.characters.color);
+        look.characters.background = change_.behindThem(look.characters.background);
+    }
     return look;
 }
 
@@ -373,11 +379,12 @@ bool isRichText(std::string_view bytes) {
 
 }  // namespace
 
-std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd) {
+std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd,
+                          const ColorChange& colors) {
     if (!isRichText(bytes)) {
         fail(FileFailure::NotRichText);
     }
-    return Filter(bytes, mostCost).run(lastLineEnd);
+    return Filter(bytes, mostCost, colors).run(lastLineEnd);
 }
 
 }  // namespace calquo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,13 @@ namespace calquo {
 enum class LastLineEnd : std::uint8_t {
     Kept,
     Dropped,  ///< For text that takes the place of a selection: it would begin another line.
+};
+
+/// What becomes of the colours of characters, and of those behind them, each as CharacterFormat has it; they stay where
+/// nothing is said.
+struct ColorChange {
+    std::function<std::int32_t(std::int32_t)> ofCharacters;
+    std::function<std::int32_t(std::int32_t)> behindThem;
 };
 
 /// A rich text that shows the same characters as the one in `bytes` and is made of these things alone:
@@ -29,6 +37,7 @@ enum class LastLineEnd : std::uint8_t {
 ///
 /// Throws FileFault: NotRichText, CutOff where the last brace is missing, TooMuchText where the TextCost of the shown
 /// characters is above `mostCost`. What follows the last brace is left out.
-std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd);
+std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd,
+                          const ColorChange& colors = {});
 
 }  // namespace calquo

@@ -15,6 +15,7 @@
 #include "workarea/foreign_text.h"
 #include "workarea/record.h"
 #include "workarea/reevaluation.h"
+#include "workarea/shown_colors.h"
 
 namespace calquo {
 
@@ -76,6 +77,13 @@ public:
              WorkAreaListener listener = {});
 
     std::string spokenName() const override { return "Work area"; }
+
+    /// The sheet in the words and colours of its files, which in high contrast are not those on the screen.
+    std::string sheetAsRichText() const;
+    /// For rich text on its way into the sheet.
+    ColorChange colorsOnScreen() { return colors_.toScreen(); }
+    /// Shows the sheet in the palette in force. What was done before can then not be undone.
+    void takeColors();
 
     CurrentLine currentLine() const;
     /// The line that holds a position, with the selection as far as it lies there.
@@ -139,6 +147,10 @@ private:
     struct KeyRow;
     static const KeyRow keyRows[];
 
+    CharacterStyle styleOf(TextStyle style) const;
+    StyledRun runOf(const StyledText& piece) const;
+    StyledRun normalRun(std::wstring text) const;
+
     void evaluateIntoSelection();
     void insertPlainText(std::u16string_view text);
     bool insertRichText(std::string_view text);
@@ -150,6 +162,7 @@ private:
     bool writeAtOnce(const std::vector<ResultEdit>& edits);
     void apply(const Paragraph& line, const LineEdit& edit);
 
+    ShownColors colors_;
     std::vector<KeyCommand> keyCommands_;
     FormatSource format_;
     WorkAreaListener listener_;

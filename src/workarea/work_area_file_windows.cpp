@@ -9,7 +9,6 @@
 #include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/file_kind.h"
-#include "workarea/rich_text.h"
 #include "workarea/rich_text_filter.h"
 #include "workarea/text_cost.h"
 
@@ -57,7 +56,8 @@ void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {
         files_.read(name, [&](std::string_view bytes) {
             if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
-                const std::string text = cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped);
+                const std::string text =
+                    cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped, workArea_.colorsOnScreen());
                 requireTaken(workArea_.replaceContentByRichText(text), FileFailure::Refused);
                 form_ = {};
             } else {
@@ -93,7 +93,7 @@ std::wstring WorkAreaFile::write(const std::wstring& name, const UnreadableListe
 
 std::string WorkAreaFile::bytesFor(FileKind kind) const {
     if (kind == FileKind::RichText) {
-        return richTextToWrite(workArea_.contentAsRichText());
+        return workArea_.sheetAsRichText();
     }
     const std::wstring text = workArea_.contentAsPlainText();
     return encodePlainText({reinterpret_cast<const char16_t*>(text.data()), text.size()}, form_, systemCodePage());

@@ -2,10 +2,12 @@
 #include "workarea/work_area.h"
 
 #include <algorithm>
+#include <limits>
 #include <ranges>
 #include <utility>
 
 #include "engine/characters.h"
+#include "widgets/system_colors.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 #include "workarea/carried_result.h"
@@ -22,13 +24,6 @@
 
 namespace calquo {
 namespace {
-
-constexpr CharacterStyle normalStyle{RGB(0, 0, 0), false};
-constexpr CharacterStyle resultStyle{RGB(0, 0, 139), true};
-
-StyledRun controlRun(const StyledText& piece) {
-    return {controlText(piece.text), piece.style == TextStyle::Result ? resultStyle : normalStyle};
-}
 
 bool fits(Modifiers wanted, const KeyEvent& event) {
     const bool any = event.shift || event.control || event.alt;
@@ -72,6 +67,9 @@ TextRange textRange(std::int32_t start, std::size_t begin, std::size_t end) {
     return {positionOf(start, begin), positionOf(start, end)};
 }
 
+/// For text that is in the sheet already.
+constexpr std::uint64_t unlimitedCost = std::numeric_limits<std::uint64_t>::max();
+
 /// Holds a mode on while it lives.
 class ModeOn {
 public:
@@ -107,11 +105,35 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
 
 WorkArea::WorkArea(WindowHandle parent, std::uint16_t command, std::vector<KeyCommand> keyCommands, FormatSource format,
                    WorkAreaListener listener)
-    : TextArea(parent, command, normalStyle),
+    : TextArea(parent, command, {colorReference(palette().sheet.ink)}, palette().sheet.ground),
+      colors_(palette()),
       keyCommands_(std::move(keyCommands)),
       format_(std::move(format)),
       listener_(std::move(listener)) {
     takeDroppedTextBy(*this);
+}
+
+CharacterStyle WorkArea::styleOf(TextStyle style) const {
+    const bool isResult = style == TextStyle::Result;
+    return {colorReference(isResult ? colors_.result() : colors_.normal()), isResult};
+}
+
+StyledRun WorkArea::runOf(const StyledText& piece) const { return {controlText(piece.text), styleOf(piece.style)}; }
+
+StyledRun WorkArea::normalRun(std::wstring text) const { return {std::move(text), styleOf(TextStyle::Normal)}; }
+
+std::string WorkArea::sheetAsRichText() const {
+    std::string text = richTextToWrite(contentAsRichText());
+    const ColorChange colors = colors_.toFile();
+    return colors.ofCharacters ? cleanRichText(text, unlimitedCost, LastLineEnd::Kept, colors) : text;
+}
+
+void WorkArea::takeColors() {
+    ShownColors colors(palette());
+    const std::string text = cleanRichText(sheetAsRichText(), unlimitedCost, LastLineEnd::Dropped, colors.toScreen());
+    if (changeLooks({colorReference(colors.normal())}, palette().sheet.ground, text)) {
+        colors_ = std::move(colors);
+    }
 }
 
 bool WorkArea::onKey(const KeyEvent& event) {
@@ -253,7 +275,7 @@ void WorkArea::writeResults(const std::vector<ResultEdit>& edits) {
         // From the last one on, whose place the others do not change.
         for (const ResultEdit& edit : edits | std::views::reverse) {
             const TextRange range = textRange(0, edit.begin, edit.end);
-            replace(range, {controlRun({edit.result, TextStyle::Result})}, range.begin);
+            replace(range, {runOf({edit.result, TextStyle::Result})}, range.begin);
         }
     }
     select({caret, caret});
@@ -267,9 +289,9 @@ bool WorkArea::writeAtOnce(const std::vector<ResultEdit>& edits) {
         edit.end -= begin;
     }
     const TextRange range = textRange(0, begin, end);
-    const ResultLook look{languageText(fontName()),     fontHalfPoints(),
-                          GetRValue(resultStyle.color), GetGValue(resultStyle.color),
-                          GetBValue(resultStyle.color), resultStyle.bold};
+    const Color color = colors_.result();
+    const ResultLook look{languageText(fontName()),       fontHalfPoints(), color.red, color.green, color.blue,
+                          styleOf(TextStyle::Result).bold};
     try {
         const std::string old = cleanRichText(richTextToWrite(richTextIn(range)), mostTextCost(), LastLineEnd::Dropped);
         const auto text = withResults(old, end - begin, inside, look);
@@ -356,15 +378,15 @@ void WorkArea::insertPlainText(std::u16string_view foreign) {
     if (!text.empty()) {
         refuseTooMuchText(text, mostTextCost());
         const auto* const characters = reinterpret_cast<const wchar_t*>(text.data());
-        replace({begin, end}, {{{characters, text.size()}, normalStyle}},
-                begin + static_cast<std::int32_t>(text.size()));
+        replace({begin, end}, {normalRun({characters, text.size()})}, begin + static_cast<std::int32_t>(text.size()));
     }
 }
 
 /// False where there is no rich text, or a damaged one.
 bool WorkArea::insertRichText(std::string_view foreign) {
     try {
-        return replaceSelectionByRichText(cleanRichText(foreign, mostTextCost(), LastLineEnd::Dropped));
+        return replaceSelectionByRichText(
+            cleanRichText(foreign, mostTextCost(), LastLineEnd::Dropped, colorsOnScreen()));
     } catch (const FileFault& fault) {
         if (fault.failure == FileFailure::TooMuchText) {
             throw;
@@ -389,13 +411,13 @@ void WorkArea::surround(const CurrentLine& line, LineRange range, std::string_vi
     const TextRange inside = textRange(line.start, range.begin, range.end);
     const std::wstring text = controlText(before) + charactersIn(inside) + controlText(after);
     listener_.textComes(before);
-    replace(inside, {{text, normalStyle}}, positionOf(line.start, caret));
+    replace(inside, {normalRun(text)}, positionOf(line.start, caret));
 }
 
 void WorkArea::replaceCharacters(const CurrentLine& line, LineRange range, std::string_view text, std::size_t caret) {
     endFreshness();
     listener_.textComes(text);
-    replace(textRange(line.start, range.begin, range.end), {{controlText(text), normalStyle}},
+    replace(textRange(line.start, range.begin, range.end), {normalRun(controlText(text))},
             positionOf(line.start, caret));
 }
 
@@ -416,7 +438,7 @@ void WorkArea::apply(const Paragraph& line, const LineEdit& edit) {
         return;
     }
     std::vector<StyledRun> runs(edit.pieces.size());
-    std::transform(edit.pieces.begin(), edit.pieces.end(), runs.begin(), controlRun);
+    std::ranges::transform(edit.pieces, runs.begin(), [this](const StyledText& piece) { return runOf(piece); });
     const std::int32_t start = line.range.begin;
     replace(textRange(start, edit.begin, edit.end), runs, positionOf(start, edit.caret));
     if (edit.carried != 0) {

@@ -25,14 +25,14 @@ std::vector<Color> faceColors() {
 TEST(ButtonFace, EveryColorCanBeReadAndSeenToBePressed) {
     for (const Color color : faceColors()) {
         SCOPED_TRACE(testing::Message() << int{color.red} << ", " << int{color.green} << ", " << int{color.blue});
-        const ButtonFace face = buttonFace({40, 20}, color, false);
+        const ButtonFace face = buttonFace({40, 20}, color, false, {});
         const Color first = face.layers[0].color;
         const Color second = face.layers[1].color;
         EXPECT_GE(contrast(face.textColor, color), 4.5);
         EXPECT_GE(contrast(face.textColor, first), 4.5);
         EXPECT_GE(contrast(first, color), 1.25);
         EXPECT_GE(contrast(second, panelColor), 2);
-        EXPECT_EQ(buttonFace({40, 20}, color, true).textColor, face.textColor) << "text flickers with each press";
+        EXPECT_EQ(buttonFace({40, 20}, color, true, {}).textColor, face.textColor) << "text flickers with each press";
     }
 }
 

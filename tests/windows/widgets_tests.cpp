@@ -200,7 +200,7 @@ TEST(Button, ShowsItsFaceOnItsParentsBackground) {
     const Size size = sizeOf(button);
     const auto at = [&](int left, int top) { return picture(button).begin()[top * size.width + left]; };
     const Color color = dynamic_cast<const Button*>(Component::of(button))->face();
-    const auto layers = buttonFace(size, color, false).layers;
+    const auto layers = buttonFace(size, color, false, {}).layers;
     EXPECT_EQ(at(4, 4), colorReference(color));
     EXPECT_EQ(at(0, size.height / 2), colorReference(layers[1].color));
     EXPECT_EQ(at(size.width / 2, 0), colorReference(layers[1].color));
@@ -267,7 +267,7 @@ TEST(Button, DrawsASymbolInPlaceOfItsLabel) {
     for (const HWND button : panel.buttons) {
         pictures.push_back(picture(button));
         const auto layers =
-            buttonFace(sizeOf(button), dynamic_cast<const Button*>(Component::of(button))->face(), false);
+            buttonFace(sizeOf(button), dynamic_cast<const Button*>(Component::of(button))->face(), false, {});
         EXPECT_NE(std::ranges::find(pictures.back(), colorReference(layers.textColor)), pictures.back().end());
     }
     std::sort(pictures.begin(), pictures.end());
