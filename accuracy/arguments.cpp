@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "format/value_writer.h"
-#include "support/lossless.h"
+#include "lossless.h"
 
 namespace calquo {
 namespace {

@@ -14,8 +14,8 @@
 #include "engine/keywords.h"
 #include "engine/lexer.h"
 #include "functions.h"
-#include "support/lossless.h"
-#include "support/numeral.h"
+#include "lossless.h"
+#include "numeral.h"
 
 namespace calquo {
 namespace {

@@ -11,10 +11,10 @@
 #include "arguments.h"
 #include "builds.h"
 #include "formats.h"
-#include "support/lossless.h"
-#include "support/numeral.h"
-#include "support/written_fraction.h"
-#include "support/written_number.h"
+#include "lossless.h"
+#include "numeral.h"
+#include "written_fraction.h"
+#include "written_number.h"
 
 namespace calquo {
 namespace {

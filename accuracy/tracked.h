@@ -2,7 +2,7 @@
 // as many bits as are wanted or computed again with more.
 #pragma once
 
-#include "support/big_float.h"
+#include "big_float.h"
 #include "values/value.h"
 
 namespace calquo {

@@ -5,8 +5,8 @@
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
-#include "support/written_fraction.h"
-#include "support/written_number.h"
+#include "accuracy/written_fraction.h"
+#include "accuracy/written_number.h"
 #include "target.h"
 #include "values/errors.h"
 

@@ -5,7 +5,7 @@
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
-#include "support/lossless.h"
+#include "accuracy/lossless.h"
 #include "target.h"
 #include "values/errors.h"
 #include "workarea/record.h"

@@ -7,7 +7,7 @@
 #include "engine/characters.h"
 #include "engine/number_literal.h"
 #include "same_value.h"
-#include "support/numeral.h"
+#include "accuracy/numeral.h"
 #include "target.h"
 #include "values/errors.h"
 

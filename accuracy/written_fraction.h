@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "format/numeric_format.h"
-#include "support/numeral.h"
+#include "numeral.h"
 
 namespace calquo {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "format/numeric_format.h"
-#include "support/big_float.h"
-#include "support/numeral.h"
+#include "big_float.h"
+#include "numeral.h"
 
 namespace calquo {
 

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/big_float.h"
+#include "big_float.h"
 #include "values/extended.h"
 
 namespace calquo {
