@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <functional>
 
-#include "file_folder.h"
-#include "work_area_fixture.h"
+#include "windows/file_folder.h"
+#include "windows/work_area_fixture.h"
 #include "workarea/language_text.h"
 #include "workarea/recovery.h"
 #include "workarea/reevaluation.h"
