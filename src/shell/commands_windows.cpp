@@ -118,7 +118,9 @@ void Commands::actOnSheet(std::uint16_t identifier) {
 }
 
 void Commands::bringBackWorkArea(std::uint16_t) {
-    if (!targets_.recovery.bringBack()) {
+    if (targets_.recovery.bringBack()) {
+        targets_.files.forgetFile();
+    } else {
         targets_.dialogs.showHint(noCopyHint);
     }
 }

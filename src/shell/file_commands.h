@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "shell/command_ids.h"
@@ -21,8 +22,9 @@ public:
     void readDefaultAtStartup();
 
     /// Saves the work area to the default file, unless it is empty and nobody has touched it; false when that fails and
-    /// the user wants to stay. Where nobody may be asked, a failure is left alone.
-    bool saveDefaultAtExit(bool mayAsk);
+    /// the user wants to stay. Where nobody may be asked, a failure is left alone. `tellKept` is given the name under
+    /// which a foreign file is kept that had the default file's.
+    bool saveDefaultAtExit(bool mayAsk, const std::function<void(const std::wstring&)>& tellKept);
 
     /// Whether a file that was read or saved holds the text.
     bool isInFile() { return file_.isInFile(); }
@@ -35,6 +37,8 @@ public:
 
     /// Saves to the file that was read or saved last, and lets the user choose one when there is none.
     void saveAgain();
+    /// What stands on the work area now is of no file: saveAgain lets the user choose one.
+    void forgetFile() { lastFile_.clear(); }
     /// Reads the file that a message of the system's tells of by its word parameter.
     void readDropped(std::uintptr_t drop);
 

@@ -51,14 +51,17 @@ void FileCommands::readAtStartup(const std::wstring& file) {
     workArea_.forgetSteps();
 }
 
-bool FileCommands::saveDefaultAtExit(bool mayAsk) {
+bool FileCommands::saveDefaultAtExit(bool mayAsk, const std::function<void(const std::wstring&)>& tellKept) {
     if (workArea_.revision() == 0 && workArea_.isEmpty()) {
         return true;
     }
     const std::wstring file = defaultFile();
     for (;;) {
         try {
-            write(file, mayAsk);
+            const std::wstring kept = write(file, mayAsk);
+            if (!kept.empty()) {
+                tellKept(kept);
+            }
             return true;
         } catch (const SaveCancelled&) {
             return false;

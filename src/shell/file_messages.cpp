@@ -65,6 +65,10 @@ BoxText cannotBeReadAgainBox(const std::wstring& file, const FileFault& fault) {
                 L"parts."};
 }
 
+std::wstring keptAtExitHint(const std::wstring& kept) {
+    return L"When your last sheet was saved, another file had its name. That file is kept as " + kept;
+}
+
 std::wstring keptFileHint(const std::wstring& kept) { return L"The file that had this name is kept as " + kept; }
 
 }  // namespace calquo

@@ -29,5 +29,7 @@ inline constexpr wchar_t unsavedCopyHint[] = L"Your last sheet was not saved. Ct
 inline constexpr wchar_t noCopyHint[] = L"No earlier sheet is kept.";
 /// A save has left a foreign file under another name.
 std::wstring keptFileHint(const std::wstring& kept);
+/// The same of the save at the end of an earlier run.
+std::wstring keptAtExitHint(const std::wstring& kept);
 
 }  // namespace calquo

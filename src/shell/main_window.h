@@ -79,6 +79,8 @@ private:
     /// The dialogs, before which the work area is kept.
     UserDialogs keepingDialogs(UserDialogs dialogs);
     void tell(const std::wstring& hint);
+    /// Shows what an earlier run has left to tell, or how to begin.
+    void tellAboutLastRun();
     /// Shows what there is to tell about an evaluated line.
     void tellAbout(std::string_view line, const Answer* answer);
     void hideHint();

@@ -18,6 +18,7 @@
 #include "widgets/toolkit.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
+#include "workarea/recovery_folder.h"
 
 namespace calquo {
 namespace {
@@ -136,11 +137,7 @@ void MainWindow::onCreate() {
     } else if (isChecked(identifierOf(Command::ReadDefaultAtStartup))) {
         files_->readDefaultAtStartup();
     }
-    if (recovery_->hasUnsavedCopy()) {
-        dialogs_.showHint(unsavedCopyHint);
-    } else if (!settings_.windowRect()) {
-        tell(wideText(firstStartHint));
-    }
+    tellAboutLastRun();
     seedRandomFromClock();
     created_ = true;
 }
@@ -167,7 +164,9 @@ bool MainWindow::maySessionEnd(bool critical) {
 }
 
 bool MainWindow::saveBeforeEnd(bool mayAsk) {
-    savedBeforeEnd_ = !isChecked(identifierOf(Command::SaveDefaultAtExit)) || files_->saveDefaultAtExit(mayAsk);
+    const auto tellKept = [this](const std::wstring& kept) { leaveNameToTell(startFiles_.recoveryFolder, kept); };
+    savedBeforeEnd_ =
+        !isChecked(identifierOf(Command::SaveDefaultAtExit)) || files_->saveDefaultAtExit(mayAsk, tellKept);
     return savedBeforeEnd_;
 }
 
@@ -241,6 +240,18 @@ UserDialogs MainWindow::keepingDialogs(UserDialogs dialogs) {
                 tell(hint);
                 show(hint);
             }};
+}
+
+void MainWindow::tellAboutLastRun() {
+    std::wstring hint = recovery_->hasUnsavedCopy() ? unsavedCopyHint : L"";
+    if (const std::wstring kept = takeNameToTell(startFiles_.recoveryFolder); !kept.empty()) {
+        hint += (hint.empty() ? L"" : L"\n") + keptAtExitHint(kept);
+    }
+    if (!hint.empty()) {
+        dialogs_.showHint(hint);
+    } else if (!settings_.windowRect()) {
+        tell(wideText(firstStartHint));
+    }
 }
 
 void MainWindow::tell(const std::wstring& hint) {

@@ -11,6 +11,7 @@
 #include "shell/start_failure.h"
 #include "values/errors.h"
 #include "widgets/windows_api.h"
+#include "workarea/recovery_folder.h"
 
 namespace {
 

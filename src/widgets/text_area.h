@@ -94,11 +94,10 @@ public:
     /// How many times the text was found to have changed since it was asked before: equal numbers mean the same text.
     std::uint32_t revision();
 
-    /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret after it.
-    /// What it says nothing of looks normal. False, with the text as it was, when the control does not take it. Undo
-    /// brings the old text back.
+    /// Puts a rich text, without an end of its last paragraph, in place of the whole text, and the caret after it, as
+    /// one step for undo. False, with the text as it was, when the control does not take it.
     bool replaceContentByRichText(std::string_view text);
-    /// The same for plain text, which looks normal; line ends are "\r".
+    /// The same for plain text, which looks normal and whose line ends are "\r".
     bool replaceContentByPlainText(std::wstring_view text);
 
     /// Changes how the text looks: `text` is what it says, as rich text in its new looks. The selection stays and
@@ -146,12 +145,13 @@ private:
     void chooseLook();
     bool typeInNormalStyle(wchar_t character);
     void makeEmptyParagraphPlain(std::int32_t caret);
-    std::string richText(const std::vector<StyledRun>& runs) const;
+    /// `begin` comes before all runs.
+    std::string richText(const std::vector<StyledRun>& runs, std::string begin = {}) const;
     bool streamIntoSelection(std::string_view bytes, std::uint32_t format);
 
     std::string streamOut(std::uint32_t format) const;
     bool replaceContent(std::string_view bytes, std::uint32_t format);
-    bool startInNormalStyle();
+    bool givesNormalStyle();
 
     CharacterStyle normal_;
     Color paper_;

@@ -32,15 +32,19 @@ constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
 constexpr int margin = 8;  // at 96 dots per inch
 
-/// Appends text to a rich text: its special characters escaped, everything beyond ASCII by number.
+constexpr char plainParagraph[] = "\\pard\\ql ";
+
+/// Appends text to a rich text: its special characters escaped, everything that is not printed in ASCII by number.
 void appendEscaped(std::string& richText, std::wstring_view text) {
     for (const wchar_t unit : text) {
-        if (unit == L'\n') {
-            richText += "\\par\\pard\\ql ";  // a new paragraph is aligned like none of its neighbours
+        if (unit == L'\n' || unit == L'\r') {
+            richText.append("\\par").append(plainParagraph);  // aligned like none of its neighbours
+        } else if (unit == L'\t') {
+            richText += "\\tab ";
         } else if (unit == L'\\' || unit == L'{' || unit == L'}') {
             richText += '\\';
             richText += static_cast<char>(unit);
-        } else if (unit < 0x80) {
+        } else if (unit >= L' ' && unit < 0x7F) {
             richText += static_cast<char>(unit);
         } else {
             richText += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + ' ';
@@ -82,10 +86,21 @@ void format(HWND window, WPARAM what, const CHARFORMAT2W& wanted) {
     SendMessageW(window, EM_SETCHARFORMAT, what, reinterpret_cast<LPARAM>(&wanted));
 }
 
+/// The format of the paragraphs that the selection touches.
+PARAFORMAT2 paragraphFormatOf(HWND window) {
+    PARAFORMAT2 paragraph{};
+    paragraph.cbSize = sizeof paragraph;
+    SendMessageW(window, EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
+    return paragraph;
+}
+
+constexpr DWORD paragraphParts = PFM_ALIGNMENT | PFM_NUMBERING | PFM_STARTINDENT | PFM_RIGHTINDENT | PFM_OFFSET;
+
 /// Aligned and indented like the program's own paragraphs: not at all.
 bool isPlain(const PARAFORMAT2& paragraph) {
-    return paragraph.wAlignment == PFA_LEFT && paragraph.wNumbering == 0 && paragraph.dxStartIndent == 0 &&
-           paragraph.dxRightIndent == 0 && paragraph.dxOffset == 0;
+    return (paragraph.dwMask & paragraphParts) == paragraphParts && paragraph.wAlignment == PFA_LEFT &&
+           paragraph.wNumbering == 0 && paragraph.dxStartIndent == 0 && paragraph.dxRightIndent == 0 &&
+           paragraph.dxOffset == 0;
 }
 
 /// Keys with Control that the control would take for formats, or may in another version of it: all of characters, but
@@ -268,15 +283,12 @@ bool TextArea::typeInNormalStyle(wchar_t character) {
 
 /// Nothing is left of a paragraph at the caret but its alignment and its indents: these go as well.
 void TextArea::makeEmptyParagraphPlain(std::int32_t caret) {
-    PARAFORMAT2 paragraph{};
-    paragraph.cbSize = sizeof paragraph;
-    SendMessageW(handle(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
-    if (isPlain(paragraph) || !paragraphAt(caret).text.empty()) {
+    if (isPlain(paragraphFormatOf(handle())) || !paragraphAt(caret).text.empty()) {
         return;
     }
     PARAFORMAT2 plain{};
     plain.cbSize = sizeof plain;
-    plain.dwMask = PFM_ALIGNMENT | PFM_NUMBERING | PFM_STARTINDENT | PFM_RIGHTINDENT | PFM_OFFSET;
+    plain.dwMask = paragraphParts;
     plain.wAlignment = PFA_LEFT;
     SendMessageW(handle(), EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&plain));
 }
@@ -357,10 +369,11 @@ Paragraph TextArea::paragraphAt(std::int32_t position) const {
 }
 
 void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std::int32_t caret) {
+    // Rich text is what the control takes in several styles and undoes in one step.
+    const std::string text = richText(runs);
     const PaintingPause pause(handle());
     select(range);
-    // Rich text is what the control takes in several styles and undoes in one step.
-    streamIntoSelection(richText(runs), SF_RTF);
+    streamIntoSelection(text, SF_RTF);
     select({caret, caret});
 }
 
@@ -406,11 +419,11 @@ void TextArea::insertLineEnd() {
     replace(selection(), {{L"\n", normal_}}, begin + 1);
 }
 
-std::string TextArea::richText(const std::vector<StyledRun>& runs) const {
+std::string TextArea::richText(const std::vector<StyledRun>& runs, std::string begin) const {
+    std::string body = std::move(begin);
     std::string head = "{\\rtf1\\ansi\\deff0\\uc0{\\fonttbl{\\f0\\fnil ";
     appendEscaped(head, fontName_);
     head += ";}}{\\colortbl;";
-    std::string body;
     // Set back first whatever the neighbours have; "plain" alone leaves raised and hidden characters so in Wine's
     // control.
     const std::string font = "{\\plain\\v0\\nosupersub\\f0\\fs" + std::to_string(2 * fontPoints);
@@ -466,6 +479,11 @@ std::uint32_t TextArea::revision() {
 bool TextArea::replaceContentByRichText(std::string_view text) { return replaceContent(text, SF_RTF); }
 
 bool TextArea::replaceContentByPlainText(std::wstring_view text) {
+    const PaintingPause pause(handle());
+    if (!givesNormalStyle()) {
+        // Another style of what is there would be a step of its own.
+        return replaceContent(richText({{std::wstring(text), normal_}}, plainParagraph), SF_RTF);
+    }
     const auto* const bytes = reinterpret_cast<const char*>(text.data());
     return replaceContent({bytes, text.size() * sizeof(wchar_t)}, SF_TEXT | SF_UNICODE);
 }
@@ -474,8 +492,7 @@ bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
     const PaintingPause pause(handle());
     const TextRange before = selection();
     const bool wasEmpty = lengthOf(handle()) == 0;
-    // In place of a selection, the stream is one step for undo and takes its look from the first character.
-    const bool restyled = startInNormalStyle();
+    // In place of a selection, the stream is one step for undo.
     SendMessageW(handle(), EM_SETSEL, 0, -1);
     const bool taken = streamIntoSelection(bytes, format);
     const std::int32_t length = lengthOf(handle());
@@ -487,23 +504,26 @@ bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
     if (!wasEmpty || length != 0) {
         SendMessageW(handle(), EM_UNDO, 0, 0);
     }
-    if (restyled) {
-        SendMessageW(handle(), EM_UNDO, 0, 0);
-    }
     select(before);
     return false;
 }
 
-/// Makes the first character look normal, or the caret where there is none; true when that is a step for undo.
-bool TextArea::startInNormalStyle() {
+/// Whether plain text in place of the whole text would look normal. It takes its look from the first character, or from
+/// the caret where there is none, and its paragraphs from those that were there.
+bool TextArea::givesNormalStyle() {
     const CHARFORMAT2W normal = formatOf(normal_, fontName_);
-    const bool isEmpty = lengthOf(handle()) == 0;
-    select({0, isEmpty ? 0 : 1});
-    if (isSelectionOf(handle(), normal)) {
-        return false;
+    const TextRange before = selection();
+    SendMessageW(handle(), EM_SETSEL, 0, -1);
+    const bool isInPlainParagraphs = isPlain(paragraphFormatOf(handle()));
+    if (lengthOf(handle()) == 0) {
+        select({0, 0});
+        format(handle(), SCF_SELECTION, normal);
+        return isInPlainParagraphs;
     }
-    format(handle(), SCF_SELECTION, normal);
-    return !isEmpty;
+    select({0, 1});
+    const bool isNormal = isInPlainParagraphs && isSelectionOf(handle(), normal);
+    select(before);
+    return isNormal;
 }
 
 bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view text) {

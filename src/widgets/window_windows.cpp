@@ -258,6 +258,7 @@ Window::Result Window::dispatchInput(const Message& message) {
         case WM_DROPFILES:
             return dealtWith(onFilesDropped(message.wParam));
         case WM_GETDLGCODE:
+        case WM_KILLFOCUS:
         case WM_UNDO:
         case EM_UNDO:
         case WM_PASTE:

@@ -69,7 +69,7 @@ public:
     virtual void replace(const std::wstring& name, const std::wstring& replacement) = 0;
     /// Gives a file a name, which another file may have had.
     virtual void rename(const std::wstring& from, const std::wstring& to) = 0;
-    /// Lets what stands under `name` stand under `other` as well, where it takes the place of another file.
+    /// Lets what stands under `name` stand under `other` as well, a name that no file has.
     virtual void keep(const std::wstring& name, const std::wstring& other) = 0;
     /// Best effort.
     virtual void remove(const std::wstring& name) = 0;

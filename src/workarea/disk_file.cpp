@@ -33,26 +33,85 @@ void insist(Disk& disk, Action action) {
 
 std::size_t lengthOfFolder(const std::wstring& name) { return name.find_last_of(L"\\/") + 1; }
 
-/// A temporary file beside `name` with these bytes, complete on the disk.
-std::wstring writeTemporaryFile(Disk& disk, const std::wstring& name, std::string_view bytes) {
+/// Looks for a name in the folder of `name` that `take` can have, which tells whether it could.
+template <typename Take>
+std::wstring temporaryNameBeside(Disk& disk, const std::wstring& name, Take take) {
     constexpr int mostTries = 100;
-    constexpr std::size_t largestPiece = std::size_t{1} << 20;
     const std::size_t folder = lengthOfFolder(name);
     const std::size_t room = std::max<std::size_t>(longestPath, folder + 1) - folder;
     for (int tries = 0; tries < mostTries; ++tries) {
         // Not const, so that what is returned is moved: a copy may find no memory, and nobody would remove the file.
         std::wstring temporary = name.substr(0, folder) + temporaryName(disk.random(), room);
-        if (const auto file = disk.create(temporary)) {
-            for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), largestPiece))) {
-                file->write(bytes.substr(0, largestPiece));
-            }
-            file->flush();
-            file->finish();
+        if (take(temporary)) {
             return temporary;
         }
     }
     throw FileFault{FileFailure::InUse, {}};
 }
+
+/// A temporary file beside `name` with these bytes, complete on the disk.
+std::wstring writeTemporaryFile(Disk& disk, const std::wstring& name, std::string_view bytes) {
+    constexpr std::size_t largestPiece = std::size_t{1} << 20;
+    return temporaryNameBeside(disk, name, [&](const std::wstring& temporary) {
+        const auto file = disk.create(temporary);
+        if (file == nullptr) {
+            return false;
+        }
+        for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), largestPiece))) {
+            file->write(bytes.substr(0, largestPiece));
+        }
+        file->flush();
+        file->finish();
+        return true;
+    });
+}
+
+/// Lets a file stand under a second name as well. Another file of that name is put aside until this is made final.
+class SecondName {
+public:
+    /// `second` must outlive this.
+    SecondName(Disk& disk, const std::wstring& name, const std::wstring& second) : disk_(disk), second_(second) {
+        if (disk_.find(second_)) {
+            aside_ = temporaryNameBeside(disk_, second_, [&](const std::wstring& aside) {
+                if (disk_.find(aside)) {
+                    return false;
+                }
+                insist(disk_, [&] { disk_.rename(second_, aside); });
+                return true;
+            });
+        }
+        try {
+            disk_.keep(name, second_);
+        } catch (...) {
+            takeBack();
+            throw;
+        }
+    }
+
+    void makeFinal() {
+        if (!aside_.empty()) {
+            disk_.remove(aside_);
+        }
+    }
+
+    /// Both names are as they were; where the disk refuses that, no file is lost.
+    void takeBack() {
+        if (aside_.empty()) {
+            disk_.remove(second_);
+            return;
+        }
+        try {
+            insist(disk_, [&] { disk_.rename(aside_, second_); });
+        } catch (...) {
+            // The reason why all is taken back is what the user is told.
+        }
+    }
+
+private:
+    Disk& disk_;
+    const std::wstring& second_;
+    std::wstring aside_;  ///< The other file's name meanwhile; empty when there is none.
+};
 
 bool stillStands(Disk& disk, const std::wstring& name, const std::optional<FileState>& state) {
     try {
@@ -112,19 +171,21 @@ void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, c
     disk.refuseWhatMayNotBeReplaced(name);
     const auto before = disk.find(name);
     const std::wstring temporary = writeTemporaryFile(disk, name, bytes);
-    bool isKept = false;
+    std::optional<SecondName> secondName;
     try {
         if (!kept.empty()) {
-            disk.keep(name, kept);
-            isKept = true;
+            secondName.emplace(disk, name, kept);
         }
         giveName(disk, temporary, name, !before);
+        if (secondName) {
+            secondName->makeFinal();
+        }
     } catch (...) {
         // A replacement that has failed half-way may have taken the old file away: then these are all there is.
         if (stillStands(disk, name, before)) {
             disk.remove(temporary);
-            if (isKept) {
-                disk.remove(kept);
+            if (secondName) {
+                secondName->takeBack();
             }
         }
         throw;

@@ -229,12 +229,11 @@ public:
     }
 
     void keep(const std::wstring& name, const std::wstring& other) override {
-        DeleteFileW(other.c_str());
         if (CreateHardLinkW(other.c_str(), name.c_str(), nullptr) != 0) {
             return;
         }
         // Some file systems have no links.
-        require(CopyFileW(name.c_str(), other.c_str(), FALSE), other);
+        require(CopyFileW(name.c_str(), other.c_str(), TRUE), other);
         require(FlushFileBuffers(openFile(other, {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING}).get()), other);
     }
 

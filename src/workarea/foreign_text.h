@@ -19,7 +19,7 @@ struct ForeignText {
 enum class ForeignForm : std::uint8_t { Plain, Rich };
 
 /// The text on the clipboard, or nothing. One form that is wanted and missing is made up for by the other. Waits a
-/// little for a program that has the clipboard open.
+/// little for a program that has the clipboard open. Throws FileFault, TooLarge, for more than a file may have.
 ForeignText clipboardText(WindowHandle window, ForeignForm form);
 
 /// The same from a source that gives the memory of a format by its number in the system, or null.

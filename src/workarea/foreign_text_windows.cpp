@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "widgets/windows_api.h"
+#include "workarea/disk_file.h"
+#include "workarea/file_fault.h"
 
 namespace calquo {
 namespace {
@@ -44,9 +46,14 @@ std::basic_string<Character> charactersIn(HGLOBAL memory) {
     if (begin == nullptr) {
         return {};
     }
-    const Character* const end = std::find(begin, begin + GlobalSize(memory) / sizeof(Character), Character{});
+    constexpr std::size_t most = largestFile / sizeof(Character);
+    const std::size_t count = std::min(GlobalSize(memory) / sizeof(Character), most + 1);
+    const Character* const end = std::find(begin, begin + count, Character{});
     std::basic_string<Character> characters;
     try {
+        if (end == begin + most + 1) {
+            throw FileFault{FileFailure::TooLarge, {}};
+        }
         characters.assign(begin, end);
     } catch (...) {
         GlobalUnlock(memory);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,10 +10,6 @@
 #include "workarea/work_area_file.h"
 
 namespace calquo {
-
-/// The folder of the kept copies, "Kept Sheets" in the program's part of the user's local data; empty when the system
-/// names no place for such data.
-std::wstring recoveryFolder();
 
 /// Marks a copy as that of a running program, for all sessions and users of the machine, until the process ends in
 /// whatever way.
@@ -74,7 +70,7 @@ private:
     WorkAreaFile file_;
     std::wstring folder_;
     std::wstring copy_;  ///< The name of the file in which this run keeps its text now.
-    std::optional<RunningCopyMark> running_;
+    std::unique_ptr<RunningCopyMark> running_;
     std::vector<std::wstring> broughtBack_;
     WritingPace pace_;
     bool isWaiting_ = false;

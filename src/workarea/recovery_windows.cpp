@@ -2,21 +2,16 @@
 #include "workarea/recovery.h"
 
 #include <algorithm>
-#include <string_view>
+#include <new>
 
 #include "values/program.h"
 #include "widgets/windows_api.h"
 #include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
+#include "workarea/recovery_folder.h"
 
 namespace calquo {
 namespace {
-
-std::wstring environmentText(const wchar_t* name) {
-    std::wstring text(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
-    text.resize(GetEnvironmentVariableW(name, text.data(), static_cast<DWORD>(text.size())));
-    return text;
-}
 
 std::wstring nameFromNowOn() {
     SYSTEMTIME now{};
@@ -25,45 +20,19 @@ std::wstring nameFromNowOn() {
                      GetCurrentProcessId()});
 }
 
-/// Makes a folder with those above it that are missing.
-void makeFolder(const std::wstring& folder) {
-    if (CreateDirectoryW(folder.c_str(), nullptr) == 0 && GetLastError() == ERROR_PATH_NOT_FOUND) {
-        const std::size_t end = folder.find_last_of(L'\\');
-        if (end != std::wstring::npos) {
-            makeFolder(folder.substr(0, end));
-            CreateDirectoryW(folder.c_str(), nullptr);
-        }
+/// Does something for the sake of the next start alone: what cannot be done is left.
+template <typename Action>
+void asFarAsPossible(Action action) {
+    try {
+        action();
+    } catch (const FileFault&) {
+        // A disk that is full, say.
+    } catch (const std::bad_alloc&) {
+        // The memory may be there again at the next time.
     }
-}
-
-std::vector<std::wstring> fileNamesIn(const std::wstring& folder) {
-    std::vector<std::wstring> names;
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) {
-        return names;
-    }
-    do {
-        names.emplace_back(found.cFileName);
-    } while (FindNextFileW(search, &found) != 0);
-    FindClose(search);
-    return names;
 }
 
 }  // namespace
-
-std::wstring recoveryFolder() {
-    std::wstring folder = environmentText(L"LOCALAPPDATA");
-    if (folder.empty()) {
-        return folder;
-    }
-    // Without the version: a newer program finds what an older one has kept.
-    for (const std::string_view level : {makersSite, programName, "Kept Sheets"}) {
-        folder += L'\\';
-        folder.append(level.begin(), level.end());
-    }
-    return folder;
-}
 
 std::wstring RunningCopyMark::nameFor(const std::wstring& copy) {
     // For programs of any version.
@@ -94,7 +63,7 @@ Recovery::Recovery(WorkArea& workArea, std::function<bool()> isSaved, std::wstri
       file_(workArea, systemDiskForOwnFiles()),
       folder_(std::move(folder)),
       copy_(nameFromNowOn()),
-      running_(std::in_place, copy_) {}
+      running_(std::make_unique<RunningCopyMark>(copy_)) {}
 
 std::vector<std::wstring> Recovery::endedCopies() const {
     std::vector<std::wstring> copies;
@@ -142,9 +111,12 @@ void Recovery::aroundReplacement(const std::function<void()>& replace) {
     if (wasSaved || workArea_.isEmpty()) {
         renameAsSaved();
     }
-    copy_ = nameFromNowOn();
-    running_.emplace(copy_);
-    isWritten_ = false;
+    asFarAsPossible([&] {
+        std::wstring copy = nameFromNowOn();
+        running_ = std::make_unique<RunningCopyMark>(copy);
+        copy_ = std::move(copy);
+        isWritten_ = false;
+    });
 }
 
 void Recovery::keep() {
@@ -186,22 +158,24 @@ void Recovery::write() {
     if (folder_.empty() || file_.isInFile() || workArea_.isEmpty()) {
         return;
     }
+    isWaiting_ = true;
     const auto begin = WritingPace::Clock::now();
-    try {
+    asFarAsPossible([&] {
         if (!isWritten_) {
             makeFolder(folder_);
             removeOldCopies();
         }
         file_.write(path(copy_));
         isWritten_ = true;
+        isWaiting_ = false;
         DeleteFileW(path(savedCopyName(copy_)).c_str());
-    } catch (const FileFault&) {
-        isWaiting_ = true;
-    }
+    });
     pace_.wrote(begin, WritingPace::Clock::now());
 }
 
-void Recovery::renameAsSaved() const { MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str()); }
+void Recovery::renameAsSaved() const {
+    asFarAsPossible([&] { MoveFileW(path(copy_).c_str(), path(savedCopyName(copy_)).c_str()); });
+}
 
 void Recovery::removeOldCopies() const {
     // Of a run that was killed. One that is being written cannot be deleted.

@@ -41,7 +41,7 @@ public:
     Filter(std::string_view bytes, std::uint64_t mostCost, const ColorChange& colors)
         : tokens_(bytes), shown_(mostCost), change_(colors) {}
 
-    std::string run(LastLineEnd lastLineEnd) {
+    std::string run(LastLineEnd lastLineEnd, const UsualLook* usual) {
         do {
             const std::optional<RichTextToken> token = tokens_.next();
             if (!token) {
@@ -49,7 +49,7 @@ public:
             }
             take(*token);
         } while (depth_ > 0);
-        return shown_.finish({characterSet_, codePage_, fonts_.all()}, lastLineEnd == LastLineEnd::Kept);
+        return shown_.finish({characterSet_, codePage_, fonts_.all(), usual}, lastLineEnd == LastLineEnd::Kept);
     }
 
 private:
@@ -151,6 +151,8 @@ void Filter::takeDropped(WordKind kind, const RichTextToken& token) {
         if (!tokens_.skip(count)) {
             fail(FileFailure::CutOff);
         }
+    } else if (kind == WordKind::NestedRowEnd && droppedDepth_ == depth_) {
+        endLine();
     }
 }
 
@@ -253,6 +255,7 @@ void Filter::takeWord(WordMeaning meaning, const RichTextToken& token) {
     fallbackLeft_ = 0;  // a line end or a look stands for no character
     switch (meaning.kind) {
         case WordKind::LineEnd:
+        case WordKind::NestedRowEnd:
             endLine();
             break;
         case WordKind::CellEnd:
@@ -380,11 +383,11 @@ bool isRichText(std::string_view bytes) {
 }  // namespace
 
 std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd,
-                          const ColorChange& colors) {
+                          const ColorChange& colors, const UsualLook* usual) {
     if (!isRichText(bytes)) {
         fail(FileFailure::NotRichText);
     }
-    return Filter(bytes, mostCost, colors).run(lastLineEnd);
+    return Filter(bytes, mostCost, colors).run(lastLineEnd, usual);
 }
 
 }  // namespace calquo

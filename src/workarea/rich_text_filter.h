@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "workarea/rich_text_writer.h"
+
 namespace calquo {
 
 /// What becomes of the end of the last line when nothing follows it.
@@ -32,12 +34,13 @@ struct ColorChange {
 ///
 /// Pictures, objects, instructions of fields, hidden text, styles, headers, and all else go without a word; nesting may
 /// be as deep as it likes. Groups stand in one another at most two deep in the result, apart from its tables.
-/// What comes out passes unchanged: clean(clean(x)) is clean(x) where the last line end is kept. Takes time and memory
-/// in proportion to the length.
+/// What comes out passes unchanged: clean(clean(x)) is clean(x) where the last line end is kept. With a `usual` look
+/// the text says it at its beginning, so that nothing depends on what it is put into. Takes time and memory in
+/// proportion to the length.
 ///
 /// Throws FileFault: NotRichText, CutOff where the last brace is missing, TooMuchText where the TextCost of the shown
 /// characters is above `mostCost`. What follows the last brace is left out.
 std::string cleanRichText(std::string_view bytes, std::uint64_t mostCost, LastLineEnd lastLineEnd,
-                          const ColorChange& colors = {});
+                          const ColorChange& colors = {}, const UsualLook* usual = nullptr);
 
 }  // namespace calquo

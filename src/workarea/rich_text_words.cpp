@@ -27,7 +27,7 @@ constexpr auto wordRows = [] {
         {"cell", CellEnd},
         {"nestcell", CellEnd},
         {"row", LineEnd},
-        {"nestrow", LineEnd},
+        {"nestrow", NestedRowEnd},
 
         {"tab", Character, '\t'},
         {"emspace", Character, 0x2003},
@@ -123,6 +123,7 @@ constexpr auto wordRows = [] {
         {"headerr", Dropped},
         {"info", Dropped},
         {"listtext", Dropped},
+        {"nonesttables", Dropped},
         {"nonshppict", Dropped},
         {"object", Dropped},
         {"panose", Dropped},

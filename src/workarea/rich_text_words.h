@@ -12,6 +12,7 @@ enum class WordKind : std::uint8_t {
     Character,  ///< Stands for the character `value`.
     LineEnd,
     CellEnd,
+    NestedRowEnd,  ///< A line end that stands in a group with what else is said of the row.
     UnicodeCharacter,
     UnicodeFallback,  ///< How many characters after each one stand for it where Unicode is not known.
     Font,

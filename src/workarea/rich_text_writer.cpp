@@ -137,8 +137,12 @@ std::string RichTextWriter::finish(const Header& header, const ParagraphFormat& 
     if (header.codePage) {
         appendWord(text, "ansicpg", *header.codePage);
     }
-    text += tables(header.fonts);
+    text += tables(header);
     text += '\n';
+    if (header.usual != nullptr) {
+        appendWord(text += "\\pard\\ql\\plain\\v0\\nosupersub\\f0", "fs", header.usual->halfPoints);
+        text += ' ';
+    }
     text += body_;
     text += outside_ ? "}}" : "}";
     return text;
@@ -224,12 +228,15 @@ std::string RichTextWriter::wordsBetween(const CharacterFormat& before, const Ch
     return words.empty() ? words : words + ' ';
 }
 
-std::string RichTextWriter::tables(const std::vector<RichTextFont>& fonts) const {
+std::string RichTextWriter::tables(const Header& header) const {
     std::string text;
-    if (!fontNumbers_.empty()) {
+    if (!fontNumbers_.empty() || header.usual != nullptr) {
         text += "{\\fonttbl";
+        if (header.usual != nullptr) {
+            text += "{\\f0\\fnil " + header.usual->font + ";}";
+        }
         for (const std::int32_t place : inOrder(fontNumbers_)) {
-            const RichTextFont& font = fonts[static_cast<std::size_t>(place)];
+            const RichTextFont& font = header.fonts[static_cast<std::size_t>(place)];
             appendWord(text += '{', "f", fontNumbers_.at(place));
             text += "\\f" + font.family;
             if (font.charset) {

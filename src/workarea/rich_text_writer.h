@@ -48,6 +48,12 @@ struct ParagraphFormat {
     friend bool operator==(const ParagraphFormat&, const ParagraphFormat&) = default;
 };
 
+/// How characters look of whose looks nothing is said: in black, and in nothing but a font.
+struct UsualLook {
+    std::string font;  ///< Its name, as rich text has it.
+    std::int32_t halfPoints = 24;
+};
+
 class RichTextWriter {
 public:
     /// What all of the text depends on.
@@ -55,6 +61,7 @@ public:
         std::string_view characterSet = "ansi";  ///< A control word.
         std::optional<std::int32_t> codePage;
         const std::vector<RichTextFont>& fonts;
+        const UsualLook* usual = nullptr;  ///< Null leaves the usual look to the reader.
     };
 
     /// Appends characters of printable ASCII.
@@ -77,7 +84,7 @@ private:
     std::int32_t numberOfFont(std::int32_t font);
     std::int32_t numberOfColor(std::int32_t color);
     std::string wordsBetween(const CharacterFormat& before, const CharacterFormat& after);
-    std::string tables(const std::vector<RichTextFont>& fonts) const;
+    std::string tables(const Header& header) const;
 
     std::string body_;
     std::string line_;  ///< The present paragraph, which follows the body.

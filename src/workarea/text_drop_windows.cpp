@@ -7,6 +7,7 @@
 
 #include "widgets/kept_exception.h"
 #include "widgets/windows_api.h"
+#include "workarea/file_fault.h"
 #include "workarea/work_area.h"
 
 // The control's interfaces, for which the other files of the system need not wait.
@@ -99,7 +100,9 @@ public:
     STDMETHODIMP GetDragDropEffect(BOOL, DWORD, LPDWORD) override { return E_NOTIMPL; }
     STDMETHODIMP GetContextMenu(WORD, LPOLEOBJECT, CHARRANGE*, HMENU*) override { return E_NOTIMPL; }
     STDMETHODIMP GetClipboardData(CHARRANGE*, DWORD operation, LPDATAOBJECT*) override {
-        hasDragged_ = hasDragged_ || operation == RECO_DRAG;
+        if (operation == RECO_DRAG) {
+            workArea_.beginDragging();
+        }
         return E_NOTIMPL;
     }
 
@@ -110,6 +113,7 @@ public:
                 return S_OK;
             }
             if (isMeant != 0) {
+                workArea_.endDragging();
                 return take(*data, operation) ? S_FALSE : E_FAIL;
             }
             const bool isKnown =
@@ -123,14 +127,19 @@ private:
 
     /// Whether the text that is dragged is the one that is selected, which then moves with its looks.
     bool isOwnText(IDataObject& data) const {
-        if (!hasDragged_) {
+        if (!workArea_.isDragging()) {
             return false;
         }
         const OfferedMemory memory(data, plainTextFormat());
-        std::u16string text =
-            foreignText([&](std::uint32_t format) { return format == plainTextFormat() ? memory.get() : nullptr; },
-                        ForeignForm::Plain)
-                .plain;
+        std::u16string text;
+        try {
+            text =
+                foreignText([&](std::uint32_t format) { return format == plainTextFormat() ? memory.get() : nullptr; },
+                            ForeignForm::Plain)
+                    .plain;
+        } catch (const FileFault&) {
+            return false;  // more than a sheet may have
+        }
         std::erase(text, u'\n');
         const std::wstring selected = workArea_.charactersIn(workArea_.selection());
         return !text.empty() && std::equal(text.begin(), text.end(), selected.begin(), selected.end());
@@ -139,10 +148,13 @@ private:
     bool take(IDataObject& data, DWORD operation) {
         if (offers(data, CF_HDROP)) {
             const HGLOBAL files = copyOf(OfferedMemory(data, CF_HDROP).get());
-            if (files != nullptr) {
-                SendMessageW(GetParent(workArea_.handle()), WM_DROPFILES, reinterpret_cast<WPARAM>(files), 0);
+            // Later, as the system does it: the other program waits here, and the user may be asked something.
+            const bool isPosted = files != nullptr && PostMessageW(GetParent(workArea_.handle()), WM_DROPFILES,
+                                                                   reinterpret_cast<WPARAM>(files), 0) != 0;
+            if (!isPosted) {
+                GlobalFree(files);
             }
-            return files != nullptr;
+            return isPosted;
         }
         const OfferedMemory plain(data, plainTextFormat());
         const OfferedMemory rich(data, richTextFormat());
@@ -150,8 +162,12 @@ private:
             selectPlaceOfMouse();
         }
         workArea_.insertForeignText(
-            foreignText([&](std::uint32_t format) { return format == plainTextFormat() ? plain.get() : rich.get(); },
-                        ForeignForm::Plain));
+            [&] {
+                return foreignText(
+                    [&](std::uint32_t format) { return format == plainTextFormat() ? plain.get() : rich.get(); },
+                    ForeignForm::Plain);
+            },
+            ForeignForm::Plain);
         return plain.get() != nullptr || rich.get() != nullptr;
     }
 
@@ -171,7 +187,6 @@ private:
 
     WorkArea& workArea_;
     ULONG owners_ = 1;
-    bool hasDragged_ = false;  ///< The control has begun to drag its text, at some time.
 };
 
 }  // namespace

@@ -80,8 +80,11 @@ public:
 
     /// The sheet in the words and colours of its files, which in high contrast are not those on the screen.
     std::string sheetAsRichText() const;
-    /// For rich text on its way into the sheet.
-    ColorChange colorsOnScreen() { return colors_.toScreen(); }
+    /// What is let through of a rich text on its way into the sheet, in the looks of the screen. Throws FileFault as
+    /// cleanRichText does.
+    std::string onScreen(std::string_view richText, std::uint64_t mostCost) {
+        return shownIn(colors_, richText, mostCost);
+    }
     /// Shows the sheet in the palette in force. What was done before can then not be undone.
     void takeColors();
 
@@ -99,13 +102,20 @@ public:
     void typeCharacters(std::string_view characters);
     void pressKey(std::uint32_t virtualKey);
 
-    /// Puts text of another program in place of the selection, as one step for undo. Plain text gets the style of what
-    /// is typed, and the language's characters in place of those that stand for them; rich text keeps its looks. All
-    /// text that is pasted or dropped comes through here.
-    void insertForeignText(const ForeignText& text);
+    /// Puts text of another program in place of the selection, or of a fresh result, as one step for undo. It gets the
+    /// style of what is typed, and the language's characters in place of those that stand for them; rich text that is
+    /// wanted as such keeps its looks. What is too much, for the sheet or for the memory, is refused and changes
+    /// nothing. All text that is pasted or dropped comes through here.
+    void insertForeignText(const std::function<ForeignText()>& source, ForeignForm form);
     /// The same with the text on the clipboard.
     void paste();
     void pasteWithLooks();
+
+    /// Whether the control's own text may be what is dropped on it: from the beginning of such a drag on, to its drop,
+    /// or to a press of the mouse or the loss of the focus, without which no other drag begins.
+    void beginDragging() { isDragging_ = true; }
+    void endDragging() { isDragging_ = false; }
+    bool isDragging() const { return isDragging_; }
 
     /// Empties the work area, as one step for undo.
     void clear();
@@ -150,11 +160,13 @@ private:
     CharacterStyle styleOf(TextStyle style) const;
     StyledRun runOf(const StyledText& piece) const;
     StyledRun normalRun(std::wstring text) const;
+    std::string shownIn(ShownColors& colors, std::string_view richText, std::uint64_t mostCost) const;
 
     void evaluateIntoSelection();
-    void insertPlainText(std::u16string_view text);
-    bool insertRichText(std::string_view text);
+    void insertPlainText(const ForeignText& text);
+    bool insertRichText(const ForeignText& text);
     bool isFresh() const;
+    TextRange placeFor(std::wstring_view text) const;
 
     /// Puts the caret at the start of the next line, which is made where there is none.
     void goToLineAfter(const Paragraph& line);
@@ -167,6 +179,7 @@ private:
     FormatSource format_;
     WorkAreaListener listener_;
     bool resultReplaces_ = false;
+    bool isDragging_ = false;
     bool keyIsDealtWith_ = false;  ///< What it would type is none of the text.
     std::optional<CarriedResult> fresh_;
     bool decimalKeyIsDown_ = false;  ///< That of the number pad, whose character comes next.

@@ -56,8 +56,7 @@ void WorkAreaFile::read(const std::wstring& name) {
     withMemoryFaults([&] {
         files_.read(name, [&](std::string_view bytes) {
             if (fileKindOf(name) == FileKind::RichText && !bytes.empty()) {
-                const std::string text =
-                    cleanRichText(bytes, mostTextCost(), LastLineEnd::Dropped, workArea_.colorsOnScreen());
+                const std::string text = workArea_.onScreen(bytes, mostTextCost());
                 requireTaken(workArea_.replaceContentByRichText(text), FileFailure::Refused);
                 form_ = {};
             } else {

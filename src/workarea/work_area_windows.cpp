@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <ranges>
 #include <utility>
 
@@ -11,7 +12,6 @@
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
 #include "workarea/carried_result.h"
-#include "workarea/disk_file.h"
 #include "workarea/file_fault.h"
 #include "workarea/language_text.h"
 #include "workarea/pasted_text.h"
@@ -19,6 +19,7 @@
 #include "workarea/result_edits.h"
 #include "workarea/rich_text.h"
 #include "workarea/rich_text_filter.h"
+#include "workarea/rich_text_plain.h"
 #include "workarea/text_cost.h"
 #include "workarea/text_drop.h"
 
@@ -65,6 +66,26 @@ std::int32_t positionOf(std::int32_t start, std::size_t offset) { return start +
 
 TextRange textRange(std::int32_t start, std::size_t begin, std::size_t end) {
     return {positionOf(start, begin), positionOf(start, end)};
+}
+
+std::wstring_view wide(std::u16string_view text) {
+    return {reinterpret_cast<const wchar_t*>(text.data()), text.size()};
+}
+
+/// The characters of a text of which there may be a rich form alone; nothing where that is damaged.
+std::u16string plainFormOf(const ForeignText& text) {
+    if (!text.plain.empty() || text.rich.empty()) {
+        return text.plain;
+    }
+    try {
+        const std::wstring characters = wideText(plainTextOf(text.rich, mostTextCost()));
+        return {characters.begin(), characters.end()};
+    } catch (const FileFault& fault) {
+        if (fault.failure == FileFailure::TooMuchText) {
+            throw;
+        }
+        return {};
+    }
 }
 
 /// For text that is in the sheet already.
@@ -122,6 +143,11 @@ StyledRun WorkArea::runOf(const StyledText& piece) const { return {controlText(p
 
 StyledRun WorkArea::normalRun(std::wstring text) const { return {std::move(text), styleOf(TextStyle::Normal)}; }
 
+std::string WorkArea::shownIn(ShownColors& colors, std::string_view richText, std::uint64_t mostCost) const {
+    const UsualLook usual{languageText(fontName()), fontHalfPoints()};
+    return cleanRichText(richText, mostCost, LastLineEnd::Dropped, colors.toScreen(), &usual);
+}
+
 std::string WorkArea::sheetAsRichText() const {
     std::string text = richTextToWrite(contentAsRichText());
     const ColorChange colors = colors_.toFile();
@@ -130,7 +156,7 @@ std::string WorkArea::sheetAsRichText() const {
 
 void WorkArea::takeColors() {
     ShownColors colors(palette());
-    const std::string text = cleanRichText(sheetAsRichText(), unlimitedCost, LastLineEnd::Dropped, colors.toScreen());
+    const std::string text = shownIn(colors, sheetAsRichText(), unlimitedCost);
     if (changeLooks({colorReference(colors.normal())}, palette().sheet.ground, text)) {
         colors_ = std::move(colors);
     }
@@ -182,6 +208,7 @@ bool WorkArea::onCharacter(wchar_t character) {
 bool WorkArea::onMouse(const MouseEvent& event) {
     listener_.mouse(event);
     if (event.action == MouseAction::Press) {
+        endDragging();
         endFreshness();
     }
     return TextArea::onMouse(event);
@@ -218,6 +245,9 @@ std::optional<std::intptr_t> WorkArea::onSimpleMessage(std::uint32_t message) {
         case EM_REDO:
             endFreshness();
             return TextArea::onSimpleMessage(message);
+        case WM_KILLFOCUS:
+            endDragging();
+            return TextArea::onSimpleMessage(message);
         case WM_IME_STARTCOMPOSITION:
             makeWayFor(L"\u3042");  // what is composed are letters
             return TextArea::onSimpleMessage(message);
@@ -235,10 +265,13 @@ bool WorkArea::isFresh() const {
     return selection() == end && charactersIn(fresh_->range) == fresh_->text;
 }
 
+/// What text that comes in at the caret takes the place of.
+TextRange WorkArea::placeFor(std::wstring_view text) const {
+    return isFresh() && beginsOperand(text) ? fresh_->range : selection();
+}
+
 void WorkArea::makeWayFor(std::wstring_view text) {
-    if (isFresh() && beginsOperand(text)) {
-        select(fresh_->range);
-    }
+    select(placeFor(text));
     endFreshness();
 }
 
@@ -347,57 +380,57 @@ void WorkArea::typeCharacters(std::string_view characters) {
 
 void WorkArea::pressKey(std::uint32_t virtualKey) { SendMessageW(handle(), WM_KEYDOWN, virtualKey, 1); }
 
-void WorkArea::insertForeignText(const ForeignText& text) {
-    if (text.plain.empty() && text.rich.empty()) {
-        return;
-    }
+void WorkArea::insertForeignText(const std::function<ForeignText()>& source, ForeignForm form) {
     try {
-        if (text.plain.size() * sizeof(char16_t) > largestFile || text.rich.size() > largestFile) {
-            throw FileFault{FileFailure::TooLarge, {}};
-        }
-        makeWayFor({reinterpret_cast<const wchar_t*>(text.plain.data()), text.plain.size()});
-        if (text.rich.empty() || !insertRichText(text.rich)) {
-            insertPlainText(text.plain);
+        const ForeignText text = source();
+        if (form == ForeignForm::Plain || !insertRichText(text)) {
+            insertPlainText(text);
         }
     } catch (const FileFault&) {
         listener_.refused(L"This text is too long, or has too many lines, to be put into the sheet.");
+    } catch (const std::bad_alloc&) {
+        listener_.refused(L"There is not enough memory to put this text into the sheet.");
     }
 }
 
-void WorkArea::insertPlainText(std::u16string_view foreign) {
-    std::u16string text = pastedText(foreign);
-    if (text.empty()) {
-        return;
-    }
-    const auto [begin, end] = selection();
-    const bool beginsLine = paragraphAt(begin).range.begin == begin;
+void WorkArea::insertPlainText(const ForeignText& foreign) {
+    std::u16string text = pastedText(plainFormOf(foreign));
+    refuseTooMuchText(text, mostTextCost());
+    const TextRange place = placeFor(wide(text));
+    const bool beginsLine = paragraphAt(place.begin).range.begin == place.begin;
     // What spreadsheets say of one cell ends with a line end, which is wanted between lines alone.
-    if (text.find(u'\n') + 1 == text.size() && !(beginsLine && paragraphAt(end).range.end > end)) {
-        text.pop_back();
+    if (text.find(u'\n') + 1 == text.size() && !(beginsLine && paragraphAt(place.end).range.end > place.end)) {
+        text.erase(text.find_last_not_of(u'\n') + 1);
     }
     if (!text.empty()) {
-        refuseTooMuchText(text, mostTextCost());
-        const auto* const characters = reinterpret_cast<const wchar_t*>(text.data());
-        replace({begin, end}, {normalRun({characters, text.size()})}, begin + static_cast<std::int32_t>(text.size()));
+        replace(place, {normalRun(std::wstring(wide(text)))}, place.begin + static_cast<std::int32_t>(text.size()));
+        endFreshness();
     }
 }
 
 /// False where there is no rich text, or a damaged one.
-bool WorkArea::insertRichText(std::string_view foreign) {
+bool WorkArea::insertRichText(const ForeignText& foreign) {
+    std::string text;
     try {
-        return replaceSelectionByRichText(
-            cleanRichText(foreign, mostTextCost(), LastLineEnd::Dropped, colorsOnScreen()));
+        text = onScreen(foreign.rich, mostTextCost());
     } catch (const FileFault& fault) {
         if (fault.failure == FileFailure::TooMuchText) {
             throw;
         }
         return false;
     }
+    select(isFresh() ? placeFor(wide(plainFormOf(foreign))) : selection());
+    endFreshness();
+    return replaceSelectionByRichText(text);
 }
 
-void WorkArea::paste() { insertForeignText(clipboardText(handle(), ForeignForm::Plain)); }
+void WorkArea::paste() {
+    insertForeignText([this] { return clipboardText(handle(), ForeignForm::Plain); }, ForeignForm::Plain);
+}
 
-void WorkArea::pasteWithLooks() { insertForeignText(clipboardText(handle(), ForeignForm::Rich)); }
+void WorkArea::pasteWithLooks() {
+    insertForeignText([this] { return clipboardText(handle(), ForeignForm::Rich); }, ForeignForm::Rich);
+}
 
 void WorkArea::clear() {
     endFreshness();

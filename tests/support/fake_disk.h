@@ -73,7 +73,9 @@ public:
     }
     void keep(const std::wstring& name, const std::wstring& other) override {
         enter("keep");
-        files[other] = files.at(name);
+        if (!files.emplace(other, files.at(name)).second) {
+            throw FileFault{FileFailure::Other, {}};
+        }
     }
     void remove(const std::wstring& name) override { files.erase(name); }
     void pause() override { ++pauses; }

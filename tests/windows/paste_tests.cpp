@@ -6,6 +6,7 @@
 
 #include "file_folder.h"
 #include "held_key.h"
+#include "support/allocations.h"
 #include "support/repeated.h"
 #include "work_area_fixture.h"
 #include "workarea/foreign_text.h"
@@ -17,6 +18,8 @@
 
 namespace calquo {
 namespace {
+
+using namespace std::string_literals;
 
 /// What a program offers: bytes by the system's number of their format.
 using Offer = std::map<std::uint32_t, std::string>;
@@ -134,16 +137,33 @@ TEST(Paste, NothingComesWhereThereIsNothing) {
 }
 
 TEST(Paste, LooksComeAlongWhereTheyAreWanted) {
-    copyToClipboard(rich("{\\rtf1{\\colortbl;\\red0\\green0\\blue139;}2+3{\\b\\cf1  = 5}\\line{\\pict 00}6\\par}"));
-    for (const auto paste : {pasteWithLooks, pasteByKey}) {
+    const Offer looks =
+        rich("{\\rtf1{\\colortbl;\\red0\\green0\\blue139;}2\\u8722-3{\\b\\cf1  = -1}\\line{\\pict 00}6\\par}");
+    copyToClipboard(looks);
+    using Way = std::function<void(Fixture&)>;
+    for (const auto& [paste, picture] :
+         {std::pair(Way(pasteWithLooks),
+                    L"12\x2212"
+                    "3< = -1>\n6|2"),
+          std::pair(Way(pasteByKey), L"12-3 = -1\n6|2"),
+          std::pair(Way([&](Fixture& fixture) { askFor(fixture.workArea(), looks, RECO_PASTE, true); }),
+                    L"12-3 = -1\n6|2")}) {
         Fixture fixture;
         fixture.type("1;2");
         fixture.select(1, 2);
         paste(fixture);
-        EXPECT_EQ(fixture.picture(), L"12+3< = 5>\n6|2");
+        EXPECT_EQ(fixture.picture(), picture);
         fixture.undo();
         EXPECT_EQ(fixture.text(), L"1;2");
     }
+    // Nothing of the neighbours' looks.
+    Fixture fixture;
+    fixture.type("2+3");
+    fixture.press(VK_RETURN);
+    fixture.select(6, 7);
+    copyToClipboard(rich("{\\rtf1 4}"));
+    pasteWithLooks(fixture);
+    EXPECT_EQ(fixture.picture(), L"2+3< = >4|\n\n5");
     // Without rich text, or with a damaged one, the plain one comes.
     Offer offer = plain(L"2\u22123");
     for (const char* damaged : {"", "{\\rtf1 4", "no rich text"}) {
@@ -205,26 +225,90 @@ TEST(Paste, NothingComesButText) {
     }
 }
 
+TEST(Paste, FilesGoToTheParentAfterTheDrop) {
+    Fixture fixture;
+    const HWND parent = GetParent(fixture.control());
+    MSG message{};
+    EXPECT_EQ(askFor(fixture.workArea(), {{CF_HDROP, "some files\0"s}}, RECO_DROP, true), S_FALSE);
+    ASSERT_NE(PeekMessageW(&message, parent, WM_DROPFILES, WM_DROPFILES, PM_REMOVE), 0);
+    const auto files = reinterpret_cast<HGLOBAL>(message.wParam);
+    EXPECT_STREQ(static_cast<const char*>(GlobalLock(files)), "some files");
+    GlobalFree(files);
+}
+
+TEST(Paste, TheControlsOwnTextIsMovedForAsLongAsItIsDragged) {
+    const Offer offer = plain(L"2+3");
+    for (const auto& [between, isOwn] : std::initializer_list<std::pair<std::function<void(Fixture&)>, bool>>{
+             {[](Fixture&) {}, true},
+             {[&](Fixture& fixture) { askFor(fixture.workArea(), plain(L"7"), RECO_DROP, true); }, false},
+             {[](Fixture& fixture) { SendMessageW(fixture.control(), WM_LBUTTONDOWN, 0, 0); }, false},
+             {[](Fixture&) { SetFocus(nullptr); }, false}}) {
+        Fixture fixture;
+        fixture.type("2+3");
+        IRichEditOleCallback* const callback = newTextDrop(fixture.workArea());
+        CHARRANGE all{0, 3};
+        callback->GetClipboardData(&all, RECO_DRAG, nullptr);
+        callback->Release();
+        between(fixture);
+        fixture.workArea().selectAll();
+        const bool taken = fixture.text() != L"2+3";
+        EXPECT_EQ(askFor(fixture.workArea(), offer, RECO_DROP, false), isOwn && !taken ? S_OK : S_FALSE);
+    }
+}
+
 TEST(Paste, TooMuchIsRefusedHoweverItIsSpelt) {
     const std::string text = "{\\rtf1 " + repeated(3'000'000, "\\u49") + "}";
     Fixture fixture;
     fixture.type("2+3");
-    for (const Offer& offer : {rich(text), plain(std::wstring(3'000'000, L'1'))}) {
+    fixture.press(VK_RETURN);
+    const std::wstring picture = fixture.picture();
+    const Offer offers[] = {rich(text), plain(std::wstring(3'000'000, L'1')), plain(std::wstring(40'000'000, L'1'))};
+    for (const Offer& offer : offers) {
         copyToClipboard(offer);
+        expectWithinASecond([&] { pasteByKey(fixture); });
         expectWithinASecond([&] { pasteWithLooks(fixture); });
         expectWithinASecond([&] { askFor(fixture.workArea(), offer, RECO_DROP, true); });
-        EXPECT_EQ(fixture.text(), L"2+3");
     }
-    EXPECT_EQ(fixture.refusals, 4);
+    EXPECT_EQ(fixture.refusals, 9);
+    EXPECT_EQ(fixture.picture(), picture);
+    // The result that has been carried on still waits for an operand.
+    fixture.type("7");
+    EXPECT_EQ(fixture.picture(), L"2+3< = 5>\n\n7|");
     // Many short lines are none too many.
     std::wstring lines;
     for (int line = 0; line < 20'000; ++line) {
         lines += L"2\u22123 = -1\r\n";
     }
     copyToClipboard(plain(lines));
-    fixture.select(0, 3);
+    fixture.workArea().selectAll();
     pasteByKey(fixture);
     EXPECT_EQ(fixture.text().size(), lines.size() - 20'000);
+}
+
+TEST(Paste, MemoryThatRunsOutChangesNothing) {
+    for (const ForeignForm form : {ForeignForm::Plain, ForeignForm::Rich}) {
+        int calls = 0;
+        for (bool failed = true; failed; ++calls) {
+            Fixture fixture;
+            fixture.type("2+3");
+            fixture.press(VK_RETURN);
+            {
+                const FailingAllocation allocation(calls);
+                fixture.workArea().insertForeignText(
+                    [] {
+                        return ForeignText{u"4 \u00D7 5", "{\\rtf1{\\b 4*5}}"};
+                    },
+                    form);
+                failed = allocation.hasFailed();
+            }
+            ASSERT_EQ(fixture.refusals, failed ? 1 : 0) << calls;
+            const wchar_t* const taken = form == ForeignForm::Plain ? L"2+3 = 5\n\n4 * 5" : L"2+3 = 5\n\n4*5";
+            EXPECT_EQ(fixture.text(), failed ? L"2+3 = 5\n\n5" : taken);
+            fixture.type("7");
+            EXPECT_EQ(fixture.text(), failed ? L"2+3 = 5\n\n7" : taken + std::wstring(L"7"));
+        }
+        EXPECT_GT(calls, 5);
+    }
 }
 
 }  // namespace

@@ -6,23 +6,31 @@
 #include "file_folder.h"
 #include "program.h"
 #include "shell/file_messages.h"
+#include "support/allocations.h"
+#include "work_area_fixture.h"
 
 namespace calquo {
 namespace {
 
-constexpr unsigned clear = 0x120, bringBack = 0x121, readDefault = 0x140, saveDefault = 0x141;
+constexpr unsigned clear = 0x120, bringBack = 0x121, readDefault = 0x140, saveDefault = 0x141, saveAgain = 0x162;
+constexpr std::uint32_t saveAtExit = 0x20;
 
 /// A run of the program that keeps its work area in the folder "Kept" of a test's own.
 struct Execution {
-    explicit Execution(const FileFolder& folder)
-        : program(settingsFor(folder),
+    explicit Execution(const FileFolder& folder, std::uint32_t flags = 0)
+        : program(settingsFor(folder, flags),
                   {.showBox = {},
-                   .chooseFile = {},
+                   .chooseFile =
+                       [this](WindowHandle, const FileRequest&) {
+                           ++filesAskedFor;
+                           return FileChoice{};
+                       },
                    .showHint = [this](const std::wstring& text) { hints.push_back(text); }},
                   {{}, folder.path(L"Kept\\Sheets")}) {}
 
-    static MemoryStorage settingsFor(const FileFolder& folder) {
+    static MemoryStorage settingsFor(const FileFolder& folder, std::uint32_t flags) {
         MemoryStorage storage;
+        storage.values[L"Flags"] = flags;
         storage.values[L"Default File"] = folder.path(L"d.txt");
         return storage;
     }
@@ -35,6 +43,7 @@ struct Execution {
     }
 
     std::vector<std::wstring> hints;
+    int filesAskedFor = 0;
     Program program;
 };
 
@@ -77,6 +86,47 @@ TEST(Recovery, WhatRunsHaveLeftComesBackOneAfterTheOther) {
     // What this run had before the first of them.
     run.program.command(bringBack);
     EXPECT_EQ(run.program.text(), L"7+7 = 14\n\n14");
+}
+
+TEST(Recovery, WhatIsBroughtBackIsOfNoFile) {
+    const FileFolder folder;
+    Execution(folder).evaluate(L"2+3");
+    Execution run(folder);
+    run.evaluate(L"7*8");
+    run.program.command(saveDefault);
+    run.program.command(bringBack);
+    run.program.command(saveAgain);
+    EXPECT_EQ(run.filesAskedFor, 1);
+    EXPECT_EQ(folder.bytes(L"d.txt"), "7*8 = 56\r\n\r\n56");
+}
+
+TEST(Recovery, AFileThatWasKeptAtTheEndIsToldOfOnce) {
+    const FileFolder folder;
+    folder.put(L"d.txt", "foreign");
+    {
+        Execution run(folder, saveAtExit);
+        run.program.setText(L"2+3");
+        run.program.close();
+    }
+    EXPECT_EQ(Execution(folder).hints, std::vector<std::wstring>{keptAtExitHint(folder.path(L"d.txt.bak"))});
+    EXPECT_TRUE(Execution(folder).hints.empty());
+}
+
+TEST(Recovery, MemoryThatRunsOutIsNoReasonToStop) {
+    const FileFolder folder;
+    WorkAreaFixture fixture;
+    Recovery recovery(
+        fixture.workArea(), [] { return false; }, folder.path(L"Kept\\Sheets"));
+    int calls = 0;
+    for (bool failed = true; failed; ++calls) {
+        fixture.type("+");
+        const FailingAllocation allocation(calls);
+        EXPECT_NO_THROW(recovery.keepNow());
+        failed = allocation.hasFailed();
+    }
+    EXPECT_GT(calls, 5);
+    EXPECT_NE(folder.bytes(L"Kept\\Sheets\\" + copiesIn(folder).front()).find(std::string(calls, '+')),
+              std::string::npos);
 }
 
 TEST(Recovery, OnlyTextThatNoFileHoldsIsToldOf) {

@@ -190,6 +190,30 @@ TEST(WorkAreaFile, RichTextKeepsItsStyles) {
     EXPECT_EQ(other.folder.bytes(L"x.rtf"), bytes);
 }
 
+TEST(WorkAreaFile, AReadingIsOneStepAndOwesNothingToWhatWasThere) {
+    const std::string foreign =
+        "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red255\\green0\\blue0;}\\qc\\f0\\fs40\\cf1\\b\\ul\\super 8\\par}";
+    for (const auto& [name, bytes, picture] :
+         {std::tuple(L"x.txt", "\t2+3\x01{}\n7"s, L"\t2+3\x01{}\n7|"),
+          std::tuple(L"x.rtf", "{\\rtf1 2+3\\par 7}"s, L"2+3\n7|"),
+          std::tuple(L"y.rtf", "{\\rtf1{\\colortbl;\\red0\\green0\\blue139;}2+3{\\b\\cf1  = 5}}"s, L"2+3< = 5>|")}) {
+        Sheet sheet;
+        sheet.folder.put(L"foreign.rtf", foreign);
+        sheet.folder.put(name, bytes);
+        ASSERT_EQ(sheet.read(L"foreign.rtf"), std::nullopt);
+        ASSERT_EQ(sheet.read(name), std::nullopt);
+        EXPECT_EQ(sheet.fixture.picture(), picture);
+        PARAFORMAT2 paragraph{};
+        paragraph.cbSize = sizeof paragraph;
+        SendMessageW(sheet.fixture.control(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&paragraph));
+        EXPECT_EQ(paragraph.wAlignment, PFA_LEFT);
+        sheet.fixture.undo();
+        EXPECT_EQ(sheet.fixture.picture(), L"8?|");
+        sheet.fixture.undo();
+        EXPECT_EQ(sheet.fixture.text(), L"");
+    }
+}
+
 TEST(WorkAreaFile, OtherProgramsStylesStayToo) {
     Sheet sheet;
     sheet.folder.put(L"x.rtf",

@@ -129,11 +129,15 @@ TEST(KnownFiles, AForeignFileTakesTheFirstNameThatNoForeignOneHas) {
 /// A save on which the call of a number fails, or that one and all further ones.
 struct FailingSave {
     FileFailure failure;
-    bool isForeign, halfWay, goesOn;
+    bool isForeign, halfWay, goesOn, hasBackup;
 
     /// Checks what is left; false when no call of that number was made.
     bool check(int first) const {
         ProgramRun run;
+        if (hasBackup) {
+            run.disk.put(name, "oldest");
+            run.save(1, "mine");
+        }
         run.disk.put(name, "old");
         if (!isForeign) {
             run.read(1);
@@ -156,11 +160,13 @@ struct FailingSave {
         for (const auto& [path, file] : run.disk.files) {
             left.insert(file.bytes);
         }
+        EXPECT_TRUE(!hasBackup || left.contains("oldest") || (saved && run.disk.bytes(kept) == "old"));
         if (saved) {
             EXPECT_EQ(run.disk.bytes(name), "new");
-            EXPECT_TRUE(!isForeign || left.contains("old"));
+            EXPECT_TRUE(!isForeign || run.disk.bytes(kept) == "old");
         } else if (run.disk.bytes(name) == "old") {
-            EXPECT_TRUE(goesOn || run.disk.files.size() == 1);
+            EXPECT_TRUE(goesOn || run.disk.files.size() == (hasBackup ? 2 : 1));
+            EXPECT_TRUE(goesOn || !hasBackup || run.disk.bytes(kept) == "oldest");
         } else {
             // The system's own replacement has lost it, and then no name could be given.
             EXPECT_TRUE(halfWay && goesOn && left.contains("new") && left.contains("old") == isForeign);
@@ -172,8 +178,9 @@ struct FailingSave {
 TEST(KnownFiles, WhateverFailsNothingIsLost) {
     using enum FileFailure;
     for (const FileFailure failure : {DiskFull, AccessDenied, InUse, Unreachable, OutOfMemory, Other}) {
-        for (const unsigned options : {0u, 1u, 2u, 3u, 4u, 5u, 6u, 7u}) {
-            const FailingSave save{failure, (options & 1) != 0, (options & 2) != 0, (options & 4) != 0};
+        for (unsigned options = 0; options < 16; ++options) {
+            const FailingSave save{failure, (options & 1) != 0, (options & 2) != 0, (options & 4) != 0,
+                                   (options & 8) != 0};
             for (int first = 0; save.check(first); ++first) {
                 ASSERT_FALSE(HasFailure()) << "call " << first << ", options " << options;
             }

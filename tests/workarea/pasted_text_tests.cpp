@@ -54,7 +54,7 @@ const PastedRow pastedRows[] = {
     {u"100 °C → °F 37℃ sin 30° cos(45 °) ° 1′", u"100 C -> F 37C sin (30 deg) cos((45 deg)) deg 1′"},
     {u"𝑥² + 𝟐𝜋 + ℎ ∞", u"x^2 + 2pi + h inf"},
     {u"½ 2½ 2 ¼ x¾ 2.5⅓", u"(1/2) (2+1/2) (2+1/4) x(3/4) (2.5+1/3)"},
-    {u"16’FF ‘16 255 2‛101 “a”", u"16'FF '16 255 2'101 \"a\""},
+    {u"16’FF ‚16 255 2‛101 „a‘ “b”", u"16'FF '16 255 2'101 \"a' \"b\""},
     // What has no counterpart.
     {u"α ≤ ∑ 中 \U0001F600 \xD83D!", u"α ≤ ∑ 中 \U0001F600 \xFFFD!"},
     // Cells.

@@ -66,6 +66,8 @@ const BodyRow bodyRows[] = {
     // Tables: lines, with tabs between the cells.
     {R"(\trowd\cellx500\cellx900\intbl 1\cell 2\cell\row 3\cell\cell 4\cell\row 5)", R"(1\tab 2/3\tab \tab 4/5)"},
     {R"({1\nestcell 2\nestcell{\*\nesttableprops\trowd\nestrow}{\nonesttables\par}}3)", R"(1\tab 2/3)"},
+    {R"( 1\nestcell{\*\nesttableprops\nestrow}2\nestcell{\*\nesttableprops\nestrow}3{\header{\*\x\nestrow}}4)",
+     R"(1/2/34)"},
     // What goes.
     {R"( 1{\pict\pngblip 89504e47}2{\*\shppict{\pict 00}}{\nonshppict{\pict 00}}3)", R"(123)"},
     {R"( 1{\object\objemb{\*\objdata 0105}{\result 9}}2{\shp{\*\shpinst 9}{\shprslt 9}}3)", R"(123)"},
