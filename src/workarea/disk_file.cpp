@@ -66,52 +66,21 @@ std::wstring writeTemporaryFile(Disk& disk, const std::wstring& name, std::strin
     });
 }
 
-/// Lets a file stand under a second name as well. Another file of that name is put aside until this is made final.
-class SecondName {
-public:
-    /// `second` must outlive this.
-    SecondName(Disk& disk, const std::wstring& name, const std::wstring& second) : disk_(disk), second_(second) {
-        if (disk_.find(second_)) {
-            aside_ = temporaryNameBeside(disk_, second_, [&](const std::wstring& aside) {
-                if (disk_.find(aside)) {
-                    return false;
-                }
-                insist(disk_, [&] { disk_.rename(second_, aside); });
-                return true;
-            });
-        }
-        try {
-            disk_.keep(name, second_);
-        } catch (...) {
-            takeBack();
-            throw;
-        }
+/// A second name for a file: `wanted`, or a temporary one while another file has that.
+std::wstring secondName(Disk& disk, const std::wstring& name, const std::wstring& wanted) {
+    std::wstring second = wanted;  // while there is memory for it
+    if (!disk.find(second)) {
+        disk.keep(name, second);
+        return second;
     }
-
-    void makeFinal() {
-        if (!aside_.empty()) {
-            disk_.remove(aside_);
+    return temporaryNameBeside(disk, wanted, [&](const std::wstring& temporary) {
+        const bool isFree = !disk.find(temporary);
+        if (isFree) {
+            disk.keep(name, temporary);
         }
-    }
-
-    /// Both names are as they were; where the disk refuses that, no file is lost.
-    void takeBack() {
-        if (aside_.empty()) {
-            disk_.remove(second_);
-            return;
-        }
-        try {
-            insist(disk_, [&] { disk_.rename(aside_, second_); });
-        } catch (...) {
-            // The reason why all is taken back is what the user is told.
-        }
-    }
-
-private:
-    Disk& disk_;
-    const std::wstring& second_;
-    std::wstring aside_;  ///< The other file's name meanwhile; empty when there is none.
-};
+        return isFree;
+    });
+}
 
 bool stillStands(Disk& disk, const std::wstring& name, const std::optional<FileState>& state) {
     try {
@@ -131,6 +100,19 @@ void giveName(Disk& disk, const std::wstring& temporary, const std::wstring& nam
         }
     }
     insist(disk, [&] { disk.rename(temporary, name); });
+}
+
+/// The file of a second name gets the wanted one, if it can.
+std::wstring takeFinalName(Disk& disk, std::wstring second, std::wstring wanted) {
+    if (second == wanted) {
+        return second;
+    }
+    try {
+        insist(disk, [&] { disk.rename(second, wanted); });
+        return wanted;
+    } catch (const FileFault&) {
+        return second;  // the save itself is done, and nothing is lost
+    }
 }
 
 }  // namespace
@@ -167,29 +149,27 @@ std::string readFile(Disk& disk, const std::wstring& name) {
     return bytes;
 }
 
-void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept) {
+std::wstring replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept) {
     disk.refuseWhatMayNotBeReplaced(name);
     const auto before = disk.find(name);
+    std::wstring wanted = kept, second;
     const std::wstring temporary = writeTemporaryFile(disk, name, bytes);
-    std::optional<SecondName> secondName;
     try {
         if (!kept.empty()) {
-            secondName.emplace(disk, name, kept);
+            second = secondName(disk, name, kept);
         }
         giveName(disk, temporary, name, !before);
-        if (secondName) {
-            secondName->makeFinal();
-        }
     } catch (...) {
         // A replacement that has failed half-way may have taken the old file away: then these are all there is.
         if (stillStands(disk, name, before)) {
             disk.remove(temporary);
-            if (secondName) {
-                secondName->takeBack();
+            if (!second.empty()) {
+                disk.remove(second);
             }
         }
         throw;
     }
+    return takeFinalName(disk, std::move(second), std::move(wanted));
 }
 
 }  // namespace calquo

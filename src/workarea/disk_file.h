@@ -21,9 +21,9 @@ std::string readFile(Disk& disk, const std::wstring& name);
 
 /// Puts a file of these bytes in the place of `name`. They are complete on the disk, in a temporary file of the same
 /// folder, before that takes the name: ended at any moment, this leaves the old file or the new one, whole. The old
-/// file stays under the name `kept` unless that is empty, in place of another one. Throws FileFault; the old files are
-/// then as they were.
-void replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept = {});
+/// file stays under the name `kept` unless that is empty, in the end in place of another one; should the disk not let
+/// it have that name, under a temporary one. Tells which it is. Throws FileFault; all files are then as they were.
+std::wstring replaceFile(Disk& disk, const std::wstring& name, std::string_view bytes, const std::wstring& kept = {});
 
 /// What the name of a temporary file ends with, where there is room for it.
 inline constexpr wchar_t temporaryEnding[] = L".tmp";

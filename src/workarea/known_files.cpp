@@ -80,16 +80,18 @@ std::wstring KnownFiles::save(const std::wstring& name, TextRevision revision,
     if (step == SaveStep::None) {
         return {};
     }
-    std::wstring kept = step == SaveStep::KeepAndWrite ? nameToKeep(file) : std::wstring();
+    const std::wstring wanted = step == SaveStep::KeepAndWrite ? nameToKeep(file) : std::wstring();
     const std::string content = bytes();
     // All memory is had before the file changes: what has been saved is known, or the next save would keep it as a
     // foreign file.
     Row saved{file, {}, digestOf(content), revision};
-    Row foreign{kept, {}, std::nullopt, std::nullopt};
+    Row foreign{wanted, {}, std::nullopt, std::nullopt};
+    foreign.name.reserve(longestPath);
     rows_.reserve(rows_.size() + 2);
-    replaceFile(disk_, file, content, kept);
+    std::wstring kept = replaceFile(disk_, file, content, wanted);
     note(std::move(saved));
     if (!kept.empty()) {
+        foreign.name = kept;
         note(std::move(foreign));
     }
     return kept;

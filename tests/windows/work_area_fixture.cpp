@@ -65,7 +65,7 @@ WorkAreaFixture::TopLevelWindow::~TopLevelWindow() { DestroyWindow(handle); }
 WorkAreaFixture::WorkAreaFixture()
     : top_(*this),
       workArea_(
-          top_.handle, 1, {{VK_F1, Modifiers::Any, 2592}}, [] { return defaultFormats[0]; },
+          top_.handle, 1, {{VK_F1, Modifiers::Any, 2592}}, [this] { return format; },
           WorkAreaListener{.refused = [this](const std::wstring&) { ++refusals; }}) {
     workArea_.moveTo({0, 0, 780, 560});
     workArea_.giveFocus();

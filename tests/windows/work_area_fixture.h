@@ -38,6 +38,8 @@ public:
 
     /// The commands that the top-level window has been sent, in order.
     std::vector<unsigned> commands;
+    /// Results are written under this.
+    NumericFormat format = defaultFormats[0];
     /// How often the work area has refused something.
     int refusals = 0;
 
