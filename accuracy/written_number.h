@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "format/numeric_format.h"
 #include "big_float.h"
+#include "format/numeric_format.h"
 #include "numeral.h"
 
 namespace calquo {

@@ -1,4 +1,5 @@
 # What the scripts share: messages, root's rights, Wine in 64 and 32 bits, and a virtual display. Bash, sourced.
+# shellcheck shell=bash
 
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$project/build

@@ -3,6 +3,7 @@
 #
 # work_keys takes text as it is typed, with these in braces: keys by X's names, like {Return} and {ctrl+z}, and the functions
 # do_... below, each by its name and arguments, like {choose b k b}.
+# shellcheck shell=bash disable=SC2120,SC2154
 
 # fault TEXT: how a failure is told.
 fault() { fail "$@"; }

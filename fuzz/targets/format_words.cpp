@@ -1,12 +1,12 @@
 // Any word, base and value: what is written is what is closest, and can be read.
 #include <cmath>
 
+#include "accuracy/written_fraction.h"
+#include "accuracy/written_number.h"
 #include "engine/characters.h"
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
-#include "accuracy/written_fraction.h"
-#include "accuracy/written_number.h"
 #include "target.h"
 #include "values/errors.h"
 

@@ -2,10 +2,10 @@
 // has is written in a way that reads back as the same.
 #include <cstring>
 
+#include "accuracy/lossless.h"
 #include "engine/evaluator.h"
 #include "format/value_writer.h"
 #include "same_value.h"
-#include "accuracy/lossless.h"
 #include "target.h"
 #include "values/errors.h"
 #include "workarea/record.h"

@@ -4,10 +4,10 @@
 #include <stdexcept>
 #include <string>
 
+#include "accuracy/numeral.h"
 #include "engine/characters.h"
 #include "engine/number_literal.h"
 #include "same_value.h"
-#include "accuracy/numeral.h"
 #include "target.h"
 #include "values/errors.h"
 
