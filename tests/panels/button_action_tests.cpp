@@ -245,6 +245,18 @@ void forEveryButton(const Check& check) {
     }
 }
 
+TEST(EveryButton, StandsInARowThatFillsSixButtonsOrLeavesWholeOnesFree) {
+    for (const PanelEntry& panel : panelCatalogue()) {
+        for (const PanelRow& row : panel.rows) {
+            int halfWidths = 0;
+            for (const PanelButton& button : row) {
+                halfWidths += 2 + button.extraHalfWidths;
+            }
+            EXPECT_TRUE(halfWidths == 12 || halfWidths == 10 || halfWidths == 8) << panel.menuLabel << halfWidths;
+        }
+    }
+}
+
 TEST(EveryButton, OfANameMakesALineThatEvaluates) {
     forEveryButton([](const PanelEntry& panel, const PanelButton& button) {
         if (panel.group == PanelGroup::Keypads) {

@@ -48,12 +48,13 @@ const PastedRow pastedRows[] = {
     {u"5 m² + 2km³ + cm²/s²", u"5 m2 + 2km3 + cm2/s^2"},
     {u"10⁻³ m⁻¹ x³y² (1+2)¹⁰ 5!² M²3", u"10^-3 m^-1 x^3 y^2 (1+2)^10 5!^2 M2 3"},
     {u"² a ² +²", u"² a ² +²"},
-    {u"log₂(8) x₁", u"log2(8) x1"},
+    {u"log₂(8) x₀₁₂₃₄₅₆₇₈₉ x⁰¹²³⁴⁵⁶⁷⁸⁹ x⁺¹", u"log2(8) x0123456789 x^0123456789 x^+1"},
     // Names.
     {u"2π πr² π2 rπ √2+√(3)+∛8 x√π sin(π)", u"2pi pi r^2 pi 2 r pi sqrt 2+sqrt(3)+cbrt 8 x sqrt pi sin(pi)"},
     {u"100 °C → °F 37℃ sin 30° cos(45 °) ° 1′", u"100 C -> F 37C sin (30 deg) cos((45 deg)) deg 1′"},
     {u"𝑥² + 𝟐𝜋 + ℎ ∞", u"x^2 + 2pi + h inf"},
     {u"½ 2½ 2 ¼ x¾ 2.5⅓", u"(1/2) (2+1/2) (2+1/4) x(3/4) (2.5+1/3)"},
+    {u"⅔x⅕x⅖x⅗x⅘x⅙x⅚x⅛x⅜x⅝x⅞", u"(2/3)x(1/5)x(2/5)x(3/5)x(4/5)x(1/6)x(5/6)x(1/8)x(3/8)x(5/8)x(7/8)"},
     {u"16’FF ‚16 255 2‛101 „a‘ “b”", u"16'FF '16 255 2'101 \"a' \"b\""},
     // What has no counterpart.
     {u"α ≤ ∑ 中 \U0001F600 \xD83D!", u"α ≤ ∑ 中 \U0001F600 \xFFFD!"},
