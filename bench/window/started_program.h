@@ -39,8 +39,8 @@ public:
     StartedProgram& operator=(const StartedProgram&) = delete;
 
     /// Waits until the program has shown a window, waits for input, answers a message, and no part of the window is
-    /// left to be painted.
-    void waitUntilPainted();
+    /// left to be painted. Returns when that was, by millisecondsNow(); to look at hundreds of windows takes a while.
+    double waitUntilPainted();
 
     /// Sends the command of a menu entry, and waits until it is done.
     void command(unsigned identifier) const;

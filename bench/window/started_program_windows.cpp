@@ -106,7 +106,8 @@ StartedProgram::~StartedProgram() {
     CloseHandle(process_);
 }
 
-void StartedProgram::waitUntilPainted() {
+double StartedProgram::waitUntilPainted() {
+    double looked = 0;
     do {
         if (WaitForSingleObject(process_, 0) == WAIT_OBJECT_0) {
             throw std::runtime_error("a program ended without a window; does a Calquo run?");
@@ -114,7 +115,9 @@ void StartedProgram::waitUntilPainted() {
         WaitForInputIdle(process_, INFINITE);
         EnumWindows(Enumeration::noteShownWindow, reinterpret_cast<LPARAM>(this));
         SendMessageW(window_, WM_NULL, 0, 0);
+        looked = millisecondsNow();
     } while (window_ == nullptr || !Enumeration::isPainted(window_));
+    return looked;
 }
 
 void StartedProgram::command(unsigned identifier) const {

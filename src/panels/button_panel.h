@@ -16,8 +16,11 @@ public:
     /// Is told which button of the panel was pressed.
     using Listener = std::function<void(const PanelEntry&, const PanelButton&)>;
 
+    /// When a panel makes the windows of its buttons; it paints them at once.
+    enum class Buttons : std::uint8_t { Now, Later };
+
     /// The panel of an entry, its rows one below the other.
-    ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener);
+    ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener, Buttons buttons = Buttons::Now);
 
     std::string spokenName() const override;
 

@@ -48,8 +48,11 @@ struct Performer {
 
 }  // namespace
 
-ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener)
-    : Panel(parent, {entry.identifier, panelStyle, Direction::Down, true}),
+ButtonPanel::ButtonPanel(WindowHandle parent, const PanelEntry& entry, Listener listener, Buttons buttons)
+    : Panel(parent, {.command = entry.identifier,
+                     .style = panelStyle,
+                     .paintsChildren = true,
+                     .makesChildrenLater = buttons == Buttons::Later}),
       entry_(entry),
       listener_(std::move(listener)) {
     for (const PanelRow row : entry.rows) {

@@ -68,6 +68,7 @@ protected:
     void onPressInside() override;
     bool onMenuKey() override { return true; }  // ours has opened already
     bool onSystemMenu(std::uint16_t command) override { return runAlwaysOnTop(handle(), command); }
+    bool onTimer(std::uintptr_t timer) override;
     bool onCommand(const Notification& notification) override;
     bool onFilesDropped(std::uintptr_t drop) override;
 

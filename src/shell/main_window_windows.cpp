@@ -35,6 +35,9 @@ Size draggedPiece() { return {3 * buttonSize(), buttonSize() / 2}; }
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
 constexpr int menuOffset = 8;
 
+/// Goes off when everything else has been done, the window painted and what was typed written.
+constexpr UINT_PTR buttonsTimer = 1;
+
 /// Does something when it goes out of scope.
 template <typename Action>
 class AtEnd {
@@ -127,7 +130,10 @@ void MainWindow::onCreate() {
     workArea_->giveFocus();
     menu_.showMarks([this](std::uint16_t identifier) { return isCheckedUnder(settings_, identifier); });
     for (const std::uint16_t identifier : settings_.selectedPanels()) {
-        panels_.open(handle(), identifier);
+        panels_.open(handle(), identifier, ButtonPanel::Buttons::Later);
+    }
+    if (!settings_.selectedPanels().empty()) {
+        SetTimer(handle(), buttonsTimer, USER_TIMER_MINIMUM, nullptr);
     }
     moveWhereItCanBeReached();
     layOut();
@@ -421,6 +427,19 @@ void MainWindow::layOut() {
 void MainWindow::layOutAndRefresh() {
     layOut();
     RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+bool MainWindow::onTimer(std::uintptr_t timer) {
+    // A hundred windows take longer than all else in a start, and nobody sees them but the mouse.
+    KillTimer(handle(), timer);
+    bool isMore = true;
+    while (isMore && HIWORD(GetQueueStatus(QS_ALLINPUT)) == 0) {
+        isMore = panels_.makeButtons();
+    }
+    if (isMore) {
+        SetTimer(handle(), timer, USER_TIMER_MINIMUM, nullptr);
+    }
+    return true;
 }
 
 // --- Menu and commands ----------------------------------------------------------------------------------------------

@@ -19,7 +19,9 @@ public:
     explicit OpenPanels(ButtonPanel::Listener listener) : listener_(std::move(listener)) {}
 
     /// Opens a panel of the catalogue on `parent`, below the others; nothing happens for another identifier.
-    void open(WindowHandle parent, std::uint16_t identifier);
+    void open(WindowHandle parent, std::uint16_t identifier, ButtonPanel::Buttons buttons = ButtonPanel::Buttons::Now);
+    /// Makes the windows of buttons that are to be made later, for one panel; false when none is left.
+    bool makeButtons();
     void close(std::uint16_t identifier);
     /// Scrolls to an open panel as soon as the panels are shown in a layout.
     void bringIntoView(std::uint16_t identifier) { awaited_ = identifier; }

@@ -1,17 +1,23 @@
 // The panels' windows.
 #include "shell/open_panels.h"
 
+#include <algorithm>
+
 #include "panels/catalogue.h"
 
 namespace calquo {
 
-void OpenPanels::open(WindowHandle parent, std::uint16_t identifier) {
+void OpenPanels::open(WindowHandle parent, std::uint16_t identifier, ButtonPanel::Buttons buttons) {
     if (const PanelEntry* const entry = findPanel(identifier)) {
         if (column_ == nullptr) {
             column_ = std::make_unique<Scroller>(parent);
         }
-        panels_.push_back(std::make_unique<ButtonPanel>(column_->content(), *entry, listener_));
+        panels_.push_back(std::make_unique<ButtonPanel>(column_->content(), *entry, listener_, buttons));
     }
+}
+
+bool OpenPanels::makeButtons() {
+    return std::ranges::any_of(panels_, [](const auto& panel) { return panel->makeChildren(); });
 }
 
 void OpenPanels::close(std::uint16_t identifier) {

@@ -25,6 +25,9 @@ public:
     virtual void draw(DrawingContext context, Size size);
     virtual bool isChecked() const { return false; }
     virtual void setChecked(bool checked);
+    /// Makes the window of a widget that was created without a parent, unless it has one; it shows if the widget has a
+    /// rectangle. Raises InternalFault when the system refuses.
+    virtual void makeWindow(WindowHandle parent);
 
     /// The widget that owns a window; null when none does.
     static Component* of(WindowHandle window);
@@ -56,9 +59,9 @@ protected:
 
     /// What a widget is created from.
     struct Creation {
-        WindowHandle parent = nullptr;
-        std::uint16_t command = 0;  ///< The command identifier that its notifications carry.
-        std::uint32_t style = 0;    ///< Beside child.
+        WindowHandle parent = nullptr;  ///< Null for a widget whose window is made later.
+        std::uint16_t command = 0;      ///< The command identifier that its notifications carry.
+        std::uint32_t style = 0;        ///< Beside child.
         std::string_view text;
         std::uint32_t extendedStyle = 0;
     };
@@ -68,7 +71,7 @@ protected:
     /// refuses.
     static WidgetClass registerClass(const wchar_t* systemClass, const wchar_t* name, std::uint16_t cursor = 0);
 
-    /// Creates the window, without a size; raises InternalFault when the system refuses.
+    /// Creates the window, if there is a parent, without a size; raises InternalFault when the system refuses.
     Component(const WidgetClass& widgetClass, const Creation& creation);
 
     /// moveTo() has given the window another rectangle.
@@ -86,7 +89,11 @@ protected:
     void showIn(FontHandle font);
 
 private:
-    WindowHandle parent_;
+    void place(std::uint32_t flags) const;
+
+    const wchar_t* className_;
+    WindowStyle style_;
+    WindowHandle parent_ = nullptr;
     std::uint16_t command_;
     std::string text_;
     Size preferredSize_;

@@ -29,13 +29,25 @@ Component::WidgetClass Component::registerClass(const wchar_t* systemClass, cons
 }
 
 Component::Component(const WidgetClass& widgetClass, const Creation& creation)
-    : Window(widgetClass.systemProcedure), parent_(creation.parent), command_(creation.command), text_(creation.text) {
-    create({widgetClass.name,
-            wideText(label()).c_str(),
-            {WS_CHILD | creation.style, creation.extendedStyle},
-            {},
-            parent_,
-            command_});
+    : Window(widgetClass.systemProcedure),
+      className_(widgetClass.name),
+      style_{WS_CHILD | creation.style, creation.extendedStyle},
+      command_(creation.command),
+      text_(creation.text) {
+    if (creation.parent != nullptr) {
+        Component::makeWindow(creation.parent);
+    }
+}
+
+void Component::makeWindow(WindowHandle parent) {
+    if (handle() != nullptr) {
+        return;
+    }
+    parent_ = parent;
+    create({className_, wideText(label()).c_str(), style_, {}, parent_, command_});
+    if (placed_) {
+        place(SWP_SHOWWINDOW | SWP_NOREDRAW);  // its parent has painted what it shows
+    }
 }
 
 Component* Component::of(WindowHandle window) { return dynamic_cast<Component*>(Window::of(window)); }
@@ -85,10 +97,16 @@ void Component::moveTo(const Rectangle& rectangle) {
         return;
     }
     rectangle_ = rectangle;
-    const UINT showing = std::exchange(placed_, true) ? 0U : static_cast<UINT>(SWP_SHOWWINDOW);
-    SetWindowPos(handle(), nullptr, rectangle.left, rectangle.top, rectangle.width, rectangle.height + dropHeight_,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE | showing);
-    onPlaced();
+    const bool isShown = std::exchange(placed_, true);
+    if (handle() != nullptr) {
+        place(isShown ? 0 : SWP_SHOWWINDOW);
+        onPlaced();
+    }
+}
+
+void Component::place(std::uint32_t flags) const {
+    SetWindowPos(handle(), nullptr, rectangle_.left, rectangle_.top, rectangle_.width, rectangle_.height + dropHeight_,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_DEFERERASE | flags);
 }
 
 void Component::show() { ShowWindow(handle(), SW_SHOWNA); }

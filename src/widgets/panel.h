@@ -29,21 +29,28 @@ public:
         bool paintsChildren = false;
         /// Lets Tab walk among its children, in a dialog.
         bool holdsTabStops = false;
+        /// Makes its children's windows when makeChildren() or the mouse asks for them; until then it paints them.
+        bool makesChildrenLater = false;
     };
 
     Panel(WindowHandle parent, const Creation& creation);
     ~Panel() override;
 
-    /// Makes a widget on this panel, after those that it has: a Widget(handle(), arguments...).
+    /// Makes a widget on this panel, after those that it has: a Widget(parent, arguments...), whose parent is this
+    /// panel or, until its children's windows are made, null.
     template <typename Widget, typename... Arguments>
     Widget& add(Arguments&&... arguments) {
-        auto widget = std::make_unique<Widget>(handle(), std::forward<Arguments>(arguments)...);
+        const WindowHandle parent = awaitsChildren_ ? nullptr : handle();
+        auto widget = std::make_unique<Widget>(parent, std::forward<Arguments>(arguments)...);
         Widget& added = *widget;
         children_.push_back(std::move(widget));
         return added;
     }
 
     const std::vector<std::unique_ptr<Component>>& children() const { return children_; }
+    /// Makes the windows of the children, if they are still to come; false if they are there.
+    bool makeChildren();
+    void makeWindow(WindowHandle parent) override;
 
     /// The size of the children in their direction, and of the margin.
     Size preferredSize() const override;
@@ -56,6 +63,8 @@ public:
     std::optional<Color> backgroundOf(WindowHandle child) const override;
 
 protected:
+    HitArea onHitTest(HitArea byClass) const override;
+    bool onMouse(const MouseEvent& event) override;
     bool onPaint() override;
     bool onPaintBackground(DrawingContext) override { return paintsChildren_; }
     bool onPaintFrame() override { return true; }  // there is none
@@ -72,6 +81,7 @@ private:
     Direction direction_;
     bool hasMargin_;
     bool paintsChildren_;
+    bool awaitsChildren_;
     std::vector<std::unique_ptr<Component>> children_;
 };
 

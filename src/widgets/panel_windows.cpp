@@ -31,11 +31,48 @@ Panel::Panel(WindowHandle parent, const Creation& creation)
                                 creation.holdsTabStops ? std::uint32_t{WS_EX_CONTROLPARENT} : 0U}),
       direction_(creation.direction),
       hasMargin_((creation.style & panelMargin) != 0),
-      paintsChildren_(creation.paintsChildren) {}
+      paintsChildren_(creation.paintsChildren),
+      awaitsChildren_(parent == nullptr || creation.makesChildrenLater) {}
 
 Panel::~Panel() {
     // With the children's windows, which then need not vanish one by one.
     destroy();
+}
+
+void Panel::makeWindow(WindowHandle parent) {
+    Component::makeWindow(parent);
+    makeChildren();
+}
+
+bool Panel::makeChildren() {
+    if (!awaitsChildren_) {
+        return false;
+    }
+    for (const auto& child : children_) {
+        child->makeWindow(handle());
+    }
+    awaitsChildren_ = false;  // not before, so that what has failed on the way is tried again
+    return true;
+}
+
+HitArea Panel::onHitTest(HitArea byClass) const {
+    // The gaps between its children are nobody's; until these are there all of it is the panel's.
+    return awaitsChildren_ ? HitArea::Client : byClass;
+}
+
+bool Panel::onMouse(const MouseEvent& event) {
+    if (!makeChildren()) {
+        return Component::onMouse(event);
+    }
+    if (event.action == MouseAction::Press) {
+        // It was meant for one of them.
+        POINT point{event.position.left, event.position.top};
+        ClientToScreen(handle(), &point);
+        const HWND pressed = WindowFromPoint(point);
+        ScreenToClient(pressed, &point);
+        PostMessageW(pressed, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
+    return true;
 }
 
 int Panel::margin() const { return hasMargin_ ? buttonSize() / 4 : 0; }
@@ -57,9 +94,7 @@ Size Panel::preferredSize() const {
 }
 
 void Panel::layOut() {
-    RECT client{};
-    GetClientRect(handle(), &client);
-    const int width = client.right - 2 * margin();
+    const int width = rectangle().width - 2 * margin();
     if (direction_ == Direction::Down) {
         layOutDown(width);
     } else {

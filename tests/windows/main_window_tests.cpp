@@ -7,6 +7,7 @@
 #include <cstring>
 #include <string>
 
+#include "dialog_keys.h"
 #include "file_folder.h"
 #include "panels/catalogue.h"
 #include "program.h"
@@ -166,6 +167,8 @@ TEST(MainWindow, RemembersItsPanelsInTheirOrder) {
     Program program(storedPanels({lengths, 0x1234, basicKeypad, lengths, 0xA9999, leftCaption, angles}));
     expectLaidOut(program, {lengths, basicKeypad, angles});
     EXPECT_TRUE(program.window().isChecked(angles));
+    settle();
+    EXPECT_EQ(program.buttonsOf(basicKeypad).size(), 24u) << "are made when nothing else is left to do";
     program.command(lengths);
     program.command(lengths);
     program.close();

@@ -9,8 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "panels/button_panel.h"
 #include "program.h"
 #include "resources.h"
+#include "support/allocations.h"
 #include "widgets/button.h"
 #include "widgets/check_box.h"
 #include "widgets/label.h"
@@ -234,6 +236,32 @@ TEST(ButtonPanel, PaintsItsButtonsAsTheyPaintThemselves) {
         }
         mouse(pressed, WM_LBUTTONUP, -1);
     }
+}
+
+TEST(ButtonPanel, LooksTheSameBeforeItsButtonsAreMadeAndLosesNoPress) {
+    Program program;
+    std::string pressed;
+    ButtonPanel panel(
+        program.handle(), *findPanel(masses),
+        [&](const PanelEntry&, const PanelButton& button) { pressed += button.label; }, ButtonPanel::Buttons::Later);
+    const Size size = panel.preferredSize();
+    panel.moveTo({40, 60, size.width, size.height});
+    panel.layOut();
+    SetWindowPos(panel.handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    const auto before = picture(panel.handle());
+    EXPECT_EQ(GetWindow(panel.handle(), GW_CHILD), nullptr);
+    {
+        const FailingAllocation allocation(0);
+        EXPECT_THROW(panel.makeChildren(), std::bad_alloc);
+    }
+    for (const LRESULT area : {HTCLIENT, HTTRANSPARENT}) {
+        EXPECT_EQ(SendMessageW(panel.handle(), WM_NCHITTEST, 0, 0), area);
+        mouse(panel.handle(), WM_LBUTTONDOWN, size.width / 6, size.height / 8);
+        Program::serveMessages();
+        mouse(GetCapture(), WM_LBUTTONUP);
+        EXPECT_EQ(pressed, "kg") << "only the first press is not one of the mouse's";
+    }
+    EXPECT_TRUE(picture(panel.handle()) == before);
 }
 
 TEST(Button, WritesALongLabelNarrower) {
