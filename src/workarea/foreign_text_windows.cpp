@@ -47,7 +47,7 @@ std::basic_string<Character> charactersIn(HGLOBAL memory) {
         return {};
     }
     constexpr std::size_t most = largestFile / sizeof(Character);
-    const std::size_t count = std::min(GlobalSize(memory) / sizeof(Character), most + 1);
+    const std::size_t count = std::min<std::size_t>(GlobalSize(memory) / sizeof(Character), most + 1);
     const Character* const end = std::find(begin, begin + count, Character{});
     std::basic_string<Character> characters;
     try {
