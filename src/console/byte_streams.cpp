@@ -18,9 +18,9 @@ constexpr char standardInputName[] = "standard input";
 
 }  // namespace
 
-void throwSystemFault(const std::string& action) {
+std::string systemFault(const std::string& action) {
     const int reason = errno;
-    throw StreamFault{action + ": " + std::strerror(reason)};
+    return action + ": " + std::strerror(reason);
 }
 
 OutputStream::OutputStream(int file) : file_(file), isTerminal_(calquo::isTerminal(file)) { keepBytes(file); }
@@ -42,7 +42,7 @@ void OutputStream::flush() {
         if (result >= 0) {
             written += static_cast<std::size_t>(result);
         } else if (!waitUntilReady(file_, Direction::Write)) {
-            throwSystemFault("cannot write the answers");
+            throw StreamFault{systemFault("cannot write the answers")};
         }
     }
     pending_.clear();
@@ -60,7 +60,7 @@ void writeMessage(const std::string& text) {
 InputFile::InputFile(const std::string& path)
     : file_(path == "-" ? standardInput : openForReading(path)), name_(path == "-" ? standardInputName : path) {
     if (file_ < 0) {
-        throwSystemFault("cannot open " + path);
+        throw ReadFault{{systemFault("cannot open " + path)}};
     }
 }
 

@@ -15,8 +15,11 @@ struct StreamFault {
     std::string message;
 };
 
-/// Throws StreamFault: the action that has failed, and the system's reason.
-[[noreturn]] void throwSystemFault(const std::string& action);
+/// A file that cannot be opened or read; others still may.
+struct ReadFault : StreamFault {};
+
+/// A message of the action that has failed, and the system's reason.
+std::string systemFault(const std::string& action);
 
 /// Collects bytes and writes them when enough have come together. On a terminal it does so after each line, with
 /// control characters made visible.
@@ -47,7 +50,7 @@ void writeMessage(const std::string& text);
 /// A file opened for reading, closed with its owner; the standard input for "-".
 class InputFile {
 public:
-    /// Throws StreamFault.
+    /// Throws ReadFault.
     explicit InputFile(const std::string& path);
     ~InputFile();
     InputFile(const InputFile&) = delete;

@@ -129,12 +129,28 @@ int answerStandardInput(const Options& options, OutputStream& output) {
     return allWell;
 }
 
+/// Goes on after a file that cannot be read. The status is the worst of what `use` gives for each.
+template <typename Use>
+int forEachFile(const std::vector<std::string_view>& names, OutputStream& output, Use use) {
+    int status = allWell;
+    for (const std::string_view name : names) {
+        try {
+            status = std::max(status, use(InputFile(std::string(name))));
+        } catch (const ReadFault& fault) {
+            output.flush();
+            writeMessage("calq: " + fault.message + "\n");
+            status = notDone;
+        }
+    }
+    return status;
+}
+
 int answerFiles(const Options& options, OutputStream& output) {
     LineAnswerer answerer(options);
-    for (const std::string_view operand : options.operands) {
-        answerFile(options, answerer, InputFile(std::string(operand)), output);
-    }
-    return allWell;
+    return forEachFile(options.operands, output, [&](const InputFile& file) {
+        answerFile(options, answerer, file, output);
+        return allWell;
+    });
 }
 
 /// Whether all records of an open file give today what was saved.
@@ -158,11 +174,8 @@ int checkRecords(const Options& options, OutputStream& output) {
     if (files.empty()) {
         files.emplace_back("-");
     }
-    bool allSame = true;
-    for (const std::string_view name : files) {
-        allSame &= checkFile(answerer, InputFile(std::string(name)), output);
-    }
-    return allSame ? allWell : someFailed;
+    return forEachFile(files, output,
+                       [&](const InputFile& file) { return checkFile(answerer, file, output) ? allWell : someFailed; });
 }
 
 /// Says on standard error when the engine has kept another mark than the one that was asked for.

@@ -29,7 +29,7 @@ std::size_t indexOf(char byte, const std::vector<char>& bytes, std::size_t begin
     const std::wstring reason = reasonOf({failure, {}});
     std::string message = "cannot read " + name + ": ";
     std::ranges::transform(reason, std::back_inserter(message), [](wchar_t unit) { return static_cast<char>(unit); });
-    throw StreamFault{message};
+    throw ReadFault{{message}};
 }
 
 }  // namespace
@@ -84,9 +84,8 @@ void LineReader::makeRoom() {
     }
     if (buffer_.size() - end_ < longestCharacter) {
         if (buffer_.size() >= mostBytes) {
-            throw StreamFault{
-                (formIsKnown_ ? "a line of " + file_.name() + " is longer" : file_.name() + " is larger") +
-                " than 64 MiB"};
+            throw ReadFault{{(formIsKnown_ ? "a line of " + file_.name() + " is longer" : file_.name() + " is larger") +
+                             " than 64 MiB"}};
         }
         buffer_.resize(2 * buffer_.size());
     }
@@ -106,7 +105,7 @@ void LineReader::readBytes() {
             return;
         }
         if (!waitUntilReady(file_.descriptor(), Direction::Read)) {
-            throwSystemFault("cannot read " + file_.name());
+            throw ReadFault{{systemFault("cannot read " + file_.name())}};
         }
     }
 }

@@ -19,7 +19,7 @@ public:
     LineReader(const InputFile& file, OutputStream& output, std::string_view prompt = {});
 
     /// The next line in UTF-8, or in whatever code plain text has, without its line end ("\n", "\r\n" or "\r"), valid
-    /// until the next call; false when there are no more. Throws StreamFault, also for a line that is too long and for
+    /// until the next call; false when there are no more. Throws ReadFault, also for a line that is too long and for
     /// what is no sheet.
     bool next(std::string_view& line);
 

@@ -15,16 +15,6 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 constexpr std::size_t bytesInUnit = 2;
 
-struct MarkRow {
-    std::string_view mark;
-    TextEncoding encoding;
-};
-constexpr MarkRow markRows[] = {
-    {"\xEF\xBB\xBF", TextEncoding::Utf8WithMark},
-    {"\xFF\xFE", TextEncoding::Utf16LittleEndian},
-    {"\xFE\xFF", TextEncoding::Utf16BigEndian},
-};
-
 constexpr char16_t byteOrderMark = 0xFEFF;
 
 /// The characters that Windows-1252 has in place of the C1 controls, 80 to 9F; all others have their own number in
@@ -37,9 +27,8 @@ constexpr std::array<char16_t, 32> ownCharacters = {
 };
 
 std::string_view markOf(TextEncoding encoding) {
-    const auto row = std::find_if(std::begin(markRows), std::end(markRows),
-                                  [&](const MarkRow& candidate) { return candidate.encoding == encoding; });
-    return row == std::end(markRows) ? std::string_view() : row->mark;
+    const auto* const mark = std::ranges::find(byteOrderMarks, encoding, &ByteOrderMark::encoding);
+    return mark == byteOrderMarks.end() ? std::string_view() : mark->bytes;
 }
 
 bool isUtf16(TextEncoding encoding) {
@@ -79,9 +68,10 @@ std::string encodeWindows1252(std::u16string_view units) {
 }
 
 TextEncoding encodingOf(std::string_view bytes, const CodePage& systemCodePage) {
-    for (const MarkRow& row : markRows) {
-        if (bytes.starts_with(row.mark) && (isUtf16(row.encoding) ? bytes.size() % bytesInUnit == 0 : isUtf8(bytes))) {
-            return row.encoding;
+    for (const ByteOrderMark& mark : byteOrderMarks) {
+        if (bytes.starts_with(mark.bytes) &&
+            (isUtf16(mark.encoding) ? bytes.size() % bytesInUnit == 0 : isUtf8(bytes))) {
+            return mark.encoding;
         }
     }
     if (isUtf8(bytes)) {

@@ -1,6 +1,7 @@
 // Plain text in files: its encodings and line ends. What was read and is written in the same form has the same bytes.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -17,6 +18,17 @@ enum class TextEncoding : std::uint8_t {
     SystemCodePage,
     Windows1252,
 };
+
+/// The bytes that begin a text in an encoding that says so.
+struct ByteOrderMark {
+    std::string_view bytes;
+    TextEncoding encoding;
+};
+inline constexpr std::array<ByteOrderMark, 3> byteOrderMarks = {{
+    {"\xEF\xBB\xBF", TextEncoding::Utf8WithMark},
+    {"\xFF\xFE", TextEncoding::Utf16LittleEndian},
+    {"\xFE\xFF", TextEncoding::Utf16BigEndian},
+}};
 
 enum class LineEnd : std::uint8_t { CarriageReturnLineFeed, LineFeed, CarriageReturn };
 
