@@ -16,9 +16,11 @@ int proportion(long long factor, int number, int divisor) {
 }  // namespace
 
 void ScrolledView::fit(const ScrolledHeights& heights) {
+    const bool isScaled = heights.row != heights_.row && heights_.content > 0;
+    const int offset = isScaled ? proportion(offset_, heights.content, heights_.content) : offset_;
     heights_ = heights;
     heights_.view = std::max(0, heights.view);
-    scrollTo(offset_);
+    scrollTo(offset);
 }
 
 int ScrolledView::farthest() const { return std::max(0, heights_.content - heights_.view); }
@@ -51,7 +53,7 @@ int ScrolledView::thumbHeight() const {
         return heights_.view;
     }
     const int inProportion = proportion(heights_.view, heights_.view, heights_.content);
-    return std::min(heights_.view, std::max(inProportion, heights_.smallestThumb));
+    return std::min(heights_.view, std::max(inProportion, heights_.row));
 }
 
 Stretch ScrolledView::thumb() const {

@@ -14,13 +14,14 @@ struct Stretch {
 /// What a scrolled view is worked out from, in pixels.
 struct ScrolledHeights {
     int content = 0;
-    int view = 0;           ///< The bar is as high.
-    int smallestThumb = 0;  ///< A lower thumb would be hard to take hold of.
+    int view = 0;  ///< The bar is as high.
+    int row = 0;   ///< Of the content, in the scale in force. A lower thumb would be hard to take hold of.
 };
 
 class ScrolledView {
 public:
-    /// Takes over other heights. What is seen stays where it was, as far as the content reaches.
+    /// Takes over other heights. What is seen stays where it was, as far as the content reaches; in another scale,
+    /// which shows by the height of a row, that is the same part of the content.
     void fit(const ScrolledHeights& heights);
 
     /// Whether there is more than is seen.

@@ -55,7 +55,20 @@ TEST(ScrolledView, EachStepLeavesItWithinTheContent) {
          {60, 40}},
         {"the thumb in the middle", [](auto& view) { view.moveThumb(80); }, 400, {80, 40}},
         {"the thumb below its end", [](auto& view) { view.moveThumb(500); }, 800, {160, 40}},
-        {"a page past the end", [](auto& view) { view.page(true, 20); }, 800, {160, 40}},
+        {"in twice the scale",
+         [](auto& view) {
+             view.moveThumb(80);
+             view.fit({2000, 400, 40});
+         },
+         800,
+         {160, 80}},
+        {"and back, where less is seen",
+         [](auto& view) {
+             view.fit({1000, 200, 20});
+         },
+         400,
+         {80, 40}},
+        {"pages past the end", [](auto& view) { view.moveThumb(140), view.page(true, 20); }, 800, {160, 40}},
         {"a shorter content",
          [](auto& view) {
              view.fit({700, 200, 20});

@@ -108,6 +108,27 @@ TEST_F(PanelColumn, TheBarIsOverItsRightMarginAndScrollsByTheMouse) {
     EXPECT_EQ(GetFocus(), program.workArea());
 }
 
+TEST_F(PanelColumn, WhatIsSeenIsTheSameInEveryScale) {
+    turn(manyNotches, column);
+    RECT place{};
+    GetWindowRect(program.handle(), &place);
+    const unsigned seen = identifier(count() / 2);
+    while (topOf(seen) > program.placeOf(column).top) {
+        turn(-120, column);
+    }
+    const LONG before = topOf(seen) - program.placeOf(column).top;
+    for (const int dots : {192, 144, 240, 96}) {
+        RECT suggested{place.left, place.top, place.right, place.bottom};
+        SendMessageW(program.handle(), WM_DPICHANGED, MAKEWPARAM(dots, dots), reinterpret_cast<LPARAM>(&suggested));
+        Program::serveMessages();
+        EXPECT_NEAR(topOf(seen) - program.placeOf(column).top, before * dots / 96, 20 * dots / 96) << dots;
+        const RECT view = program.placeOf(column), strip = program.placeOf(bar);
+        EXPECT_TRUE(strip.right == view.right && strip.bottom == view.bottom && IsWindowVisible(bar)) << dots;
+        EXPECT_EQ(strip.right - strip.left, buttonSize() / 4) << dots;
+    }
+    EXPECT_NEAR(topOf(seen) - program.placeOf(column).top, before, 2) << "back where it was";
+}
+
 TEST_F(PanelColumn, TheBarVanishesWhenAllPanelsAreSeen) {
     program.command(hideButtons);
     EXPECT_FALSE(IsWindowVisible(column));
