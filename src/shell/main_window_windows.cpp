@@ -405,10 +405,8 @@ void MainWindow::layOut() {
     const bool isSizable = IsZoomed(handle()) == 0 && IsIconic(handle()) == 0;
     if (isSizable && !isSizing_) {
         const Rectangle window = windowRectangle(handle());
-        const Size present{window.width, window.height};
-        const Size wanted = growth_.sizeFor(present, smallestWindow());
-        if (wanted != present) {
-            const Rectangle place = resizedRectangle(window, wanted, maximizedRectangleOf(handle()));
+        const Rectangle place = growth_.rectangleFor(window, smallestWindow(), maximizedRectangleOf(handle()));
+        if (place != window) {
             isSizing_ = true;
             SetWindowPos(handle(), nullptr, place.left, place.top, place.width, place.height,
                          SWP_NOZORDER | SWP_NOACTIVATE);

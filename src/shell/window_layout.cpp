@@ -40,6 +40,10 @@ int beginAfterGrowth(int begin, int length, int mostBegin, int mostLength) {
     return std::clamp(mostBegin + mostLength - length, std::min(begin, mostBegin), begin);
 }
 
+Size sizeOf(const Rectangle& rectangle) { return {rectangle.width, rectangle.height}; }
+
+Point cornerOf(const Rectangle& rectangle) { return {rectangle.left, rectangle.top}; }
+
 Size largerOf(Size one, Size other) { return {std::max(one.width, other.width), std::max(one.height, other.height)}; }
 
 }  // namespace
@@ -106,15 +110,22 @@ Rectangle resizedRectangle(const Rectangle& window, Size size, const Rectangle& 
     return resized;
 }
 
-Size WindowGrowth::sizeFor(Size present, Size least) {
-    if (before_ && present != told_) {
+Rectangle WindowGrowth::rectangleFor(const Rectangle& present, Size least, const Rectangle& most) {
+    const Size size = sizeOf(present);
+    if (size != sizeOf(told_)) {
         before_.reset();
     }
-    told_ = largerOf(before_.value_or(present), least);
-    if (told_ == before_) {
+    if (!before_ || cornerOf(present) != cornerOf(told_)) {
+        corner_.reset();
+    }
+    const Size wanted = largerOf(before_.value_or(size), least);
+    const Rectangle from = corner_ ? Rectangle{corner_->left, corner_->top, before_->width, before_->height} : present;
+    told_ = wanted == size ? present : resizedRectangle(from, wanted, most);
+    if (wanted == before_) {
         before_.reset();
-    } else if (!before_ && told_ != present) {
-        before_ = present;
+    } else if (!before_ && wanted != size) {
+        before_ = size;
+        corner_ = cornerOf(present);
     }
     return told_;
 }

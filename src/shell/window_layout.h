@@ -60,13 +60,15 @@ Rectangle resizedRectangle(const Rectangle& window, Size size, const Rectangle& 
 /// Lets a window grow with what it shows, and shrink with it again.
 class WindowGrowth {
 public:
-    /// The size for a window that has the size `present` and needs `least`: that which it had before it grew, or as
-    /// much more as it needs. A window that has another size than the last one told here was sized by a person.
-    Size sizeFor(Size present, Size least);
+    /// The rectangle for a window that is at `present` and needs the size `least`: that which it had before it grew, or
+    /// as much more as it needs, grown as resizedRectangle() does it. A window that has another size than the last one
+    /// told here was sized by a person, and one that is elsewhere was moved: its corner stays.
+    Rectangle rectangleFor(const Rectangle& present, Size least, const Rectangle& most);
 
 private:
     std::optional<Size> before_;
-    Size told_;
+    std::optional<Point> corner_;  ///< At that time.
+    Rectangle told_;
 };
 
 }  // namespace calquo

@@ -81,28 +81,34 @@ TEST(WindowRectangle, GrowsWhereThereIsRoom) {
     }
 }
 
-TEST(WindowGrowth, EndsWithWhatItWasForUnlessAPersonHasSizedTheWindow) {
+TEST(WindowGrowth, EndsWithWhatItWasForUnlessAPersonHasSizedOrMovedTheWindow) {
+    constexpr Rectangle most{0, 0, 1000, 800};
     struct Row {
-        Size present, least, wanted;
+        Rectangle present;
+        Size least;
+        Rectangle wanted;
     };
     const Row rows[] = {
-        {{300, 200}, {100, 100}, {300, 200}},
-        {{300, 200}, {100, 400}, {300, 400}},  // a panel opens
-        {{300, 400}, {350, 700}, {350, 700}},  // and another one
-        {{350, 700}, {350, 500}, {350, 500}},
-        {{350, 500}, {100, 100}, {300, 200}},  // the last one closes
-        {{300, 200}, {100, 100}, {300, 200}},
-        {{300, 200}, {100, 400}, {300, 400}},
-        {{500, 450}, {100, 400}, {500, 450}},  // sized by a person
-        {{500, 450}, {100, 100}, {500, 450}},
-        {{500, 450}, {600, 100}, {600, 450}},
-        {{600, 450}, {100, 100}, {500, 450}},
-        {{250, 450}, {300, 100}, {300, 450}},  // a person makes it narrower than it may be
-        {{300, 450}, {100, 100}, {250, 450}},
+        {{10, 300, 300, 200}, {100, 100}, {10, 300, 300, 200}},
+        {{10, 300, 300, 200}, {100, 400}, {10, 300, 300, 400}},  // a panel opens
+        {{10, 300, 300, 400}, {350, 700}, {10, 100, 350, 700}},  // and another one
+        {{10, 100, 350, 700}, {350, 600}, {10, 200, 350, 600}},
+        {{10, 200, 350, 600}, {100, 100}, {10, 300, 300, 200}},  // the last one closes
+        {{10, 300, 300, 200}, {100, 100}, {10, 300, 300, 200}},
+        {{10, 300, 300, 200}, {100, 600}, {10, 200, 300, 600}},
+        {{20, 250, 300, 600}, {100, 600}, {20, 250, 300, 600}},  // moved by a person
+        {{20, 250, 300, 600}, {100, 100}, {20, 250, 300, 200}},
+        {{10, 300, 300, 200}, {100, 400}, {10, 300, 300, 400}},
+        {{10, 300, 500, 450}, {100, 400}, {10, 300, 500, 450}},  // sized by a person
+        {{10, 300, 500, 450}, {100, 100}, {10, 300, 500, 450}},
+        {{10, 300, 500, 450}, {600, 100}, {10, 300, 600, 450}},
+        {{10, 300, 600, 450}, {100, 100}, {10, 300, 500, 450}},
+        {{10, 300, 250, 450}, {300, 100}, {10, 300, 300, 450}},  // a person makes it narrower than it may be
+        {{10, 300, 300, 450}, {100, 100}, {10, 300, 250, 450}},
     };
     WindowGrowth growth;
     for (const Row& row : rows) {
-        EXPECT_EQ(growth.sizeFor(row.present, row.least), row.wanted) << &row - rows;
+        EXPECT_EQ(growth.rectangleFor(row.present, row.least, most), row.wanted) << &row - rows;
     }
 }
 
