@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -38,6 +39,17 @@ void writeFile(const std::filesystem::path& path, const std::string& text) {
 std::string fileOf(const Page& page) { return page.name + ".html"; }
 
 std::string linkTo(const Page& page) { return "<a href=\"" + fileOf(page) + "\">" + escaped(page.title) + "</a>"; }
+
+/// The files of the pictures that are shown on a page.
+std::set<std::string> picturesOn(const Page& page) {
+    std::set<std::string> pictures;
+    constexpr std::string_view tag = "<img src=\"";
+    for (std::size_t place = 0; (place = page.body.find(tag, place)) != std::string::npos;) {
+        place += tag.size();
+        pictures.insert(page.body.substr(place, page.body.find('"', place) - place));
+    }
+    return pictures;
+}
 
 std::string siteMapItem(const std::string& text, const std::string& target) {
     return "<LI> <OBJECT type=\"text/sitemap\"><param name=\"Name\" value=\"" + escaped(text) +
@@ -184,10 +196,16 @@ std::string Book::projectText() const {
     // Contents, index, search and favourites in 290 pixels beside the page, and the usual buttons above.
     text += "[WINDOWS]\nmain=\"" + title + "\",\"Calquo2.hhc\",\"Calquo2.hhk\",\"" + start + "\",\"" + start +
             "\",,,,,0x63520,290,0x10384e,[80,60,1120,780],,,,,,,0\n\n[FILES]\n";
+    std::set<std::string> pictures;
     for (const Chapter& chapter : chapters_) {
         text += fileOf(chapter.page) + "\n";
+        pictures.merge(picturesOn(chapter.page));
     }
-    return text + "style.css\nwindow.png\n";
+    text += "style.css\n";
+    for (const std::string& picture : pictures) {
+        text += picture + "\n";
+    }
+    return text;
 }
 
 std::string Book::siteMapOfContents() const {

@@ -139,6 +139,11 @@ TEST(Help, LinksLeadToPagesAndPlacesThatThereAre) {
                         page->second.find("id=\"" + (*found)[2].str() + '"') != std::string::npos)
                 << name << ": " << found->str();
         }
+        const std::regex picture("<img src=\"([^\"]*)\"");
+        for (std::sregex_iterator found(html.begin(), html.end(), picture), end; found != end; ++found) {
+            EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(CALQUO_HELP_PAGES) / (*found)[1].str()))
+                << name << ": " << found->str();
+        }
         const std::regex any("href=\"(?!style.css)");
         count -= std::distance(std::sregex_iterator(html.begin(), html.end(), any), std::sregex_iterator());
     }
