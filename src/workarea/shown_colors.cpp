@@ -60,9 +60,9 @@ ColorChange ShownColors::toScreen() {
     if (!isChanged_) {
         return {};
     }
-    return {
-        [this](std::int32_t color) { return color == unset ? numberOf(normal_) : characters_.shadeOf(color, normal_); },
-        [this](std::int32_t color) { return color == unset ? unset : backgrounds_.shadeOf(color, paper_); }};
+    // Where no colour is said, the control takes the system's.
+    return {[this](std::int32_t color) { return color == unset ? unset : characters_.shadeOf(color, normal_); },
+            [this](std::int32_t color) { return color == unset ? unset : backgrounds_.shadeOf(color, paper_); }};
 }
 
 ColorChange ShownColors::toFile() const {

@@ -28,7 +28,7 @@ public:
 private:
     class Shades {
     public:
-        /// The colour that stands for one of the file, as nearly like `wanted` as is free; -1 is none here and there.
+        /// The colour that stands for one of the file, as nearly like `wanted` as is free.
         std::int32_t shadeOf(std::int32_t ofFile, Color wanted);
         std::int32_t ofFile(std::int32_t shade) const;
 
