@@ -5,6 +5,9 @@
 # do_... below, each by its name and arguments, like {choose b k b}.
 # shellcheck shell=bash disable=SC2120,SC2154
 
+# What the title of Calquo's window begins with.
+title='Calquo '
+
 # fault TEXT: how a failure is told.
 fault() { fail "$@"; }
 # wait_for SECONDS WHAT COMMAND...
@@ -41,7 +44,7 @@ do_begin() {
 }
 do_start() {
     do_begin "$@"
-    do_to 'Calquo '
+    do_back
     expect '* !! focus work area'
 }
 # end [STATUS]: the program ends by itself, with this exit status.
@@ -55,11 +58,37 @@ do_leave() {
     xdotool key alt+F4
     do_end
 }
+# A second start while the program runs.
+do_again() {
+    local first=$program
+    do_begin
+    do_end 1
+    program=$first
+}
+# The process that a background job has become, or has started last.
+last_descendant() {
+    local process=$1 child
+    while child=$(pgrep -n -P "$process"); do
+        process=$child
+    done
+    printf '%s\n' "$process"
+}
+# kill [PROCESS]: by default the program.
+do_kill() {
+    kill -9 "$(last_descendant "${1-$program}")" 2>/dev/null || true
+    wait "${1-$program}" || true
+}
 
 # --- Keys and the mouse ---------------------------------------------------------------------------------------------
 
 # to TITLE: waits until a window has the keys.
 do_to() { wait_for 30 "the keys go to $*" has_keys "$*"; }
+# The same for Calquo's own window; activate brings it forward.
+do_back() { do_to "$title"; }
+do_activate() {
+    xdotool search --name "^$title" windowactivate
+    do_back
+}
 # choose KEY...: opens the menu and goes down by mnemonics, each when the submenu before it is on the screen.
 do_choose() {
     local open=1 key
@@ -71,12 +100,23 @@ do_choose() {
     done
     expect '* !! menus 0'
 }
+# menu BUTTON: of the caption. The menu opens under the pointer, which leaves at once, but may have opened a submenu before.
+do_menu() {
+    is_one_menu() {
+        ask 'fact menus'
+        [ "$answer" != 2 ] || xdotool key Escape
+        [ "$answer" = 1 ]
+    }
+    do_click 9011 "$1"
+    xdotool mousemove_relative -- 0 -80
+    wait_for 5 "the button $1 opens a menu" is_one_menu
+}
 # file NAME: in the file dialog that is open.
 do_file() {
     expect '* !! focus Edit'
     xdotool key ctrl+a type --delay 15 -- "$*"
     xdotool key Return
-    do_to 'Calquo '
+    do_back
     expect '* !! focus work area'
 }
 # point PANEL BUTTON, by its label or its number in the panel; or point caption|corner|sheet X Y: from there.
@@ -119,6 +159,15 @@ do_drag() {
     local step=(sleep 0.1 mousemove_relative -- $(($1 / 5)) $(($2 / 5)))
     xdotool mousedown 1 "${step[@]}" "${step[@]}" "${step[@]}" "${step[@]}" "${step[@]}" sleep 0.1 mouseup 1
 }
+# size DX DY: makes the window larger, at its lower right corner. The frame is the window manager's to draw.
+do_size() {
+    local window WIDTH HEIGHT
+    window=$(xdotool search --onlyvisible --name "^$title")
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    xdotool windowsize "$window" $((WIDTH + $1)) $((HEIGHT + $2))
+}
+# Keeps the facts of now for expectations with "@".
+do_keep() { ask keep; }
 
 # Types and presses what the text says, in as few calls as it takes.
 work_keys() {
