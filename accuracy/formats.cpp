@@ -1,4 +1,4 @@
-// The words: fields from their smallest to their largest value in as many steps as there are words.
+// Makes the format words: each field goes from its smallest to its largest value in as many steps as there are words.
 #include "formats.h"
 
 namespace calquo {

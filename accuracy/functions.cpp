@@ -1,4 +1,4 @@
-// The table is put together from the parts of the language.
+// Puts the table together from the rows of numbers, whole numbers and lists.
 #include "functions.h"
 
 #include "rows.h"

@@ -1,4 +1,4 @@
-// How a number is written with all its digits.
+// The format that writes a number with all its digits.
 #pragma once
 
 #include <cstdint>

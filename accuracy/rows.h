@@ -1,4 +1,4 @@
-// Rows in the making: ranges that many functions share, what turns formulas into rows' references, and the rows.
+// What the rows of the table are built with: common ranges, references made of formulas, and the rows of each part.
 #pragma once
 
 #include <string>

@@ -1,3 +1,4 @@
+// The rows of the corpus, each with its bare arithmetic.
 #include "corpus.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Starts a process, feeds it, and reads the times and the memory that the system has counted for it.
 #include "timed_process.h"
 
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-// Recursive descent over the grammar, and the table of the words.
+// The checker: a recursive-descent parser of rich text, and the table of the control words that it allows.
 #include "rich_text_checker.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Escaping and enclosing; see html.h.
+// Escapes text and wraps it in elements; see html.h.
 #include "html.h"
 
 #include <algorithm>

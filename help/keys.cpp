@@ -1,4 +1,4 @@
-// The program's keys and those that a page adds: the system's and the control's own.
+// Joins the keys of the program with those that only a page names: the system's and the control's own.
 #include "keys.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The search among the names and their descriptions.
+// Searches the names and their descriptions for what has been typed.
 #include "assist/completion.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Pieces as the engine reads them, and what a person may be about to write where it would refuse.
+// Cuts a line as the engine would, and still goes on where the engine would refuse it.
 #include "assist/line_pieces.h"
 
 #include "engine/characters.h"

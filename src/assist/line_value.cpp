@@ -1,4 +1,4 @@
-// Results read back from the sheet, and those behind them.
+// Reads the results of the sheet back, and evaluates anew for the digits that they leave out.
 #include "assist/line_value.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Numbers found in lines, and the list of them.
+// Finds the number in each line and lists them.
 #include "assist/lines_sum.h"
 
 #include <algorithm>

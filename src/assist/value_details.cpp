@@ -1,4 +1,4 @@
-// The choice among the forms of a line's value.
+// Chooses which forms of a line's value are shown.
 #include "assist/value_details.h"
 
 #include <optional>

@@ -1,4 +1,4 @@
-// The forms of a value. What reads back is found by trying.
+// Writes a value in other forms, and keeps those that read back as the same value.
 #include "assist/value_forms.h"
 
 #include <array>

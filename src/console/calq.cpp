@@ -1,4 +1,4 @@
-// From the options to lines in and answers out; see calq.h.
+// Reads the options, then answers lines until the input ends; see calq.h.
 #include "console/calq.h"
 
 #include <algorithm>

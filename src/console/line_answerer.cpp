@@ -1,4 +1,4 @@
-// One line at a time; see line_answerer.h.
+// Answers one line at a time; see line_answerer.h.
 #include "console/line_answerer.h"
 
 #include "console/json.h"

@@ -1,4 +1,4 @@
-// The signatures of the forms, and the readers that the window has for them.
+// The first bytes by which the forms are told apart, and the readers that the window uses for them.
 #include "console/sheet_form.h"
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Reading back where the two parts of a complex number stand.
+// Finds the two parts of a written complex number.
 #include "engine/complex_literal.h"
 
 #include "values/errors.h"

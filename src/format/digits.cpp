@@ -1,4 +1,5 @@
-// Three roads to the digits: one exact 128-bit product, a bounded 128-bit approximation, exact long division.
+// Three ways to the digits, the fastest first: one exact 128-bit product, a bounded 128-bit approximation, exact long
+// division.
 #include "format/digits.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The rules, one after the other; see accepted_lines.h.
+// Asks the rules one after the other; see accepted_lines.h.
 #include "hints/accepted_lines.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Angles, and functions that take less than it looks; see angles.h.
+// The rules for functions of angles; see angles.h.
 #include "hints/angles.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Angles, and functions that take less than it looks.
+// Rules for functions of angles, and for functions that take less of the line than its writer thinks.
 #pragma once
 
 #include "hints/rule.h"

@@ -1,4 +1,4 @@
-// Words in, words out; see draft.h.
+// Changes words of a line and writes the line anew; see draft.h.
 #include "hints/draft.h"
 
 #include <algorithm>

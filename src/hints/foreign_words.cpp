@@ -1,4 +1,4 @@
-// The tables; see foreign_words.h.
+// The tables of foreign words; see foreign_words.h.
 #include "hints/foreign_words.h"
 
 #include <algorithm>

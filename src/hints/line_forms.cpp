@@ -1,4 +1,4 @@
-// Lines, or numbers in them, whose form is another thing in the language; see line_forms.h.
+// The rules for misleading forms; see line_forms.h.
 #include "hints/line_forms.h"
 
 #include <algorithm>

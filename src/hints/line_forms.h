@@ -1,4 +1,4 @@
-// Lines, or numbers in them, whose form is another thing in the language.
+// Rules for lines, or numbers in them, that look like one thing and are another in the language.
 #pragma once
 
 #include "hints/rule.h"

@@ -1,4 +1,4 @@
-// Results whose text leaves out what counts; see lost_digits.h.
+// The rules for lost digits; see lost_digits.h.
 #include "hints/lost_digits.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Results whose text leaves out what counts.
+// Rules for results whose text leaves out digits that matter.
 #pragma once
 
 #include "hints/rule.h"

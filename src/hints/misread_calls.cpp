@@ -1,4 +1,4 @@
-// Calls that mean something else than it looks; see misread_calls.h.
+// The rules for misread calls; see misread_calls.h.
 #include "hints/misread_calls.h"
 
 #include <algorithm>

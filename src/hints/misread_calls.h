@@ -1,4 +1,4 @@
-// Calls that mean something else than it looks.
+// Rules for calls that mean something other than their writer thinks.
 #pragma once
 
 #include "hints/rule.h"

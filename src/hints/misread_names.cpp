@@ -1,4 +1,4 @@
-// Names that mean something else than it looks; see misread_names.h.
+// The rules for misread names; see misread_names.h.
 #include "hints/misread_names.h"
 
 #include <algorithm>

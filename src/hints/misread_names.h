@@ -1,4 +1,4 @@
-// Names that mean something else than it looks.
+// Rules for names that mean something other than their writer thinks.
 #pragma once
 
 #include <span>

@@ -1,4 +1,4 @@
-// Lines that want one mark more; see missing_marks.h.
+// Tries the marks that may be missing; see missing_marks.h.
 #include "hints/missing_marks.h"
 
 #include "engine/keywords.h"

@@ -1,4 +1,4 @@
-// Lines that want one mark more: a multiplication sign, a parenthesis.
+// Corrections of lines that lack one mark: a multiplication sign, a parenthesis.
 #pragma once
 
 #include "hints/correction.h"

@@ -1,4 +1,4 @@
-// Percentages that are added or taken away.
+// Corrections of percentages that are added or subtracted.
 #pragma once
 
 #include "hints/rule.h"

@@ -1,4 +1,4 @@
-// Corrections, names and arguments; see refused_lines.h.
+// Tries corrections first, then names, then arguments; see refused_lines.h.
 #include "hints/refused_lines.h"
 
 #include <algorithm>

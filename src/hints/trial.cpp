@@ -1,4 +1,4 @@
-// Evaluating without a trace; see trial.h.
+// Evaluates and leaves no trace in the engine's state; see trial.h.
 #include "hints/trial.h"
 
 #include <string>

@@ -1,4 +1,4 @@
-// Evaluating what a hint proposes, before it is proposed.
+// Evaluates the line that a hint would propose, before the hint proposes it.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// The generator words and what is made of them.
+// The generator's words, and the numbers that are made of them.
 #include "numeric/random.h"
 
 #include <chrono>

@@ -1,4 +1,4 @@
-// The entry is checked while the window is above all others that are not.
+// The entry of the system menu, its check mark, and the window's place above the others.
 #include "shell/always_on_top.h"
 
 #include "widgets/windows_api.h"

@@ -1,4 +1,4 @@
-// The words of a command line.
+// Splits the command line into words.
 #include "shell/command_line.h"
 
 namespace calquo {

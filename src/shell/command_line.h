@@ -1,4 +1,4 @@
-// What the program is started with.
+// The command line of Calquo.exe: the file that it names.
 #pragma once
 
 #include <string>

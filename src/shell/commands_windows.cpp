@@ -1,4 +1,4 @@
-// The commands as a table, and each of them.
+// The table that finds a command by its identifier, and what each command does.
 #include "shell/commands.h"
 
 #include <algorithm>

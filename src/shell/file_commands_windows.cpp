@@ -1,4 +1,4 @@
-// What the file commands do, and whom they ask.
+// The file commands: they ask for a name, read or save, and tell what went wrong.
 #include "shell/file_commands.h"
 
 #include "shell/dropped_files.h"

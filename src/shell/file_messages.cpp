@@ -1,4 +1,4 @@
-// Titles and texts, each in one place.
+// The titles of the dialogs and the texts of the message boxes, each written once.
 #include "shell/file_messages.h"
 
 #include <algorithm>

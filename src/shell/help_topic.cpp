@@ -1,4 +1,4 @@
-// The page with all names leads on from each.
+// Finds the place of a name on the page that lists all names.
 #include "shell/help_topic.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The commands, each as what it asks of the work area and what it tells.
+// The commands of the sheet: what each asks of the work area, and the hint that it shows.
 #include "shell/sheet_actions.h"
 
 #include <utility>

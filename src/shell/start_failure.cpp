@@ -1,4 +1,4 @@
-// The reasons, and what to do about each.
+// The texts for each reason, and what to do about it.
 #include "shell/start_failure.h"
 
 #include "values/program.h"

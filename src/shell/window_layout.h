@@ -1,4 +1,4 @@
-// Where the main window and its parts stand, worked out from sizes alone.
+// Where the main window and its parts stand: calculated from sizes alone, without a window.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// How pasted characters are taken by what stands beside them.
+// How a pasted character is read depends on its neighbours.
 #include "workarea/pasted_text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// From UTF-8 to numbers.
+// Turns UTF-8 into character numbers.
 #include "workarea/rich_text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What waits for the next character: a line end, the cells of a table, half of a pair of surrogates.
+// Holds back what depends on the next character: a line end, the cells of a table, half of a surrogate pair.
 #include "workarea/rich_text_shown.h"
 
 #include "workarea/file_fault.h"

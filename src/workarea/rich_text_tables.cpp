@@ -1,4 +1,4 @@
-// Descriptions of fonts and colours end with a semicolon each.
+// Reads the descriptions of fonts and colours, each of which ends with a semicolon.
 #include "workarea/rich_text_tables.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Shades differ in the lowest three bits of red, green and blue.
+// Colours that look the same differ in the lowest three bits of red, green and blue, so that each finds its way back.
 #include "workarea/shown_colors.h"
 
 #include "workarea/rich_text_writer.h"

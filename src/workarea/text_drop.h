@@ -1,4 +1,4 @@
-// What is dragged over a work area, or brought in by the control itself in whatever way.
+// Data that is dragged over a work area, or that the control pastes by itself: what to do with it.
 #pragma once
 
 struct IRichEditOleCallback;
@@ -12,7 +12,7 @@ class WorkArea;
 /// insertForeignText, files go to its parent, and everything else is refused. `workArea` must outlive its use.
 IRichEditOleCallback* newTextDrop(WorkArea& workArea);
 
-/// Has the work area's control ask by it.
+/// Makes the work area's control ask this interface.
 void takeDroppedTextBy(WorkArea& workArea);
 
 }  // namespace calquo

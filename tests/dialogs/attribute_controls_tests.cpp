@@ -1,4 +1,4 @@
-// The dialogs of the formats without their windows: controls, numbers as they are typed, and what applying does.
+// The dialogs of the formats without their windows: the controls, typed numbers, and what applying them does.
 #include "dialogs/attribute_controls.h"
 
 #include <gtest/gtest.h>

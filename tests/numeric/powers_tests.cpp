@@ -1,4 +1,4 @@
-// Powers, roots and logarithms that have an exact result have it.
+// Powers, roots and logarithms whose exact result is a number give that number.
 #include <gtest/gtest.h>
 
 #include <cmath>

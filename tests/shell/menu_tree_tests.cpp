@@ -1,4 +1,4 @@
-// The menu tree: what stands where, and the rules that labels and identifiers keep.
+// The menu tree: where each entry stands, and the rules that labels and identifiers keep.
 #include "shell/menu_tree.h"
 
 #include <gtest/gtest.h>

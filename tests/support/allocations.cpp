@@ -1,3 +1,4 @@
+// The counting operator new and its deletes.
 #include "support/allocations.h"
 
 #include <atomic>

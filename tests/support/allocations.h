@@ -1,4 +1,4 @@
-// An operator new that keeps a book, for tests of what allocates and of what is left behind.
+// An operator new that counts, for tests of what allocates memory and of what is not freed.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// Long texts out of short ones.
+// Makes long texts of short ones.
 #pragma once
 
 #include <cstddef>

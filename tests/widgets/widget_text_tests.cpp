@@ -1,4 +1,4 @@
-// The two halves of a widget's stored text.
+// A widget's stored text: the label before the bar, the description after it.
 #include "widgets/widget_text.h"
 
 #include <gtest/gtest.h>

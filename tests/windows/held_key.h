@@ -1,4 +1,4 @@
-// A key that is held, as far as the system tells programs.
+// Lets the system report a key as held down.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// Counts by the system's own books, and by that of operator new.
+// Counts by the system's own lists, and by that of operator new.
 #include "resources.h"
 
 #include <cstring>

@@ -1,4 +1,4 @@
-// What the answer to a line costs in memory, and what comes of it when there is none.
+// What memory the answer to a line takes, and what happens when there is none left.
 #include <gtest/gtest.h>
 
 #include "support/allocations.h"

@@ -1,4 +1,4 @@
-// With what people go on from a result, and with what they begin anew.
+// Which typed text goes on from a carried result, and which begins anew.
 #include "workarea/carried_result.h"
 
 #include <gtest/gtest.h>
