@@ -2,8 +2,8 @@
 find_program(MAKENSIS makensis REQUIRED DOC "Makes installers; Debian's package nsis")
 string(TOLOWER ${PROJECT_NAME}-${PROJECT_VERSION}-${CALQUO_WINDOWS} package_name)
 
-set(processors_win64 "Windows of 64 bits on x86-64 processors")
-set(processors_win32 "Windows of 32 or 64 bits on x86 and x86-64 processors")
+set(processors_win64 "Windows 7 or later, of 64 bits, on x86-64 processors")
+set(processors_win32 "Windows 7 or later, of 32 or 64 bits, on x86 and x86-64 processors")
 set(processors "${processors_${CALQUO_WINDOWS}}")
 # What Notepad shows, with the ends of lines that the older ones need.
 set(texts ${CMAKE_CURRENT_BINARY_DIR}/texts)
