@@ -16,6 +16,7 @@
 #include "target.h"
 #include "values/errors.h"
 #include "widgets/tip_layout.h"
+#include "workarea/carried_result.h"
 
 namespace calquo {
 namespace {
@@ -24,6 +25,9 @@ void checkPieces(std::string_view line) {
     for (std::size_t index = 0; index < line.size();) {
         const LinePiece piece = pieceAt(line, index);
         require(piece.begin == index && piece.end > index && piece.end <= line.size(), "a piece leaves its line");
+        const bool isOperand = piece.kind != PieceKind::Other || line[index] == markCharacter(TokenClass::ListOpen);
+        require(!isOperand || beginsOperand(std::wstring(1, static_cast<wchar_t>(line[index]))),
+                "an operand goes on from a carried result");
         index = piece.end;
     }
 }

@@ -1,10 +1,14 @@
 // Any arguments and any standard input of calq: it ends with a status that it has, and each line of a text gets one
-// line, in whatever pieces it comes.
+// line, in whatever pieces it comes and from wherever.
+#include <fcntl.h>
+#include <pty.h>
 #include <sys/mman.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "console/byte_streams.h"
@@ -62,23 +66,27 @@ struct Run {
     std::string messages;
 };
 
-Run runOf(const std::vector<std::string>& arguments, const MemoryFile& input) {
-    const MemoryFile output(""), messages("");
+int statusOf(const std::vector<std::string>& arguments, int input, int output, int messages) {
     std::vector<const char*> all;
     for (const std::string& argument : arguments) {
         all.push_back(argument.c_str());
     }
-    Run run;
-    {
-        const Redirection in(standardInput, input.descriptor());
-        const Redirection out(standardOutput, output.descriptor());
-        const Redirection error(standardError, messages.descriptor());
-        run.status = runCalq(all);
-        std::fflush(stderr);
-    }
-    run.output = output.bytes();
-    run.messages = messages.bytes();
-    return run;
+    const Redirection in(standardInput, input);
+    const Redirection out(standardOutput, output);
+    const Redirection error(standardError, messages);
+    const int status = runCalq(all);
+    std::fflush(stderr);
+    return status;
+}
+
+Run runOf(const std::vector<std::string>& arguments, int input) {
+    const MemoryFile output(""), messages("");
+    const int status = statusOf(arguments, input, output.descriptor(), messages.descriptor());
+    return {status, output.bytes(), messages.bytes()};
+}
+
+Run runOf(const std::vector<std::string>& arguments, const MemoryFile& input) {
+    return runOf(arguments, input.descriptor());
 }
 
 /// Lines end with "\n", "\r\n" or "\r".
@@ -103,6 +111,8 @@ void checkStream(const std::string& bytes) {
     }
     require(answers.status == 0 && answers.messages.empty(), "standard input is not read");
     require(checked.status == (checked.output.empty() ? 0 : 1), "what differs is not told by the status");
+    require(runOf({"--seed=1", "--file", sheet.path()}, MemoryFile("")).output == answers.output,
+            "a file has other answers than standard input");
     require(linesIn(answers.output) == linesIn(records), "not each line gets a record");
     if (sheetFormOf(bytes) == SheetForm::Plain) {
         require(linesIn(answers.output) == linesIn(bytes), "not each line gets a line");
@@ -123,12 +133,63 @@ void checkLongStream(const std::string& bytes) {
     require(runOf({}, MemoryFile(longLine)).output.starts_with("2\n"), "a long line is not read whole");
 }
 
-/// What cannot be opened or read is told, with the status for it.
-void checkUnreadable() {
+/// What cannot be opened or read is told, with the status for it, and what is a file and no line, too.
+void checkNames() {
     for (const char* const name : {".", "/proc/self/fd/none"}) {
         const Run run = runOf({"--check", name}, MemoryFile(""));
         require(run.status == 2 && run.messages.find(name) != std::string::npos, "what cannot be read is not named");
     }
+    const MemoryFile sheet("1");
+    require(runOf({sheet.path()}, MemoryFile("")).messages.find("--file") != std::string::npos,
+            "a file in the place of a line is not told");
+}
+
+/// A pipe that answers at once when nothing is there yet is waited for.
+void checkSlowPipe(const std::string& bytes) {
+    int ends[2];
+    require(::pipe2(ends, O_NONBLOCK) == 0, "no pipe");
+    constexpr std::size_t inAnyPipe = 4096;
+    const std::string some = bytes.substr(0, inAnyPipe);
+    std::thread writer([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        require(::write(ends[1], some.data(), some.size()) == static_cast<ssize_t>(some.size()), "a full pipe");
+        ::close(ends[1]);
+    });
+    const Run run = runOf({"--seed=1"}, ends[0]);
+    writer.join();
+    ::close(ends[0]);
+    require(run.output == runOf({"--seed=1"}, MemoryFile(some)).output, "a slow pipe has other answers");
+}
+
+/// Lines of a person at a terminal: nothing but text comes back.
+void checkTerminal(const std::string& bytes) {
+    int person = -1, terminal = -1;
+    require(::openpty(&person, &terminal, nullptr, nullptr, nullptr) == 0, "no terminal");
+    termios mode{};
+    ::tcgetattr(terminal, &mode);
+    ::cfmakeraw(&mode);
+    mode.c_lflag |= ICANON;  // its line ends with "\n", and control and D at its beginning end the input
+    ::tcsetattr(terminal, TCSANOW, &mode);
+    constexpr std::size_t mostTyped = 200;
+    std::string typed = bytes.substr(0, mostTyped);
+    std::erase_if(typed, [&](char one) { return std::ranges::count(mode.c_cc, static_cast<cc_t>(one)) != 0; });
+    typed += '\n';
+    const bool isText = sheetFormOf(typed) == SheetForm::Plain;
+    typed += '\x04';
+    require(::write(person, typed.data(), typed.size()) == static_cast<ssize_t>(typed.size()), "nobody can type");
+    require(statusOf({"--seed=1"}, terminal, terminal, terminal) == 0 || !isText, "typed lines are not answered");
+    ::fcntl(person, F_SETFL, O_NONBLOCK);
+    std::string shown;
+    char piece[4096];
+    for (ssize_t count = 0; (count = ::read(person, piece, sizeof piece)) > 0;) {
+        shown.append(piece, static_cast<std::size_t>(count));
+    }
+    ::close(terminal);
+    ::close(person);
+    require((shown.starts_with("> ") || !isText) && shown.ends_with('\n'), "nobody is asked for a line");
+    require(std::ranges::none_of(
+                shown, [](char one) { return (one >= 0 && one < ' ' && one != '\n' && one != '\t') || one == '\x7F'; }),
+            "the terminal is sent what controls it");
 }
 
 void check(FuzzInput input) {
@@ -149,7 +210,11 @@ void check(FuzzInput input) {
     checkStream(bytes);
     if (bytes.size() > 10 && bytes.size() % 16 == 0) {
         checkLongStream(bytes);
-        checkUnreadable();
+        checkNames();
+        checkSlowPipe(bytes);
+    }
+    if (bytes.size() % 8 == 1) {
+        checkTerminal(bytes);
     }
 }
 

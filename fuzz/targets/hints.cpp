@@ -3,6 +3,7 @@
 #include "hints/hints.h"
 
 #include "engine/characters.h"
+#include "hints/foreign_words.h"
 #include "numeric/random.h"
 #include "panels/angle_options.h"
 #include "target.h"
@@ -34,16 +35,34 @@ void checkText(const std::string& hint) {
     require(hint.find('\n') == std::string::npos && visibleText(hint) == hint, "a hint that is no line of text");
 }
 
+/// A word that few inputs have, or more blanks than a line with a hint has; mostly nothing.
+std::string furtherText(std::uint8_t choice, std::uint8_t word) {
+    const auto oneOf = [&](const auto& rows) { return ' ' + std::string(rows[word % rows.size()].word); };
+    switch (choice / 16) {
+        case 12:
+            return oneOf(foreignNames());
+        case 13:
+            return oneOf(foreignCalls());
+        case 14:
+            return oneOf(missingWords());
+        case 15:
+            return std::string(16 * std::size_t{word}, ' ');
+        default:
+            return {};
+    }
+}
+
 void check(FuzzInput input) {
     InputReader reader(input);
     const std::uint8_t choice = reader.byte();
     const bool hasComma = choice % 8 == 0;
     setMarks(hasComma ? ',' : '.', hasComma ? '.' : ',');
-    HintSettings settings{defaultFormats[reader.byte() % formatKinds.size()], {}};
+    const std::uint8_t second = reader.byte();
+    HintSettings settings{defaultFormats[second % formatKinds.size()], {}};
     settings.angleUnit = angleUnitOf(static_cast<AngleOption>(choice / 8 % 4));
     const std::uint32_t groups = getField(settings.format, field::groupSize);
     setGroupLengths(groups, groups);
-    const std::string line = lineFrom(reader.text());
+    const std::string line = lineFrom(reader.text()) + furtherText(choice, second);
 
     constexpr std::uint64_t seed = 11;
     seedRandom(seed);

@@ -9,6 +9,7 @@
 #include "values/errors.h"
 #include "widgets/button_face.h"
 #include "widgets/button_press.h"
+#include "widgets/scrolled_view.h"
 #include "widgets/shape_coverage.h"
 
 namespace calquo {
@@ -71,6 +72,63 @@ void checkWindow(InputReader& reader) {
             "the work area is too small to work in");
     const WindowLayout tiny = layOutWindow(extra, parts);
     require(tiny.workArea.width >= 0 && tiny.workArea.height >= 0 && tiny.title.width >= 0, "a negative size");
+}
+
+/// A column that is scrolled in any way, while its heights change.
+void checkScrolling(InputReader& reader) {
+    ScrolledView view;
+    ScrolledHeights heights;
+    while (!reader.isAtEnd()) {
+        const Stretch before = view.thumb();
+        switch (reader.byte() % 5) {
+            case 0:
+                heights = {lengthFrom(reader), static_cast<std::int16_t>(reader.number(2)), lengthFrom(reader) % 100};
+                view.fit(heights);
+                break;
+            case 1: {
+                const int top = lengthFrom(reader);
+                const Stretch part{top, lengthFrom(reader)};
+                view.bringIntoView(part);
+                const bool exists = part.top + part.height <= heights.content && part.height > 0;
+                require(!exists || part.height > heights.view ||
+                            (part.top >= view.offset() &&
+                             part.top + part.height <= view.offset() + std::max(0, heights.view)),
+                        "a part is not brought into view");
+                break;
+            }
+            case 2:
+                view.turnWheel(static_cast<std::int16_t>(reader.number(2)), lengthFrom(reader));
+                break;
+            case 3:
+                view.page(reader.byte() % 2 == 0, lengthFrom(reader));
+                break;
+            default:
+                view.moveThumb(static_cast<std::int16_t>(reader.number(2)));
+                view.moveThumb(before.top);
+        }
+        const int seen = std::max(0, heights.view);
+        require(view.offset() >= 0 && view.offset() <= std::max(0, heights.content - seen),
+                "the view leaves the content");
+        const Stretch thumb = view.thumb();
+        require(thumb.top >= 0 && thumb.height >= 0 && thumb.top + thumb.height <= seen, "the thumb leaves the bar");
+    }
+}
+
+/// A window that nobody sizes goes back to the size that it had, however panels make it grow in between.
+void checkGrowth(InputReader& reader) {
+    WindowGrowth growth;
+    const Size first = sizeFrom(reader);
+    Size present = first;
+    while (!reader.isAtEnd()) {
+        const Size least = sizeFrom(reader);
+        const Size next = growth.sizeFor(present, least);
+        require(next.width >= std::max(least.width, first.width) && next.height >= std::max(least.height, first.height),
+                "a window is smaller than it was, or than its parts");
+        present = next;
+    }
+    require(growth.sizeFor(present, {}) == first, "a window that grew does not go back");
+    const Size byPerson{first.width + 1, first.height};
+    require(growth.sizeFor(byPerson, {}) == byPerson, "a window that a person has sized is sized");
 }
 
 void checkPlace(InputReader& reader) {
@@ -190,7 +248,7 @@ void checkAttributes(InputReader& reader) {
 
 void check(FuzzInput input) {
     InputReader reader(input);
-    switch (reader.byte() % 5) {
+    switch (reader.byte() % 7) {
         case 0:
             return checkWindow(reader);
         case 1:
@@ -199,8 +257,12 @@ void check(FuzzInput input) {
             return checkForm(reader);
         case 3:
             return checkButton(reader);
-        default:
+        case 4:
             return checkAttributes(reader);
+        case 5:
+            return checkScrolling(reader);
+        default:
+            return checkGrowth(reader);
     }
 }
 

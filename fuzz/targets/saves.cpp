@@ -5,6 +5,7 @@
 #include "support/fake_disk.h"
 #include "target.h"
 #include "workarea/disk_file.h"
+#include "workarea/kept_copies.h"
 #include "workarea/known_files.h"
 
 namespace calquo {
@@ -124,7 +125,31 @@ private:
     std::set<std::string> foreign_;  ///< Texts that nobody has seen in the program.
 };
 
-void check(FuzzInput input) { Run(InputReader(input)).run(); }
+/// Copies that take any time each, wanted at any times: writing them has at most a twentieth of the time.
+void checkPace(InputReader reader) {
+    WritingPace pace;
+    WritingPace::Time now{};
+    WritingPace::Clock::duration writing{}, waiting{};
+    bool isFirst = true;
+    while (!reader.isAtEnd()) {
+        const WritingPace::Clock::duration passed(reader.byte()), duration(reader.byte());
+        now += passed;
+        waiting += passed;
+        if (pace.allows(now)) {
+            require(isFirst || waiting >= 20 * writing, "copies are written too often");
+            pace.wrote(now, now + duration);
+            now += duration;
+            writing = duration;
+            waiting = {};
+            isFirst = false;
+        }
+    }
+}
+
+void check(FuzzInput input) {
+    Run(InputReader(input)).run();
+    checkPace(InputReader(input));
+}
 
 const Target target("saves", check);
 
