@@ -90,6 +90,7 @@ private:
             // A replacement that takes the old file away and fails may leave the new text alone, under another name.
             require(disk_.failsHalfWay || std::ranges::includes(contents(), before),
                     "a save that failed has changed a file");
+            makeRoom(name, before);
         }
         std::set<std::string> present;
         for (const auto& [file, content] : disk_.files) {
