@@ -114,21 +114,26 @@ void checkScrolling(InputReader& reader) {
     }
 }
 
-/// A window that nobody sizes goes back to the size that it had, however panels make it grow in between.
+/// A window that nobody sizes goes back to where it was, however panels make it grow in between.
 void checkGrowth(InputReader& reader) {
+    constexpr Rectangle most{0, 0, 10000, 10000};
     WindowGrowth growth;
-    const Size first = sizeFrom(reader);
-    Size present = first;
+    const int left = lengthFrom(reader);
+    const int top = lengthFrom(reader);
+    const Size size = sizeFrom(reader);
+    const Rectangle first{left, top, size.width, size.height};
+    Rectangle present = first;
     while (!reader.isAtEnd()) {
         const Size least = sizeFrom(reader);
-        const Size next = growth.sizeFor(present, least);
-        require(next.width >= std::max(least.width, first.width) && next.height >= std::max(least.height, first.height),
+        present = growth.rectangleFor(present, least, most);
+        require(present.width >= std::max(least.width, first.width) &&
+                    present.height >= std::max(least.height, first.height),
                 "a window is smaller than it was, or than its parts");
-        present = next;
+        require(!isWithin(first, most) || isWithin(present, most), "a window leaves the screen");
     }
-    require(growth.sizeFor(present, {}) == first, "a window that grew does not go back");
-    const Size byPerson{first.width + 1, first.height};
-    require(growth.sizeFor(byPerson, {}) == byPerson, "a window that a person has sized is sized");
+    require(growth.rectangleFor(present, {}, most) == first, "a window that grew does not go back");
+    const Rectangle byPerson{left, top, first.width + 1, first.height};
+    require(growth.rectangleFor(byPerson, {}, most) == byPerson, "a window that a person has sized is sized");
 }
 
 void checkPlace(InputReader& reader) {
