@@ -48,7 +48,7 @@ std::int32_t ShownColors::Shades::ofFile(std::int32_t shade) const {
 }
 
 ShownColors::ShownColors(const Palette& palette)
-    : isChanged_(palette.sheet != Palette{}.sheet || palette.result != Palette{}.result),
+    : areChanged_(palette.sheet != Palette{}.sheet || palette.result != Palette{}.result),
       normal_(palette.sheet.ink),
       result_(palette.result),
       paper_(palette.sheet.ground) {
@@ -57,7 +57,7 @@ ShownColors::ShownColors(const Palette& palette)
 }
 
 ColorChange ShownColors::toScreen() {
-    if (!isChanged_) {
+    if (!areChanged_) {
         return {};
     }
     // Where no colour is said, the control takes the system's.
@@ -66,7 +66,7 @@ ColorChange ShownColors::toScreen() {
 }
 
 ColorChange ShownColors::toFile() const {
-    if (!isChanged_) {
+    if (!areChanged_) {
         return {};
     }
     return {[this](std::int32_t color) { return characters_.ofFile(color); },

@@ -16,6 +16,8 @@ class ShownColors {
 public:
     explicit ShownColors(const Palette& palette);
 
+    /// Whether any is another on the screen than in files.
+    bool areChanged() const { return areChanged_; }
     Color normal() const { return normal_; }
     Color result() const { return result_; }
 
@@ -37,7 +39,7 @@ private:
         std::map<std::int32_t, std::int32_t> ofFile_;
     };
 
-    bool isChanged_;
+    bool areChanged_;
     Color normal_;
     Color result_;
     Color paper_;

@@ -117,6 +117,10 @@ public:
     void endDragging() { isDragging_ = false; }
     bool isDragging() const { return isDragging_; }
 
+    /// Copies the selection, in the colours of files, or cuts it out.
+    void copy();
+    void cut();
+
     /// Empties the work area, as one step for undo.
     void clear();
 
@@ -162,6 +166,7 @@ private:
     StyledRun normalRun(std::wstring text) const;
     std::string shownIn(ShownColors& colors, std::string_view richText, std::uint64_t mostCost) const;
 
+    bool copyInColorsOfFiles();
     void evaluateIntoSelection();
     void insertPlainText(const ForeignText& text);
     bool insertRichText(const ForeignText& text);

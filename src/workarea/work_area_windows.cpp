@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "engine/characters.h"
+#include "widgets/clipboard.h"
 #include "widgets/system_colors.h"
 #include "widgets/wide_text.h"
 #include "widgets/windows_api.h"
@@ -119,6 +120,9 @@ const WorkArea::KeyRow WorkArea::keyRows[] = {
     // Left to itself, the control makes line breaks of several kinds, by the modifier held.
     {VK_RETURN, Modifiers::Some, &WorkArea::insertLineEnd},
     {VK_F9, Modifiers::None, &WorkArea::evaluateIntoSelection},
+    {VK_INSERT, Modifiers::Control, &WorkArea::copy},
+    {'X', Modifiers::Control, &WorkArea::cut},
+    {VK_DELETE, Modifiers::Shift, &WorkArea::cut},
     {'V', Modifiers::Control, &WorkArea::paste},
     {VK_INSERT, Modifiers::Shift, &WorkArea::paste},
     {'V', Modifiers::ControlShift, &WorkArea::pasteWithLooks},
@@ -150,8 +154,7 @@ std::string WorkArea::shownIn(ShownColors& colors, std::string_view richText, st
 
 std::string WorkArea::sheetAsRichText() const {
     std::string text = richTextToWrite(contentAsRichText());
-    const ColorChange colors = colors_.toFile();
-    return colors.ofCharacters ? cleanRichText(text, unlimitedCost, LastLineEnd::Kept, colors) : text;
+    return colors_.areChanged() ? cleanRichText(text, unlimitedCost, LastLineEnd::Kept, colors_.toFile()) : text;
 }
 
 void WorkArea::takeColors() {
@@ -430,6 +433,35 @@ void WorkArea::paste() {
 
 void WorkArea::pasteWithLooks() {
     insertForeignText([this] { return clipboardText(handle(), ForeignForm::Rich); }, ForeignForm::Rich);
+}
+
+void WorkArea::copy() {
+    if (colors_.areChanged()) {
+        copyInColorsOfFiles();
+    } else {
+        TextArea::copy();
+    }
+}
+
+void WorkArea::cut() {
+    if (!colors_.areChanged()) {
+        TextArea::cut();
+    } else if (copyInColorsOfFiles()) {
+        deleteSelection();
+    }
+}
+
+bool WorkArea::copyInColorsOfFiles() {
+    if (!hasSelection()) {
+        return false;
+    }
+    const std::string rich =
+        cleanRichText(richTextToWrite(richTextIn(selection())), unlimitedCost, LastLineEnd::Kept, colors_.toFile());
+    std::wstring plain;
+    for (const wchar_t unit : charactersIn(selection())) {
+        plain += unit == L'\r' ? L"\r\n" : std::wstring(1, unit);
+    }
+    return copyToClipboard(handle(), plain, rich);
 }
 
 void WorkArea::clear() {

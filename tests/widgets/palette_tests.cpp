@@ -12,7 +12,7 @@ constexpr Color yellow{255, 255, 0}, green{0, 255, 0}, blue{0, 0, 255}, cyan{26,
 constexpr Color night{45, 50, 54}, sand{255, 250, 239}, dim{60, 60, 60};
 
 struct Scheme {
-    const char* name;
+    const char* name = "";
     SystemColors colors;
     Color result;
     InkAndGround title, hint;

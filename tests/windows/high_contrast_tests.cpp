@@ -8,6 +8,7 @@
 
 #include "program.h"
 #include "widgets/toolkit.h"
+#include "workarea/foreign_text.h"
 #include "workarea/work_area.h"
 
 namespace calquo {
@@ -118,8 +119,15 @@ TEST(HighContrast, ASheetKeepsItsCaretItsStateAndItsColorsInFiles) {
     const std::string more = area.sheetAsRichText();
     EXPECT_NE(more.find("\\red0\\green0\\blue139;"), std::string::npos) << more;
     EXPECT_EQ(more.find("\\red255\\green255\\blue0;"), std::string::npos) << more;
+    area.select({0, 7});
+    area.cut();
+    const std::string onClipboard = clipboardText(area.handle(), ForeignForm::Rich).rich;
+    EXPECT_NE(onClipboard.find("\\red0\\green0\\blue139;"), std::string::npos) << onClipboard;
+    EXPECT_EQ(onClipboard.find("\\red255\\green255\\blue0;"), std::string::npos) << onClipboard;
+    area.pasteWithLooks();
     on.reset();
     Program::serveMessages();
+    EXPECT_EQ(sheet.colorAt(6), RGB(0, 0, 139));
     EXPECT_EQ(sheet.colorAt(14), RGB(0, 0, 139));
     EXPECT_EQ(sheet.program.text(), L"2+3 = 5\n\n5*2 = 10\n\n10");
     area.select({7, static_cast<std::int32_t>(sheet.program.text().size())});

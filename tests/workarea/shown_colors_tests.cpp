@@ -25,7 +25,7 @@ Palette schemeOf(Color ground, Color text, Color links) {
 
 TEST(ShownColors, AreTheFilesOwnUnlessContrastIsHigh) {
     ShownColors colors{Palette{}};
-    EXPECT_FALSE(colors.toScreen().ofCharacters || colors.toFile().ofCharacters);
+    EXPECT_FALSE(colors.areChanged() || colors.toScreen().ofCharacters || colors.toFile().ofCharacters);
     EXPECT_EQ(colors.normal(), black);
     EXPECT_EQ(colors.result(), (Color{0, 0, 139}));
 }
