@@ -34,6 +34,12 @@ wait_until() {
 # configured FOLDER NAME: what CMake keeps under a name in a build folder.
 configured() { sed -n "s/^$2:[A-Z]*=//p" "$1/CMakeCache.txt"; }
 
+# What several builds compile in the same way, like the writer of the help, is compiled once.
+share_compilations() {
+    export CCACHE_DIR=${CCACHE_DIR-$build/ccache} CCACHE_BASEDIR=$project CCACHE_NOHASHDIR=1
+    export CCACHE_SLOPPINESS=pch_defines,time_macros CMAKE_CXX_COMPILER_LAUNCHER=ccache
+}
+
 # --- Wine -----------------------------------------------------------------------------------------------------------
 
 # What the name of a prefix ends with: nothing, or that of a copy.
