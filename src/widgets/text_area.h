@@ -2,7 +2,9 @@
 // code page is.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,6 +67,7 @@ public:
     static int lineHeight();
     /// How far the text is scrolled.
     Point scrolled() const;
+    void scrollTo(Point place);
 
     /// The characters of a range, line ends as "\r".
     std::wstring charactersIn(TextRange range) const;
@@ -105,6 +108,11 @@ public:
     /// all as it was, when the control does not take the text.
     bool changeLooks(CharacterStyle normal, Color paper, std::string_view text);
 
+    /// Puts a rich text, which may be as long as it likes, in place of the whole text, selects a range of it and shows
+    /// as much of it as was shown before. One step for undo, as quick one way as the other: the control with the old
+    /// text makes room for another. False, with the text as it was, when a control does not take it.
+    bool exchangeContent(std::string_view richText, TextRange selected);
+
     bool canUndo() const;
     bool canRedo() const;
     /// Whether the clipboard holds something that could be pasted.
@@ -130,6 +138,8 @@ protected:
     const std::wstring& fontName() const { return fontName_; }
     static int fontHalfPoints();
 
+    /// Another control shows the text from now on; what was said to the first one is to be said again.
+    virtual void onOtherControl() {}
     /// Keeps a margin around the text.
     void onPlaced() override;
     bool onKey(const KeyEvent& event) override;
@@ -137,16 +147,35 @@ protected:
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
 
 private:
+    /// A control that takes the place of the shown one in one step, as long as that shows the text of this hash.
+    struct HiddenControl {
+        WindowOwner window;
+        std::size_t shownText;
+    };
+    /// In the order in which they came to be hidden.
+    using HiddenControls = std::vector<HiddenControl>;
+
     /// The control's library knows the one control under two names: as "RichEdit20A" it speaks the code page, and would
     /// make an 8 of an infinity sign; as "RichEdit20W" it speaks UTF-16. Here the first name stands for the second
     /// behaviour.
     static const WidgetClass& widgetClass();
 
+    void setUp();
     void chooseLook();
+    bool fill(std::string_view richText);
+    WindowOwner giveUpControl();
+    void makeHiddenControlLike(WindowHandle other);
+    void showInPlaceOf(WindowHandle other);
+    std::size_t hashOfText() const;
+    bool isNext(const HiddenControls& controls) const;
+    void takeNext(HiddenControls& from, HiddenControls& to);
+    void forgetOldest();
+    std::optional<std::intptr_t> stepBetweenControls(std::uint32_t message);
     bool typeInNormalStyle(wchar_t character);
     void makeEmptyParagraphPlain(std::int32_t caret);
     /// `begin` comes before all runs.
     std::string richText(const std::vector<StyledRun>& runs, std::string begin = {}) const;
+    bool streamIn(std::string_view bytes, std::uint32_t format);
     bool streamIntoSelection(std::string_view bytes, std::uint32_t format);
 
     std::string streamOut(std::uint32_t format) const;
@@ -156,6 +185,7 @@ private:
     CharacterStyle normal_;
     Color paper_;
     std::wstring fontName_;
+    HiddenControls earlier_, later_;
     std::uint32_t revision_ = 0;
     bool hasGoneBack_ = false;  ///< By undo or redo, which the control's modified flag does not show.
 };

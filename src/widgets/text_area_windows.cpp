@@ -207,9 +207,13 @@ TextArea::TextArea(WindowHandle parent, std::uint16_t command, CharacterStyle no
       normal_(normal),
       paper_(paper),
       fontName_(installedFont(fontNames)) {
+    setUp();
+}
+
+void TextArea::setUp() {
     chooseLook();
     SendMessageW(handle(), EM_EXLIMITTEXT, 0, largestText);
-    forgetSteps();
+    SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0);
     SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
 }
 
@@ -233,8 +237,16 @@ bool TextArea::onKey(const KeyEvent& event) {
     if (isFormatKey(event)) {
         return true;
     }
-    const bool undoes = event.key == 'Z' || event.key == 'Y' || event.key == VK_BACK;
-    hasGoneBack_ = hasGoneBack_ || (undoes && (event.shift || event.control || event.alt));
+    if (!event.shift && event.control != event.alt && !event.released) {
+        if (event.key == (event.control ? 'Z' : VK_BACK)) {
+            undo();
+            return true;
+        }
+        if (event.control && event.key == 'Y') {
+            redo();
+            return true;
+        }
+    }
     return menuKey;
 }
 
@@ -252,8 +264,9 @@ bool TextArea::onCharacter(wchar_t character) {
 }
 
 std::optional<std::intptr_t> TextArea::onSimpleMessage(std::uint32_t message) {
-    hasGoneBack_ = hasGoneBack_ || message == WM_UNDO || message == EM_UNDO || message == EM_REDO;
-    return std::nullopt;
+    const bool goes = message == WM_UNDO || message == EM_UNDO || message == EM_REDO;
+    hasGoneBack_ = hasGoneBack_ || goes;
+    return goes ? stepBetweenControls(message) : std::nullopt;
 }
 
 void TextArea::chooseLook() {
@@ -344,6 +357,11 @@ Point TextArea::scrolled() const {
     POINT place{};
     SendMessageW(handle(), EM_GETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
     return {static_cast<int>(place.x), static_cast<int>(place.y)};
+}
+
+void TextArea::scrollTo(Point place) {
+    POINT wanted{place.left, place.top};
+    SendMessageW(handle(), EM_SETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&wanted));
 }
 
 Paragraph TextArea::paragraphAt(std::int32_t position) const {
@@ -437,11 +455,23 @@ std::string TextArea::richText(const std::vector<StyledRun>& runs, std::string b
     return head + "}" + body + "}";
 }
 
-bool TextArea::streamIntoSelection(std::string_view bytes, std::uint32_t format) {
+bool TextArea::streamIn(std::string_view bytes, std::uint32_t format) {
     const EarlyScrollBar scrollBar(handle(), bytes.size());
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&bytes), 0, readPiece};
-    SendMessageW(handle(), EM_STREAMIN, format | SFF_SELECTION, reinterpret_cast<LPARAM>(&stream));
+    SendMessageW(handle(), EM_STREAMIN, format, reinterpret_cast<LPARAM>(&stream));
     return stream.dwError == 0;
+}
+
+bool TextArea::streamIntoSelection(std::string_view bytes, std::uint32_t format) {
+    return streamIn(bytes, format | SFF_SELECTION);
+}
+
+/// Puts a rich text into a control that is empty, without a step for undo.
+bool TextArea::fill(std::string_view richText) {
+    format(handle(), SCF_SELECTION, formatOf(normal_, fontName_));
+    const bool taken = streamIn(richText, SF_RTF);
+    SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0);
+    return taken;
 }
 
 // --- The whole text -------------------------------------------------------------------------------------------------
@@ -551,8 +581,6 @@ bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view 
 
 // --- Editing --------------------------------------------------------------------------------------------------------
 
-bool TextArea::canUndo() const { return SendMessageW(handle(), EM_CANUNDO, 0, 0) != 0; }
-bool TextArea::canRedo() const { return SendMessageW(handle(), EM_CANREDO, 0, 0) != 0; }
 bool TextArea::canPaste() const { return SendMessageW(handle(), EM_CANPASTE, 0, 0) != 0; }
 void TextArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
 void TextArea::redo() { SendMessageW(handle(), EM_REDO, 0, 0); }
@@ -577,7 +605,5 @@ Point TextArea::pointBelowCaret() const {
     ClientToScreen(handle(), &point);
     return {point.x, point.y};
 }
-
-void TextArea::forgetSteps() { SendMessageW(handle(), EM_EMPTYUNDOBUFFER, 0, 0); }
 
 }  // namespace calquo

@@ -95,6 +95,9 @@ protected:
     /// Creates the window; raises what its creation throws, or InternalFault when the system refuses.
     void create(const Creation& creation);
     void destroy();
+    /// Lets go of the window, which its class alone serves from now on, and takes over such a window in its place.
+    WindowOwner detach();
+    void attach(WindowOwner window);
     /// Lets go of the window, which lives on without a handle here until its owner's end.
     WindowOwner release() { return WindowOwner(window_.release()); }
 

@@ -1,6 +1,8 @@
 // The window procedure, and the one place where the parameters of messages are taken apart.
 #include "widgets/window.h"
 
+#include <utility>
+
 #include "values/errors.h"
 #include "widgets/kept_exception.h"
 #include "widgets/windows_api.h"
@@ -114,6 +116,19 @@ void Window::destroy() {
     if (window_) {
         destroyWindow(handle());
     }
+}
+
+WindowOwner Window::detach() {
+    const auto procedure = systemProcedure_ == nullptr ? DefWindowProcW : reinterpret_cast<WNDPROC>(systemProcedure_);
+    SetWindowLongPtrW(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
+    return WindowOwner(window_.release());
+}
+
+void Window::attach(WindowOwner window) {
+    window_ = std::move(window);
+    SetWindowLongPtrW(handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrW(handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure::receive));
 }
 
 Window* Window::of(WindowHandle window) {

@@ -91,7 +91,7 @@ std::string hintAbout(const Reevaluation& outcome) {
         hint += ", and " + counted(outcome.failed, "line has an error and stays", "lines have an error and stay") +
                 " as written";
     }
-    return hint + '.';
+    return hint + (outcome.isWritten ? "." : ". Nothing is changed: the sheet is too long.");
 }
 
 }  // namespace calquo

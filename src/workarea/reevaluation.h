@@ -21,6 +21,7 @@ struct Reevaluation {
     std::vector<ResultEdit> edits;  ///< For each result that differs from what stands there, in the order of the text.
     std::size_t evaluated = 0;      ///< Lines that have a result, those that fail included.
     std::size_t failed = 0;
+    bool isWritten = true;  ///< False where the text is too long for new results.
 };
 
 /// Evaluates each line of `text` that has an answer of the program after its "=", under `format`. The answer alone is

@@ -15,6 +15,7 @@
 #include "workarea/foreign_text.h"
 #include "workarea/record.h"
 #include "workarea/reevaluation.h"
+#include "workarea/rich_text_filter.h"
 #include "workarea/shown_colors.h"
 
 namespace calquo {
@@ -150,6 +151,7 @@ protected:
     bool onFilesDropped(std::uintptr_t drop) override;
     bool onContextMenu(std::optional<Point> point) override;
     std::optional<std::intptr_t> onSimpleMessage(std::uint32_t message) override;
+    void onOtherControl() override;
 
 private:
     /// A result that has been carried on, and where it stands.
@@ -175,8 +177,9 @@ private:
 
     /// Puts the caret at the start of the next line, which is made where there is none.
     void goToLineAfter(const Paragraph& line);
-    void writeResults(const std::vector<ResultEdit>& edits);
-    bool writeAtOnce(const std::vector<ResultEdit>& edits);
+    bool writeResults(const std::vector<ResultEdit>& edits);
+    std::optional<std::string> richTextWith(std::vector<ResultEdit> edits, TextRange range, std::string_view richText,
+                                            LastLineEnd lastLineEnd) const;
     void apply(const Paragraph& line, const LineEdit& edit);
 
     ShownColors colors_;

@@ -19,7 +19,6 @@
 #include "workarea/plain_text.h"
 #include "workarea/result_edits.h"
 #include "workarea/rich_text.h"
-#include "workarea/rich_text_filter.h"
 #include "workarea/rich_text_plain.h"
 #include "workarea/text_cost.h"
 #include "workarea/text_drop.h"
@@ -297,43 +296,53 @@ void WorkArea::evaluateIntoSelection() {
     evaluate();
 }
 
+void WorkArea::onOtherControl() { takeDroppedTextBy(*this); }
+
 Reevaluation WorkArea::evaluateAll() {
     Reevaluation outcome = reevaluate(languageText(characters()), format_());
-    if (!outcome.edits.empty()) {
-        writeResults(outcome.edits);
-    }
+    outcome.isWritten = outcome.edits.empty() || writeResults(outcome.edits);
     return outcome;
 }
 
-void WorkArea::writeResults(const std::vector<ResultEdit>& edits) {
-    const auto caret = static_cast<std::int32_t>(positionAfter(edits, static_cast<std::size_t>(selection().end)));
-    if (edits.size() == 1 || !writeAtOnce(edits)) {
-        // From the last one on, whose place the others do not change.
-        for (const ResultEdit& edit : edits | std::views::reverse) {
-            const TextRange range = textRange(0, edit.begin, edit.end);
-            replace(range, {runOf({edit.result, TextStyle::Result})}, range.begin);
-        }
+/// Writes all results as one step for undo, in time in proportion to the text.
+bool WorkArea::writeResults(const std::vector<ResultEdit>& edits) {
+    const auto placeAfter = [&](std::int32_t place) {
+        return static_cast<std::int32_t>(positionAfter(edits, static_cast<std::size_t>(place)));
+    };
+    const TextRange selected{placeAfter(selection().begin), placeAfter(selection().end)};
+    // From here on Wine's control takes longer to replace the lines in between than to read all of the text.
+    constexpr std::size_t manyCharacters = 4000;
+    const TextRange changed = textRange(0, edits.front().begin, edits.back().end);
+    if (edits.back().end - edits.front().begin < manyCharacters) {
+        const Point place = scrolled();
+        const auto text = richTextWith(edits, changed, richTextIn(changed), LastLineEnd::Dropped);
+        const bool isTaken = text && replaceByRichText(changed, *text);
+        select(isTaken ? selected : selection());
+        scrollTo(place);
+        return isTaken;
     }
-    select({caret, caret});
+    const TextRange all{0, static_cast<std::int32_t>(characters().size())};
+    const auto text = richTextWith(edits, all, contentAsRichText(), LastLineEnd::Kept);
+    return text && exchangeContent(*text, selected);
 }
 
-bool WorkArea::writeAtOnce(const std::vector<ResultEdit>& edits) {
-    const std::size_t begin = edits.front().begin, end = edits.back().end;
-    std::vector<ResultEdit> inside = edits;
-    for (ResultEdit& edit : inside) {
-        edit.begin -= begin;
-        edit.end -= begin;
+/// A range with new results, from what the control writes of it; nothing where it is too long.
+std::optional<std::string> WorkArea::richTextWith(std::vector<ResultEdit> edits, TextRange range,
+                                                  std::string_view richText, LastLineEnd lastLineEnd) const {
+    for (ResultEdit& edit : edits) {
+        edit.begin = offsetIn(range.begin, static_cast<std::int32_t>(edit.begin));
+        edit.end = offsetIn(range.begin, static_cast<std::int32_t>(edit.end));
     }
-    const TextRange range = textRange(0, begin, end);
     const Color color = colors_.result();
     const ResultLook look{languageText(fontName()),       fontHalfPoints(), color.red, color.green, color.blue,
                           styleOf(TextStyle::Result).bold};
     try {
-        const std::string old = cleanRichText(richTextToWrite(richTextIn(range)), mostTextCost(), LastLineEnd::Dropped);
-        const auto text = withResults(old, end - begin, inside, look);
-        return text && replaceByRichText(range, *text);
+        // For a while there are two such texts.
+        const std::string old = cleanRichText(richTextToWrite(richText), mostTextCost() / 2, lastLineEnd);
+        const std::size_t length = offsetIn(range.begin, range.end) + (lastLineEnd == LastLineEnd::Kept ? 1 : 0);
+        return withResults(old, length, edits, look);
     } catch (const FileFault&) {
-        return false;  // nothing that a control writes is known to get here
+        return std::nullopt;
     }
 }
 

@@ -252,6 +252,65 @@ TEST(WorkArea, AnEmptyLineIsPlainAgainWhenItIsTypedIn) {
     EXPECT_EQ(alignmentAt(fixture, 1), PFA_LEFT);
 }
 
+TEST(WorkArea, ManyNewResultsAreOneStepAmongTheOthers) {
+    constexpr std::size_t lines = 500, lineLength = 9;
+    std::wstring wrong, right = L"7\n";
+    for (std::size_t line = 0; line < lines; ++line) {
+        wrong += line == 0 ? L"2+3 = 99" : L"\n2+3 = 99";
+        right += L"2+3 = 5\n";
+    }
+    WorkAreaFixture fixture;
+    const HWND first = fixture.control();
+    fixture.workArea().replaceContentByPlainText(wrong);
+    // Italics in the second line, and a step of one's own, in a line that has no result.
+    fixture.select(lineLength, lineLength + 1);
+    CHARFORMAT2W italic{};
+    italic.cbSize = sizeof italic;
+    italic.dwMask = CFM_ITALIC;
+    italic.dwEffects = CFE_ITALIC;
+    SendMessageW(fixture.control(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&italic));
+    fixture.select(0, 0);
+    fixture.type("7\n");
+    const std::wstring typed = fixture.text();
+    fixture.select(2 + 3 * lineLength, 2 + 4 * lineLength + 1);
+    fixture.workArea().evaluateAll();
+    right.pop_back();
+    EXPECT_TRUE(fixture.text() == right);
+    EXPECT_EQ(GetFocus(), fixture.control());
+    const TextRange selected = fixture.workArea().selection();
+    EXPECT_EQ(selected.begin, 2 + 3 * 8);
+    EXPECT_EQ(selected.end, 2 + 4 * 8 + 1);
+    const auto isItalic = [&](std::size_t place) {
+        fixture.select(place, place + 1);
+        CHARFORMAT2W format{};
+        format.cbSize = sizeof format;
+        SendMessageW(fixture.control(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+        return (format.dwEffects & CFE_ITALIC) != 0;
+    };
+    EXPECT_TRUE(isItalic(2 + 8));
+    EXPECT_FALSE(isItalic(2 + 8 + 6));
+    EXPECT_FALSE(fixture.workArea().canRedo());
+    fixture.type("8");
+    const std::wstring after = fixture.text();
+    fixture.press('Z', VK_CONTROL);
+    EXPECT_TRUE(fixture.text() == right);
+    fixture.press('Z', VK_CONTROL);
+    EXPECT_TRUE(fixture.text() == typed);
+    EXPECT_EQ(GetFocus(), first);
+    fixture.undo();
+    EXPECT_FALSE(fixture.text() == typed);
+    for (const std::wstring& text : {typed, right, after}) {
+        fixture.press('Y', VK_CONTROL);
+        EXPECT_TRUE(fixture.text() == text);
+    }
+    EXPECT_FALSE(fixture.workArea().canRedo());
+    // A change makes another course of it.
+    fixture.press('Z', VK_CONTROL);
+    fixture.press('Z', VK_CONTROL);
+    fixture.type("9");
+    EXPECT_FALSE(fixture.workArea().canRedo());
+}
+
 TEST(WorkArea, AResultThatIsTypedOverBecomesNormal) {
     WorkAreaFixture fixture;
     fixture.type("2+3");
