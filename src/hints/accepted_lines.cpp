@@ -1,8 +1,9 @@
 // Asks the rules one after the other; see accepted_lines.h.
 #include "hints/accepted_lines.h"
 
-#include <algorithm>
+#include <bit>
 
+#include "hints/first_look.h"
 #include "hints/rules.h"
 #include "hints/trial.h"
 
@@ -10,9 +11,13 @@ namespace calquo {
 namespace {
 
 const Rule* firstThatFinds(const Situation& situation, Findings& findings) {
-    const auto rules = hintRules();
-    const auto rule = std::ranges::find_if(rules, [&](const Rule& row) { return row.finds(situation, findings); });
-    return rule == rules.end() ? nullptr : &*rule;
+    for (RuleSet rules = rulesToAsk(situation); rules != 0; rules &= rules - 1) {
+        const Rule& rule = hintRules()[static_cast<std::size_t>(std::countr_zero(rules))];
+        if (rule.finds(situation, findings)) {
+            return &rule;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -34,8 +39,7 @@ std::string asMeant(std::string line, const HintSettings& settings) {
     constexpr int mostSteps = 4;
     for (int step = 0; step < mostSteps; ++step) {
         Answer answer;
-        Words words;
-        splitIntoWords(line, words);
+        const WordsOfLine words(line);
         Findings findings;
         if (!evaluates(line, settings.format, answer)) {
             break;

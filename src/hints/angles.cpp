@@ -52,7 +52,7 @@ std::string_view meantUnit(const HintSettings& settings) {
 }  // namespace
 
 bool findsRadiansForDegrees(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     if (situation.settings.angleUnit == "rad") {
         return false;
     }
@@ -84,7 +84,7 @@ bool findsRadiansForDegrees(const Situation& situation, Findings& findings) {
 }
 
 bool findsAngleInRadians(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const std::string_view unit = meantUnit(situation.settings);
     if (unit == "rad" || words.size() < 2 || !isOneOf(toAngles, words[0]) || situation.answer->value.im != 0) {
         return false;
@@ -102,9 +102,9 @@ bool findsAngleInRadians(const Situation& situation, Findings& findings) {
 }
 
 bool findsShortArgument(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 2 < words.size(); ++i) {
-        const bool takesOne = words[i].isName() && classOf(lookup(words[i].text)) == ArgumentClass::One;
+        const bool takesOne = words[i].keyword != 0 && classOf(words[i].keyword) == ArgumentClass::One;
         const Word& argument = words[i + 1];
         if (!takesOne || !(argument.isNumber() || isNumberName(argument))) {
             continue;

@@ -56,7 +56,7 @@ bool differs(const Value& a, const Value& b) {
 }  // namespace
 
 bool findsLongTarget(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 2 < words.size(); ++i) {
         if (!words[i].is("->") || !isNumberName(words[i + 1])) {
             continue;
@@ -71,7 +71,7 @@ bool findsLongTarget(const Situation& situation, Findings& findings) {
 }
 
 bool findsConvertedPart(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const auto isSum = [](const Word& word) { return word.is("+") || word.is("-"); };
     if (!hasArrow(words) || std::ranges::none_of(words, isSum) || std::ranges::any_of(words, isScale)) {
         return false;
@@ -95,7 +95,7 @@ bool findsConvertedPart(const Situation& situation, Findings& findings) {
 }
 
 bool findsDivisorSideBySide(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 1; i + 2 < words.size(); ++i) {
         if (!words[i].is("/") || !words[i + 1].isNumber()) {
             continue;
@@ -131,7 +131,7 @@ bool findsDivisorSideBySide(const Situation& situation, Findings& findings) {
 }
 
 bool findsDegreeOfScale(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const auto isDegree = [](const Word& word) { return isNamed(word, "deg") || isNamed(word, "degree"); };
     if (std::ranges::none_of(words, isDegree)) {
         return false;
@@ -151,7 +151,7 @@ bool findsDegreeOfScale(const Situation& situation, Findings& findings) {
 }
 
 bool findsLoneTemperature(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i < words.size(); ++i) {
         const bool isAtArrow = (i > 0 && words[i - 1].is("->")) || (i + 1 < words.size() && words[i + 1].is("->"));
         if (!isLoneScale(words[i]) || isAtArrow || isNamed(words[0], "convert")) {

@@ -1,9 +1,7 @@
 // The text of the first rule that finds something, or what is said about a refused line.
 #include "hints/hints.h"
 
-#include <array>
 #include <cstddef>
-#include <memory_resource>
 
 #include "hints/accepted_lines.h"
 #include "hints/refused_lines.h"
@@ -22,16 +20,11 @@ std::string hintFor(std::string_view line, const Answer* answer, const HintSetti
     if (line.size() > longestLineWithHint) {
         return {};
     }
-    // The words of short lines stay on the stack.
-    constexpr std::size_t wordsOnStack = 64;
-    alignas(Word) std::array<std::byte, wordsOnStack * sizeof(Word)> storage;
-    std::pmr::monotonic_buffer_resource memory(storage.data(), storage.size());
-    Words words(&memory);
-    words.reserve(wordsOnStack / 2);
     const std::string_view expression = expressionOf(line);
-    splitIntoWords(expression, words);
+    const WordsOfLine words(expression);
     const Situation situation{line, expression, words, answer, settings};
-    return visibleText(answer != nullptr && answer->failed ? hintForRefused(situation) : hintForAccepted(situation));
+    std::string hint = answer != nullptr && answer->failed ? hintForRefused(situation) : hintForAccepted(situation);
+    return hint.empty() ? hint : visibleText(hint);
 }
 
 }  // namespace calquo

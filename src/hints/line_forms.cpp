@@ -47,7 +47,7 @@ bool findsVariable(const Situation& situation, Findings& findings) {
 
 bool findsUnitAfterEquals(const Situation& situation, Findings& findings) {
     const std::size_t equals = situation.line.find('=');
-    if (equals == std::string_view::npos || situation.words.empty()) {
+    if (equals == std::string_view::npos || situation.words().empty()) {
         return false;
     }
     std::pmr::vector<Word> after;
@@ -63,6 +63,9 @@ bool findsUnitAfterEquals(const Situation& situation, Findings& findings) {
 bool findsExchangedMarks(const Situation& situation, Findings& findings) {
     const char decimal = markCharacter(TokenClass::DecimalMark);
     const char group = markCharacter(TokenClass::GroupMark);
+    if (situation.expression.find(group) == std::string_view::npos) {
+        return false;
+    }
     const bool mayBeMeant = (situation.settings.format & field::groupFraction) != 0;
     const auto isExchanged = [&](std::string_view text) {
         const std::size_t mark = text.find(decimal);
@@ -70,12 +73,12 @@ bool findsExchangedMarks(const Situation& situation, Findings& findings) {
         return mark != std::string_view::npos && groups != std::string_view::npos && groups > mark &&
                text.find(group, groups + 1) == std::string_view::npos;
     };
-    if (mayBeMeant || std::ranges::none_of(situation.words, [&](const Word& word) {
+    if (mayBeMeant || std::ranges::none_of(situation.words(), [&](const Word& word) {
             return word.isNumber() && isExchanged(word.text);
         })) {
         return false;
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     for (DraftWord& word : draft.words) {
         if (!word.isNumber() || !isExchanged(word.text)) {
             continue;
@@ -91,7 +94,14 @@ bool findsExchangedMarks(const Situation& situation, Findings& findings) {
 }
 
 bool findsDate(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const auto hasTwo = [&](char mark) {
+        const std::size_t first = situation.expression.find(mark);
+        return first != std::string_view::npos && situation.expression.find(mark, first + 1) != std::string_view::npos;
+    };
+    if (!hasTwo('-') && !hasTwo('/')) {
+        return false;
+    }
+    const Words& words = situation.words();
     constexpr std::size_t months = 12, days = 31;
     for (std::size_t i = 0; i + 4 < words.size(); ++i) {
         const bool isOne = words[i + 1].text == words[i + 3].text && (words[i + 1].is("-") || words[i + 1].is("/")) &&
@@ -113,7 +123,7 @@ bool findsApostropheGroups(const Situation& situation, Findings& findings) {
     if (situation.expression.find('\'') == std::string_view::npos) {
         return false;
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     bool found = false;
     for (DraftWord& word : draft.words) {
         const std::size_t mark = word.isNumber() ? word.text.find('\'') : std::string::npos;

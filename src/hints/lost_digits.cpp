@@ -106,11 +106,11 @@ bool findsHiddenValue(const Situation& situation, Findings& findings) {
         showsDigits(answer->text)) {
         return false;
     }
-    if (std::fabs(answer->value.re) < largestTrace && maySumToZero(situation.words)) {
+    if (std::fabs(answer->value.re) < largestTrace && maySumToZero(situation.words())) {
         return false;
     }
     constexpr Real largestTraceOfOffset = 1e-12L;
-    if (std::fabs(answer->value.re) < largestTraceOfOffset && hasScale(situation.words)) {
+    if (std::fabs(answer->value.re) < largestTraceOfOffset && hasScale(situation.words())) {
         return false;
     }
     findings[0] = scientific(*answer, someDigits);
@@ -120,11 +120,11 @@ bool findsHiddenValue(const Situation& situation, Findings& findings) {
 bool findsHiddenDigits(const Situation& situation, Findings& findings) {
     const Answer* const answer = situation.answer;
     constexpr Real million = 1e6L;
-    if (!isRealAnswer(answer) || !keepsDigits(situation.settings.format) || hasFactorial(situation.words)) {
+    if (!isRealAnswer(answer) || !keepsDigits(situation.settings.format)) {
         return false;
     }
     const Real magnitude = std::fabs(answer->value.re);
-    if (magnitude < million || magnitude > largestWhole) {
+    if (magnitude < million || magnitude > largestWhole || hasFactorial(situation.words())) {
         return false;
     }
     const bool whole = magnitude == std::trunc(magnitude);

@@ -37,9 +37,9 @@ bool isPowerOfTen(std::string_view text) {
 }  // namespace
 
 bool findsGroupsAsList(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 3 < words.size(); ++i) {
-        const bool isList = words[i].isName() && classOf(lookup(words[i].text)) == ArgumentClass::List;
+        const bool isList = words[i].keyword != 0 && classOf(words[i].keyword) == ArgumentClass::List;
         if (!isList || !words[i + 1].is("(") || !words[i + 2].isNumber() || !words[i + 3].is(")")) {
             continue;
         }
@@ -60,7 +60,7 @@ bool findsGroupsAsList(const Situation& situation, Findings& findings) {
 }
 
 bool findsComplexArgument(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 5 < words.size(); ++i) {
         const auto row = std::ranges::find_if(twoArguments,
                                               [&](const TwoArguments& entry) { return isNamed(words[i], entry.name); });
@@ -90,10 +90,10 @@ bool findsComplexArgument(const Situation& situation, Findings& findings) {
 }
 
 bool findsQuotientAsRemainder(const Situation& situation, Findings& findings) {
-    if (std::ranges::none_of(situation.words, [](const Word& word) { return isNamed(word, "mod"); })) {
+    if (std::ranges::none_of(situation.words(), [](const Word& word) { return isNamed(word, "mod"); })) {
         return false;
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     bool found = false;
     for (std::size_t i = 0; i < draft.words.size(); ++i) {
         if (draft.words[i].isName() && sameLetters(draft.words[i].text, "mod")) {
@@ -106,7 +106,7 @@ bool findsQuotientAsRemainder(const Situation& situation, Findings& findings) {
 }
 
 bool findsLogarithmOfOtherBase(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 1 < words.size(); ++i) {
         const std::size_t argument = words[i + 1].is("(") ? i + 2 : i + 1;
         if (isNamed(words[i], "lg") && argument < words.size() && isPowerOfTen(words[argument].text)) {

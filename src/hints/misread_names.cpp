@@ -85,10 +85,10 @@ bool findsOddUnit(const Situation& situation, Findings& findings) {
     const auto isOdd = [](const Word& word) {
         return std::ranges::any_of(odd, [&](const OddUnit& unit) { return isNamed(word, unit.name); });
     };
-    if (std::ranges::none_of(situation.words, isOdd)) {
+    if (std::ranges::none_of(situation.words(), isOdd)) {
         return false;
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     bool found = false;
     for (std::size_t i = 0; i < draft.words.size(); ++i) {
         const auto row = std::ranges::find_if(odd, [&](const OddUnit& unit) {
@@ -105,7 +105,7 @@ bool findsOddUnit(const Situation& situation, Findings& findings) {
 }
 
 bool findsJouleAsImaginary(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const auto isJoule = [](const Word& word) { return isNamed(word, "j"); };
     if (std::ranges::none_of(words, isJoule) || has(words, "->") || !(has(words, "+") || has(words, "-"))) {
         return false;
@@ -123,7 +123,7 @@ bool findsJouleAsImaginary(const Situation& situation, Findings& findings) {
 }
 
 bool findsUnitAsPrefix(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const auto isLetter = [](const Word& word) { return word.isName() && rowOf(gluedPrefixes, word.text) != nullptr; };
     if (std::ranges::none_of(words, isLetter) || has(words, "->")) {
         return false;
@@ -146,7 +146,7 @@ bool findsUnitAsPrefix(const Situation& situation, Findings& findings) {
 }
 
 bool findsMisreadUnit(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     const auto isMisread = [](const Word& word) { return word.isName() && rowOf(afterNumbers, word.text) != nullptr; };
     if (std::ranges::none_of(words, isMisread)) {
         return false;
@@ -168,7 +168,7 @@ bool findsMisreadUnit(const Situation& situation, Findings& findings) {
 }
 
 bool findsGravity(const Situation& situation, Findings& /*findings*/) {
-    return std::ranges::any_of(situation.words, [](const Word& word) { return word.isName() && word.is("G"); });
+    return std::ranges::any_of(situation.words(), [](const Word& word) { return word.isName() && word.is("G"); });
 }
 
 }  // namespace calquo

@@ -20,15 +20,9 @@ const Unit* unitOf(std::string_view name) {
     return units[lookup(name)];
 }
 
-bool isFunctionName(const Word& word) {
-    const std::size_t index = word.isName() ? lookup(word.text) : 0;
-    return index != 0 && classOf(index) != ArgumentClass::None;
-}
+bool isFunctionName(const Word& word) { return word.keyword != 0 && classOf(word.keyword) != ArgumentClass::None; }
 
-bool isNumberName(const Word& word) {
-    const std::size_t index = word.isName() ? lookup(word.text) : 0;
-    return index != 0 && classOf(index) == ArgumentClass::None;
-}
+bool isNumberName(const Word& word) { return word.keyword != 0 && classOf(word.keyword) == ArgumentClass::None; }
 
 bool endsOperand(const Word& word) {
     return word.isNumber() || word.is(")") || word.is("%") || word.is("!") || (word.isName() && !isFunctionName(word));

@@ -31,13 +31,13 @@ bool isShareItself(const Draft& draft, std::size_t begin, std::size_t end) {
 
 bool findsAddedPercentage(const Situation& situation, Findings& findings) {
     bool adds = false;
-    for (std::size_t i = 1; i < situation.words.size() && !adds; ++i) {
-        adds = addsPercentage(situation.words, i);
+    for (std::size_t i = 1; i < situation.words().size() && !adds; ++i) {
+        adds = addsPercentage(situation.words(), i);
     }
     if (!adds) {
         return false;
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     bool found = false;
     for (std::size_t i = 1; i + 2 < draft.words.size(); ++i) {
         const bool isSum = (draft.at(i).is("+") || draft.at(i).is("-")) && draft.endsOperand(i - 1) &&

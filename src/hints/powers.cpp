@@ -56,7 +56,7 @@ bool matches(const Words& words, std::initializer_list<std::string_view> pattern
 }  // namespace
 
 bool findsSignBeforePower(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     if (std::ranges::none_of(words, [](const Word& word) { return word.is("^") || word.is("**"); })) {
         return false;
     }
@@ -89,7 +89,7 @@ bool findsSignBeforePower(const Situation& situation, Findings& findings) {
 }
 
 bool findsFractionAsExponent(const Situation& situation, Findings& findings) {
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     for (std::size_t i = 0; i + 3 < words.size(); ++i) {
         const bool isPowerOfOne = (words[i].is("^") || words[i].is("**")) && words[i + 1].is("1");
         if (isPowerOfOne && words[i + 2].is("/") && words[i + 3].isNumber()) {
@@ -107,7 +107,7 @@ bool findsComplexRoot(const Situation& situation, Findings& findings) {
     if (situation.answer == nullptr || situation.answer->value.im == 0) {
         return false;
     }
-    const Words& words = situation.words;
+    const Words& words = situation.words();
     std::vector<std::string> numbers;
     if (matches(words, {"cbrt", "(", "-", "#", ")"}, numbers) || matches(words, {"cbrt", "-", "#"}, numbers)) {
         findings[0] = "-cbrt(" + numbers[0] + ")";

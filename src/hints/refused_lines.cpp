@@ -50,7 +50,7 @@ std::string_view unknownNameIn(const Draft& draft) {
 bool isAssignment(const Situation& situation) {
     const std::size_t equals = situation.line.find('=');
     return situation.answer->error == ErrorCode::UnknownName && equals != std::string_view::npos &&
-           situation.words.size() == 1 && situation.words[0].isName() &&
+           situation.words().size() == 1 && situation.words()[0].isName() &&
            situation.line.find_first_not_of(" \t", equals + 1) != std::string_view::npos;
 }
 
@@ -112,8 +112,7 @@ std::string hintForArguments(const Situation& situation) {
 /// The same for a corrected line, after its reason.
 std::string hintForArgumentsOf(const std::string& line, const HintSettings& settings) {
     Answer answer;
-    Words words;
-    splitIntoWords(line, words);
+    const WordsOfLine words(line);
     if (evaluates(line, settings.format, answer) || answer.error != ErrorCode::WrongArgumentCount) {
         return {};
     }
@@ -141,10 +140,10 @@ std::string hintForRefused(const Situation& situation) {
                "\" is an unknown name, and there are no variables.";
     }
     if (isAssignment(situation)) {
-        return notKnown(situation.words[0].text) +
+        return notKnown(situation.words()[0].text) +
                " There are no variables: write the value itself where it is needed.";
     }
-    Draft draft(situation.words);
+    Draft draft(situation.words());
     const std::vector<std::string> reasons = correct(draft);
     if (const std::string line = draft.text(); !reasons.empty() && !hasCountedTarget(draft) && hasResult(line)) {
         return joined(reasons) + " Write \"" + asMeant(line, situation.settings) + "\".";

@@ -14,9 +14,12 @@ namespace calquo {
 struct Situation {
     std::string_view line;        ///< The whole line, in UTF-8.
     std::string_view expression;  ///< What of it is evaluated.
-    const Words& words;           ///< The words of the expression.
-    const Answer* answer;         ///< Null where the line has no expression.
+    const WordsOfLine& splitWords;
+    const Answer* answer;  ///< Null where the line has no expression.
     const HintSettings& settings;
+
+    /// The words of the expression.
+    [[nodiscard]] const Words& words() const { return splitWords.get(); }
 };
 
 /// What a rule has found in a line: what its text puts in place of "%1", "%2" and "%3".
@@ -30,6 +33,13 @@ struct Rule {
     std::string_view source;   ///< What makes it true: a property of the language, of a table, of the format.
     bool (*finds)(const Situation& situation, Findings& findings);
     std::size_t writes = 0;  ///< The number of the finding that is a line to write instead, from 1 on; 0 for none.
+
+    // A cheap first look, for what finds nothing without it; the rule is asked about every other line.
+
+    std::string_view marks = {};  ///< Characters of ASCII that all occur in the line.
+    /// Names, with a blank between them, one of which occurs in the expression in whatever case.
+    std::string_view names = {};
+    bool (*concerns)(std::size_t keyword) = nullptr;  ///< The same, for all names of a kind.
 };
 
 }  // namespace calquo

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "engine/characters.h"
+#include "engine/keywords.h"
 #include "workarea/utf8.h"
 
 namespace calquo {
@@ -31,9 +32,12 @@ std::size_t digitsEnd(std::string_view line, std::size_t index, bool lettersToo)
 }
 
 std::size_t numberEnd(std::string_view line, std::size_t index) {
-    const std::size_t first = line.find_first_not_of("0123456789", index);
-    const bool hasPrefix = first != std::string_view::npos && first - index <= 2 && line[first] == '\'' &&
-                           isNameCharacter(characterAt(line, first + 1));
+    std::size_t first = index;
+    while (isDecimalDigit(characterAt(line, first))) {
+        ++first;
+    }
+    const bool hasPrefix =
+        first - index <= 2 && characterAt(line, first) == '\'' && isNameCharacter(characterAt(line, first + 1));
     std::size_t end = hasPrefix ? digitsEnd(line, first + 1, true) : digitsEnd(line, index, false);
     const char mark = lowerCase(characterAt(line, end));
     if (mark == '@' || (mark == 'e' && !hasPrefix)) {
@@ -63,7 +67,11 @@ Word wordAt(std::string_view line, std::size_t index) {
         return {WordKind::Foreign, line.substr(index, first ? first->length : 1)};
     }
     const std::string_view pair = line.substr(index, 2);
-    return {WordKind::Mark, std::ranges::find(doubleMarks, pair) != doubleMarks.end() ? pair : pair.substr(0, 1)};
+    // The second characters of the double marks.
+    const char second = characterAt(line, index + 1);
+    const bool mayBeDouble = second == '>' || second == '<' || second == character;
+    const bool isDouble = mayBeDouble && std::ranges::find(doubleMarks, pair) != doubleMarks.end();
+    return {WordKind::Mark, isDouble ? pair : pair.substr(0, 1)};
 }
 
 }  // namespace
@@ -78,13 +86,16 @@ void splitIntoWords(std::string_view line, Words& words) {
         }
         Word word = wordAt(line, index);
         word.afterBlank = afterBlank;
+        word.keyword = word.isName() ? lookup(word.text) : 0;
         afterBlank = false;
         index += word.text.size();
         words.push_back(word);
     }
 }
 
-bool sameLetters(std::string_view a, std::string_view b) { return std::ranges::equal(a, b, {}, lowerCase, lowerCase); }
+bool sameLetters(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::ranges::equal(a, b, {}, lowerCase, lowerCase);
+}
 
 bool isWholeNumber(std::string_view text) { return !text.empty() && std::ranges::all_of(text, isDecimalDigit); }
 

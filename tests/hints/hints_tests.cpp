@@ -18,6 +18,7 @@
 #include "console/options.h"
 #include "engine/keywords.h"
 #include "hints/correction.h"
+#include "hints/first_look.h"
 #include "hints/foreign_words.h"
 #include "hints/function_examples.h"
 #include "hints/misread_names.h"
@@ -150,6 +151,33 @@ TEST(Hints, EveryRowOfTheTablesSpeaksAboutItsExample) {
     };
     std::ranges::for_each(hintRules(), check);
     std::ranges::for_each(corrections(), check);
+}
+
+TEST(Hints, TheFirstLookLeavesOutNoRuleThatFinds) {
+    std::vector<std::string> lines;
+    for (const char* const file : {"tasks.txt", "questions.txt", "surprises.txt"}) {
+        std::ranges::transform(rowsOf(file), std::back_inserter(lines), &Row::line);
+    }
+    for (const Rule& rule : hintRules()) {
+        lines.emplace_back(rule.example);
+    }
+    std::size_t found = 0;
+    for (const std::string& line : lines) {
+        const WordsOfLine words(expressionOf(line));
+        Answer answer;
+        evaluateInto(answer, expressionOf(line), defaultFormats[0]);
+        const HintSettings settings{defaultFormats[0]};
+        const bool hasExpression = !expressionOf(line).empty();
+        const Situation situation{line, expressionOf(line), words, hasExpression ? &answer : nullptr, settings};
+        const RuleSet asked = answer.failed && hasExpression ? 0 : rulesToAsk(situation);
+        for (std::size_t i = 0; i < hintRules().size() && !(answer.failed && hasExpression); ++i) {
+            Findings findings;
+            const bool finds = hintRules()[i].finds(situation, findings);
+            EXPECT_TRUE(!finds || (asked >> i & 1) != 0) << line << ": " << hintRules()[i].when;
+            found += finds ? 1 : 0;
+        }
+    }
+    EXPECT_GT(found, hintRules().size());
 }
 
 TEST(Hints, TheAngleOptionOfTheButtonsCounts) {
