@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <limits>
 #include <new>
-#include <ranges>
 #include <utility>
 
 #include "engine/characters.h"
