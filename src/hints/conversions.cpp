@@ -19,6 +19,17 @@ bool isScale(const Word& word) {
 /// Also "r" and "k", which people hardly mean a temperature by.
 bool isLoneScale(const Word& word) { return isScale(word) || word.is("r") || word.is("R") || word.is("k"); }
 
+bool isLoneTemperature(const Words& words, std::size_t i) {
+    const bool isAtArrow = (i > 0 && words[i - 1].is("->")) || (i + 1 < words.size() && words[i + 1].is("->"));
+    return isLoneScale(words[i]) && !isAtArrow && !isNamed(words[0], "convert");
+}
+
+/// "Celsius scale".
+std::string scaleOf(const Word& scale) {
+    const std::string_view description = unitOf(scale.text)->description;
+    return std::string(description.substr(0, description.find(',')));
+}
+
 bool hasArrow(const Words& words) {
     return std::ranges::any_of(words, [](const Word& word) { return word.is("->"); });
 }
@@ -150,19 +161,53 @@ bool findsDegreeOfScale(const Situation& situation, Findings& findings) {
     return found && hasResult(findings[0]);
 }
 
+bool findsOtherDimension(const Situation& situation, Findings& findings) {
+    const Words& words = situation.words();
+    for (std::size_t i = 1; i + 1 < words.size(); ++i) {
+        const Unit* const from = words[i].is("->") ? unitOf(words[i - 1].text) : nullptr;
+        const Unit* const target = from == nullptr ? nullptr : unitOf(words[i + 1].text);
+        if (target == nullptr || target->dimension == from->dimension) {
+            continue;
+        }
+        const Draft draft(words);
+        const std::size_t begin = draft.sideBegin(i, "+-");
+        // A number, perhaps with a prefix: what is divided or multiplied may be of any dimension.
+        const auto isPlain = [&](const Word& word) {
+            return word.isNumber() || (isNumberName(word) && unitOf(word.text) == nullptr);
+        };
+        const bool isLast = i + 2 == words.size() || words[i + 2].is(")") || words[i + 2].is(";");
+        if (isLast && std::all_of(words.begin() + static_cast<std::ptrdiff_t>(begin),
+                                  words.begin() + static_cast<std::ptrdiff_t>(i) - 1, isPlain)) {
+            findings = {std::string(words[i - 1].text), std::string(words[i + 1].text), ""};
+            return true;
+        }
+    }
+    return false;
+}
+
+bool findsTemperatureAsVariable(const Situation& situation, Findings& findings) {
+    const Words& words = situation.words();
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const bool followsNumber = i > 0 && (words[i - 1].isNumber() || words[i - 1].is(")"));
+        if (words[i].text.size() == 1 && isLoneTemperature(words, i) && !followsNumber) {
+            findings = {std::string(words[i].text), scaleOf(words[i]), ""};
+            return true;
+        }
+    }
+    return false;
+}
+
 bool findsLoneTemperature(const Situation& situation, Findings& findings) {
     const Words& words = situation.words();
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const bool isAtArrow = (i > 0 && words[i - 1].is("->")) || (i + 1 < words.size() && words[i + 1].is("->"));
-        if (!isLoneScale(words[i]) || isAtArrow || isNamed(words[0], "convert")) {
+        if (!isLoneTemperature(words, i)) {
             continue;
         }
         const Unit& unit = *unitOf(words[i].text);
-        const std::string_view description = unit.description;
         const bool isFahrenheit = unit.name == "F";
         const bool isNumberOfIt = i > 0 && words[i - 1].isNumber();
         findings[0] = words[i].text;
-        findings[1] = description.substr(0, description.find(','));
+        findings[1] = scaleOf(words[i]);
         findings[2] = (isNumberOfIt ? std::string(words[i - 1].text) : "20") + " " + std::string(unit.name) + " -> " +
                       (isFahrenheit ? "C" : "F");
         return true;

@@ -14,6 +14,10 @@ bool findsConvertedPart(const Situation& situation, Findings& findings);
 bool findsDivisorSideBySide(const Situation& situation, Findings& findings);
 /// "25 deg C -> F": a degree before the name of a scale is an angle. Finds the line without it.
 bool findsDegreeOfScale(const Situation& situation, Findings& findings);
+/// "5 km -> kg": a unit of one kind and a target of another. Finds both.
+bool findsOtherDimension(const Situation& situation, Findings& findings);
+/// "2 pi r", "m*c^2": the letter of a temperature that follows no number. Finds it and its description.
+bool findsTemperatureAsVariable(const Situation& situation, Findings& findings);
 /// "72 F": a temperature without an arrow. Finds the scale's description, and a line that converts.
 bool findsLoneTemperature(const Situation& situation, Findings& findings);
 

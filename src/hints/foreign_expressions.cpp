@@ -357,6 +357,31 @@ bool replaceCalls(Draft& draft, Findings& findings) {
     return changed;
 }
 
+bool movePowers(Draft& draft, Findings& findings) {
+    for (std::size_t i = 0; i + 3 < draft.words.size(); ++i) {
+        const std::size_t index = draft.words[i].isName() ? lookup(draft.words[i].text) : 0;
+        const bool isFunction = index != 0 && classOf(index) == ArgumentClass::One && draft.at(i + 1).is("^");
+        const bool isInverse = draft.at(i + 2).is("-") && draft.at(i + 3).is("1");
+        const std::size_t argument = isInverse ? i + 4 : i + 3;
+        const std::string inverse = "a" + draft.words[i].text;
+        if (!isFunction || !draft.at(argument).is("(") || (isInverse && lookup(inverse) == 0)) {
+            continue;
+        }
+        const std::size_t end = draft.sideEnd(argument + 1, "") + 1;
+        const std::string call = draft.text(argument, end);
+        if (isInverse) {
+            findings[0] =
+                "The inverse of \"" + draft.words[i].text + "\" is \"" + std::string(nameOf(lookup(inverse))) + "\".";
+            draft.replace(i, end - i, std::string(nameOf(lookup(inverse))) + call);
+        } else {
+            findings[0] = "The power of a function follows its argument.";
+            draft.replace(i, end - i, draft.words[i].text + call + "^" + draft.at(i + 2).text);
+        }
+        return true;
+    }
+    return false;
+}
+
 bool replaceInfixFunctions(Draft& draft, Findings& findings) {
     for (std::size_t i = 1; i + 1 < draft.words.size(); ++i) {
         const DraftWord& word = draft.words[i];

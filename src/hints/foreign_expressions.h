@@ -17,6 +17,8 @@ bool joinPhrases(Draft& draft, Findings& findings);
 bool replaceOperatorWords(Draft& draft, Findings& findings);
 /// "atan2(1; 1)", "sind(30)": functions of other names. Finds the word and what is written for it.
 bool replaceCalls(Draft& draft, Findings& findings);
+/// "sin^2(30 deg)", "tan^-1(1)": a power of a function, or its inverse. Finds the reason.
+bool movePowers(Draft& draft, Findings& findings);
 /// "17 mod 5", "17 % 5", "12 and 10", "1 << 4": operators between two operands that are functions here. Finds the
 /// operator and the function.
 bool replaceInfixFunctions(Draft& draft, Findings& findings);

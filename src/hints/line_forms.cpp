@@ -119,6 +119,27 @@ bool findsDate(const Situation& situation, Findings& findings) {
     return false;
 }
 
+bool findsComparison(const Situation& situation, Findings& /*findings*/) {
+    const std::size_t equals = situation.line.find('=');
+    const std::string_view after = situation.line.substr(std::min(equals + 1, situation.line.size()));
+    const bool isUnequal = equals > 0 && situation.line[equals - 1] == '!' && !after.empty() && after.front() != ' ';
+    return isUnequal || after.starts_with('=');
+}
+
+bool findsBinaryLooks(const Situation& situation, Findings& findings) {
+    if (situation.answer == nullptr || situation.answer->outputBase != 2) {
+        return false;
+    }
+    const auto looksBinary = [](const Word& word) {
+        constexpr std::size_t digitsOfBinary = 4;
+        return word.isNumber() && word.text.size() >= digitsOfBinary && std::ranges::count(word.text, '1') > 1 &&
+               word.text.find_first_not_of("01") == std::string_view::npos;
+    };
+    const auto word = std::ranges::find_if(situation.words(), looksBinary);
+    findings[0] = word == situation.words().end() ? std::string() : std::string(word->text);
+    return !findings[0].empty();
+}
+
 bool findsApostropheGroups(const Situation& situation, Findings& findings) {
     if (situation.expression.find('\'') == std::string_view::npos) {
         return false;

@@ -15,6 +15,10 @@ bool findsUnitAfterEquals(const Situation& situation, Findings& findings);
 bool findsExchangedMarks(const Situation& situation, Findings& findings);
 /// "2026-11-21", "21/11/2026": a date, which is a difference or a quotient. Finds the date.
 bool findsDate(const Situation& situation, Findings& findings);
+/// "3!=2", "12==3": a comparison, of which all after the first "=" is no part of the expression.
+bool findsComparison(const Situation& situation, Findings& findings);
+/// "1101 '2": a number in base 10 that looks like a binary one, and is shown in base 2. Finds it.
+bool findsBinaryLooks(const Situation& situation, Findings& findings);
 /// "12'345": an apostrophe between groups of digits. Finds the number, its base, and the line without it.
 bool findsApostropheGroups(const Situation& situation, Findings& findings);
 

@@ -34,6 +34,21 @@ bool isExchanged(std::string_view text) {
            text.find(groupMark()) == group;
 }
 
+/// "1.234.567": several decimal marks, three digits after each.
+bool isGroupedByDecimalMarks(std::string_view text) {
+    if (std::ranges::count(text, decimalMark()) < 2 || text.find(groupMark()) != std::string_view::npos) {
+        return false;
+    }
+    for (std::size_t mark = text.find(decimalMark()); mark != std::string_view::npos;) {
+        const std::size_t next = text.find(decimalMark(), mark + 1);
+        if (std::min(next, text.size()) - mark - 1 != thousandsGroup) {
+            return false;
+        }
+        mark = next;
+    }
+    return true;
+}
+
 bool hasBasePrefix(std::string_view text) { return text.find('\'') != std::string_view::npos; }
 
 /// "1,2,3": single digits between two commas or more.
@@ -183,6 +198,11 @@ bool exchangeMarks(Draft& draft, Findings& findings) {
     bool changed = false;
     for (DraftWord& word : draft.words) {
         if (!word.isNumber() || hasBasePrefix(word.text) || word.text.find(';') != std::string::npos) {
+            continue;
+        }
+        if (isGroupedByDecimalMarks(word.text)) {
+            std::erase(word.text, decimalMark());
+            changed = true;
             continue;
         }
         const auto marks = std::ranges::count(word.text, groupMark());

@@ -127,6 +127,44 @@ bool replaceClockTimes(Draft& draft, Findings& findings) {
     return changed;
 }
 
+bool subtractClockTimes(Draft& draft, Findings& findings) {
+    const auto isTime = [&](std::size_t i) {
+        return isWhole(draft.at(i)) && draft.at(i + 1).is(":") && isWhole(draft.at(i + 2)) &&
+               draft.at(i).text.size() <= 2 && draft.at(i + 2).text.size() == 2;
+    };
+    const auto sum = [&](std::size_t i, int hours) {
+        return "(" + std::to_string(hours) + " hr + " + draft.at(i + 2).text + " mn)";
+    };
+    for (std::size_t i = 0; i + 6 < draft.words.size(); ++i) {
+        const std::string word = draft.at(i + 3).text;
+        const bool isUntil = sameLetters(word, "to") || sameLetters(word, "till") || sameLetters(word, "until");
+        if (!isTime(i) || !isUntil || !isTime(i + 4)) {
+            continue;
+        }
+        const int begin = std::stoi(draft.at(i).text), end = std::stoi(draft.at(i + 4).text);
+        const bool isNextDay =
+            end * 60 + std::stoi(draft.at(i + 6).text) < begin * 60 + std::stoi(draft.at(i + 2).text);
+        findings[0] = "(" + sum(i + 4, isNextDay ? end + 24 : end) + " - " + sum(i, begin) + ")";
+        draft.replace(i, 7, findings[0]);
+        return true;
+    }
+    return false;
+}
+
+bool divideRatios(Draft& draft, Findings& findings) {
+    bool changed = false;
+    for (std::size_t i = 1; i + 1 < draft.words.size(); ++i) {
+        // "sum(1:10)" is a range elsewhere, and "8:30pm" a time of the day.
+        if (draft.words[i].is(":") && draft.at(i - 1).isNumber() && draft.at(i + 1).isNumber() &&
+            !draft.at(i + 2).isName() && !draft.isInList(i)) {
+            draft.words[i].text = "/";
+            changed = true;
+        }
+    }
+    findings[0] = draft.text();
+    return changed;
+}
+
 bool splitGluedUnits(Draft& draft, Findings& /*findings*/) {
     bool changed = false;
     for (std::size_t i = 1; i < draft.words.size(); ++i) {

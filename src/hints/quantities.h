@@ -11,6 +11,10 @@ bool replaceFeetAndInches(Draft& draft, Findings& findings);
 bool replaceArcMinutes(Draft& draft, Findings& findings);
 /// "1:30", "1:30:15": a time. Finds the sum.
 bool replaceClockTimes(Draft& draft, Findings& findings);
+/// "12:30 to 17:45": from one time of the day to another. Finds the difference.
+bool subtractClockTimes(Draft& draft, Findings& findings);
+/// "16:9": a ratio.
+bool divideRatios(Draft& draft, Findings& findings);
 /// "2h30m": a unit and a number in one name.
 bool splitGluedUnits(Draft& draft, Findings& findings);
 /// "2 h 30 m", "6 foot 2 inch": a number with a unit after another. Finds the sum.

@@ -163,6 +163,10 @@ std::string hintForRefused(const Situation& situation) {
         case ErrorCode::Parentheses:
             return situation.expression.ends_with('(') ? "" : "A \")\" has no \"(\" before it.";
         case ErrorCode::InvalidFormat:
+            if (situation.expression.find_first_of("<>") != std::string_view::npos &&
+                situation.expression.find("->") == std::string_view::npos) {
+                return "There are no comparisons.";
+            }
             return hasNumbersSideBySide(draft) ? "Between two numbers an operator is missing." : "";
         default:
             return {};

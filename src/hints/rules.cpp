@@ -7,6 +7,7 @@
 #include "hints/conversions.h"
 #include "hints/line_forms.h"
 #include "hints/lost_digits.h"
+#include "hints/misread_arguments.h"
 #include "hints/misread_calls.h"
 #include "hints/misread_names.h"
 #include "hints/name_facts.h"
@@ -39,6 +40,10 @@ std::span<const Rule> hintRules() {
         {"a line begins with a letter and \"=\"",
          "There are no variables, and a line with \"%1\" at its start is left as it is.", "x=5",
          "the expression of a line is its text up to the first \"=\"", findsVariable, 0, "="},
+        {"a comparison is written",
+         "There are no comparisons: what is evaluated ends at the first \"=\", and the result takes the place of the "
+         "rest.",
+         "3!=2", "the expression of a line is its text up to the first \"=\"", findsComparison, 0, "="},
         {"a unit is asked for after \"=\"", "The arrow \"->\" converts, not \"=\". Write \"%1\".", "5 km = mile",
          "the expression of a line is its text up to the first \"=\"", findsUnitAfterEquals, 1, "="},
         {"the marks of a number have changed places", "\"%1\" is read as %2. Write \"%3\".", "1.234,56*2",
@@ -86,6 +91,12 @@ std::span<const Rule> hintRules() {
          "the units' table", findsGravity, 0, "", "G"},
         {"a unit has another size here than elsewhere", "\"%1\" has another size here. For %2, write \"%3\".",
          "20 gallonLiq -> liter", "the units' table", findsOddUnit, 3, "", "", isOddUnit},
+        {"a unit of another kind is asked for",
+         "\"%1\" and \"%2\" measure different things: the arrow only divides one by the other.", "5 km -> kg",
+         "nothing checks the kinds of units", findsOtherDimension, 0, ">"},
+        {"the letter of a temperature stands where a variable would",
+         "\"%1\" is a temperature here (%2), and there are no variables: write the value itself.", "2 pi r",
+         "the units' table", findsTemperatureAsVariable, 0, "", "", isScale},
         {"a temperature has no arrow",
          "\"%1\" is a temperature (%2): it makes sense only before an arrow. Write, for instance, \"%3\".", "72 F",
          "conversion reads the offset of a scale", findsLoneTemperature, 0, "", "", isScale},
@@ -94,6 +105,20 @@ std::span<const Rule> hintRules() {
         {"a function of one number has two arguments",
          "\"%1\" takes one number, and two make a complex one. For what two mean elsewhere write \"%2\".", "log(8; 2)",
          "two items make a complex number", findsComplexArgument, 2, "(;", "log log10 ln round sqrt"},
+        {"a rate of interest has no percent sign", "A rate is a share of 1: %1 is %2 percent. Write \"%3\".",
+         "fv(100; 1 year; 5)", "the functions of finance", findsWholeRate, 3, "(;)", "fv pv pmt dur"},
+        {"a rate of interest is divided into periods",
+         "The rate is that of a year, and the periods have arguments of their own: \"%1\" is too small. Write \"%2\".",
+         "pmt(10000; 0; 36 month; 6%/12; month)", "the functions of finance", findsDividedRate, 2, "(;)/",
+         "fv pv pmt dur"},
+        {"the base or the degree stands before the value", "The arguments are %1. The other way round write \"%2\".",
+         "logB(2; 8)", "the functions' table", findsSwappedArguments, 2, "(;)", "logB root"},
+        {"all bits are shifted out",
+         "A positive number of places shifts to the right, and no bit is left. To the left write \"%1\".",
+         "bShift(1; 8)", "the functions' table", findsBitsShiftedOut, 1, "(;)", "bShift"},
+        {"a decimal number looks like a binary one",
+         "\"%1\" is a number in base 10. The binary number of these digits is written \"2'%1\".", "1101 '2",
+         "the literals of the language", findsBinaryLooks, 0, "'"},
         {"\"mod\" looks like the remainder", "\"mod\" is the whole quotient. For the remainder write \"%1\".",
          "mod(17; 5)", "the functions' table", findsQuotientAsRemainder, 1, "", "mod"},
         {"\"lg\" looks like the decimal logarithm", "\"lg\" has the base 2. For base 10 write \"%1\".", "lg(100)",

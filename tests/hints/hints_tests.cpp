@@ -25,6 +25,7 @@
 #include "hints/rules.h"
 #include "hints/trial.h"
 #include "hints/unknown_names.h"
+#include "workarea/written_answer.h"
 
 namespace calquo {
 namespace {
@@ -217,15 +218,34 @@ TEST(Hints, LeaveTheErrorPositionAndTheRandomNumbersAsTheyAre) {
 
 // --- Normal use -----------------------------------------------------------------------------------------------------
 
-/// The lines "| `LINE` | `RESULT` |" of a page that have a result.
-std::vector<std::string> linesOfPage(const std::filesystem::path& page) {
-    static const std::regex record("^\\| `([^`]+)` \\| `([^`]*)`.*");
+/// The lines "| `LINE` | `RESULT` |" of a page that have a result, whatever stands before them, and all else in code.
+void readPage(const std::filesystem::path& page, std::vector<std::string>& lines, std::set<std::string>& code) {
+    static const std::regex record("\\| `([^`]+)` \\| `([^`]*)`"), any("`([^`]+)`");
     std::ifstream stream(page);
-    std::vector<std::string> lines;
-    std::smatch match;
     for (std::string text; std::getline(stream, text);) {
-        if (std::regex_match(text, match, record) && !match[2].str().starts_with("Error")) {
+        std::smatch match;
+        if (std::regex_search(text, match, record) && isWrittenAnswer(match[2].str()) &&
+            !match[2].str().starts_with("Error")) {
             lines.push_back(match[1]);
+        }
+        for (std::sregex_iterator each(text.begin(), text.end(), any), end; each != end; ++each) {
+            code.insert((*each)[1]);
+        }
+    }
+}
+
+/// The expressions of the tests' lines that have a result under the options of a first start.
+std::vector<std::string> testedLines() {
+    std::vector<std::string> lines;
+    for (const auto& file : std::filesystem::directory_iterator(CALQUO_TEST_LINES)) {
+        std::ifstream stream(file.path());
+        bool isUsual = true;
+        for (std::string text; std::getline(stream, text);) {
+            if (text.starts_with('#')) {
+                isUsual = text.starts_with("#:") ? text == "#:" : isUsual;
+            } else if (isUsual && text.find("= Error") == std::string::npos) {
+                lines.emplace_back(expressionOf(text));
+            }
         }
     }
     return lines;
@@ -250,9 +270,15 @@ TEST(Hints, SayNothingAboutWhatTheHelpShowsAsNormalUse) {
             pages.push_back(entry.path());
         }
     }
+    std::set<std::string> code;
     for (const auto& page : pages) {
-        for (const std::string& line : linesOfPage(page)) {
-            check(line, page.filename().string());
+        std::vector<std::string> lines;
+        readPage(page, lines, code);
+        std::ranges::for_each(lines, [&](const std::string& line) { check(line, page.filename().string()); });
+    }
+    for (const std::string& line : testedLines()) {
+        if (code.contains(line) && !met.contains(line)) {
+            check(line, "tests/lines");
         }
     }
     for (std::size_t index = 1; index <= keywordCount(); ++index) {
