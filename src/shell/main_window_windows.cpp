@@ -419,6 +419,9 @@ void MainWindow::layOut() {
     caption_->right().moveTo(positions.rightCaption);
     caption_->right().layOut();
     panels_.layOut(positions);
+    if (tips_ != nullptr && workArea_->rectangle() != positions.workArea) {
+        tips_->hide();
+    }
     workArea_->moveTo(positions.workArea);
 }
 
@@ -456,6 +459,7 @@ bool MainWindow::onKey(const KeyEvent& event) {
 }
 
 bool MainWindow::onFilesDropped(std::uintptr_t drop) {
+    tips_->hide();
     recovery_->aroundReplacement([&] { files_->readDropped(drop); });
     return true;
 }

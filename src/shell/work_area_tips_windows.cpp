@@ -168,7 +168,7 @@ bool WorkAreaTips::isMouseOnTipOrLine() const {
 }
 
 bool WorkAreaTips::takesKeyOfDetails(const KeyEvent& event) {
-    const bool asksAgain = event.key == 'D' && event.control;
+    const bool asksAgain = event.key == 'D' && event.control && !event.alt;  // not AltGr, which types
     const auto isMeant = [&](const Detail& detail) {
         return !event.control && !event.alt && static_cast<std::uint32_t>(detail.letter - 'a' + 'A') == event.key;
     };
