@@ -3,6 +3,8 @@
 
 #include "panels/button_action.h"
 #include "target.h"
+#include "widgets/key_stroke.h"
+#include "widgets/widget_text.h"
 
 namespace calquo {
 namespace {
@@ -28,6 +30,18 @@ private:
     }
 };
 
+/// What is said of a button with any text, and of any key with a label.
+void checkTexts(std::string_view text, std::size_t choice, std::size_t key) {
+    const std::string_view description = descriptionOf(text);
+    for (const bool labelIsSeen : {false, true}) {
+        require(spokenNameOf(text, labelIsSeen).ends_with(description), "a description is not read out");
+    }
+    require(withoutMnemonic(text).size() <= text.size(), "a label grows");
+    const auto modifiers = static_cast<Modifiers>(choice % (static_cast<std::size_t>(Modifiers::ControlShift) + 1));
+    const std::string name = keyText({static_cast<std::uint32_t>(key), modifiers});
+    require((key == 0) == name.empty(), "a key without a name");
+}
+
 void check(FuzzInput input) {
     InputReader reader(input);
     const auto panels = panelCatalogue();
@@ -40,6 +54,7 @@ void check(FuzzInput input) {
     const std::string text = reader.text();
     const LineSelection line{text, begin, end};
     std::visit(Checker{line}, actionOf(panel, button, line, angle));
+    checkTexts(text, begin, end);
 }
 
 const Target target("buttons", check);

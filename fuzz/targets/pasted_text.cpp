@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "target.h"
+#include "workarea/carried_result.h"
 #include "workarea/line_breaks.h"
 #include "workarea/utf8.h"
 
@@ -40,6 +41,12 @@ void check(FuzzInput input) {
             "a line ends in another way");
     require(std::ranges::none_of(read, [](char16_t unit) { return unit < u' ' && unit != u'\n' && unit != u'\t'; }),
             "a control character is left");
+    for (const char16_t unit : text) {
+        const std::u16string meant = pastedText(std::u16string_view(&unit, 1));
+        const bool goesOn = !meant.empty() && std::u16string_view(u"+-*/^ ;)").find(meant.front()) != meant.npos;
+        require(!goesOn || !beginsOperand(std::wstring(1, static_cast<wchar_t>(unit))),
+                "what is pasted as an operator begins anew");
+    }
     require(!std::ranges::all_of(text, isPlain) || read == text, "plain characters are changed");
 }
 

@@ -20,14 +20,21 @@ constexpr UnitRange continuations[] = {
     {0xBB, 0xBF},      // quotation mark, fractions
     {0xD7, 0xD7},      // multiplication
     {0xF7, 0xF7},      // division
+    {0x2B0, 0x2FF},    // small marks, like "^" and "-" among letters
+    {0x1680, 0x1680},  // a blank
     {0x2000, 0x209F},  // blanks, dashes, superscripts and subscripts
     {0x2190, 0x2219},  // arrows, operators
     {0x221B, 0x221D},  // operators after the square root
     {0x221F, 0x2BFF},  // operators after infinity, and pictures
     {0x3000, 0x3004},  // blanks and punctuation of the Far East
-    {0xFF01, 0xFF07},  // full width: "!" to "'"
+    {0xFE50, 0xFE58},  // small forms, but for "("
+    {0xFE5A, 0xFE6F},  // the same after "("
+    {0xFF01, 0xFF03},  // full width: "!" to "#"
+    {0xFF05, 0xFF07},  // "%" to "'"
     {0xFF09, 0xFF0F},  // ")" to "/"
     {0xFF1A, 0xFF20},  // ":" to "@"
+    {0xFF3B, 0xFF40},  // "[" to "`"
+    {0xFF5B, 0xFF60},  // "{" to "~", and parentheses of another kind
 };
 
 bool continues(wchar_t unit) {
