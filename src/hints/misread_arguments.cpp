@@ -115,20 +115,22 @@ bool findsSwappedArguments(const Situation& situation, Findings& findings) {
         }
         const std::string first = draft.text(arguments[0].begin, arguments[0].end);
         const std::string second = draft.text(arguments[1].begin, arguments[1].end);
-        const std::string name(words[i].text);
-        const std::string exchanged = name + "(" + second + "; " + first + ")";
+        const auto call = [&](const std::string& left, const std::string& right) {
+            return std::string(words[i].text).append("(").append(left).append("; ").append(right).append(")");
+        };
+        const std::string exchanged = call(second, first);
         Answer present, meant;
         // A root of a small degree is as likely as it looks.
         constexpr Real rareDegree = 8;
         const NumericFormat format = situation.settings.format;
-        if (!evaluates(name + "(" + first + "; " + second + ")", format, present) || isWhole(present.value.re) ||
+        if (!evaluates(call(first, second), format, present) || isWhole(present.value.re) ||
             !evaluates(exchanged, format, meant) || !isWhole(meant.value.re) || meant.value.re < 2 ||
             (isRoot && valueOf(second) < rareDegree)) {
             continue;
         }
         draft.replace(i, arguments[1].end + 1 - i, exchanged);
-        findings = {std::string(nameOf(words[i].keyword)) + "(" + std::string(argumentsOf(words[i].keyword)) + ")",
-                    draft.text(), ""};
+        const std::string form(argumentsOf(words[i].keyword));
+        findings = {std::string(nameOf(words[i].keyword)).append("(").append(form).append(")"), draft.text(), ""};
         return true;
     }
     return false;

@@ -36,6 +36,7 @@ void splitIntoWords(std::string_view line, Words& words);
 /// The words of a line, which is split when they are first asked for: many lines need no look at them.
 class WordsOfLine {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the storage of the words needs no value.
     explicit WordsOfLine(std::string_view line) : line_(line) {}
     WordsOfLine(const WordsOfLine&) = delete;
     WordsOfLine& operator=(const WordsOfLine&) = delete;
