@@ -20,7 +20,7 @@ public:
     mpfr_srcptr get() const { return number_; }
 
 private:
-    mpfr_t number_;
+    mpfr_t number_{};
 };
 
 }  // namespace calquo

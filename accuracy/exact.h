@@ -19,7 +19,7 @@ struct Exact {
     Tracked re;
     Tracked im;
 
-    Exact(Tracked real, Tracked imaginary = 0) : re(std::move(real)), im(std::move(imaginary)) {}
+    Exact(const Tracked& real, const Tracked& imaginary = 0) : re(real), im(imaginary) {}
     Exact(Real real) : re(real) {}
     Exact(const std::complex<Real>& z) : re(z.real()), im(z.imag()) {}
 
