@@ -193,7 +193,7 @@ const CodePage& windows1252() {
 void refuseTooMuchText(std::u16string_view characters, std::uint64_t mostCost) {
     TextCost cost;
     forEachUnit(
-        characters, [&](char16_t) { cost.addCharacters(1); }, [&](std::optional<LineEnd>) { cost.endLine(); });
+        characters, [&](char16_t unit) { cost.add(unit); }, [&](std::optional<LineEnd>) { cost.endLine(); });
     cost.endLine();
     if (cost.total() > mostCost) {
         throw FileFault{FileFailure::TooMuchText, {}};

@@ -17,7 +17,9 @@ constexpr bool isSecondSurrogate(char32_t code) { return code >= 0xDC00 && code 
 
 void ShownText::add(const Look& look, std::string_view characters) {
     begin(look);
-    cost_.addCharacters(characters.size());
+    for (const char character : characters) {
+        cost_.add(static_cast<unsigned char>(character));
+    }
     writer_.add(look.characters, characters);
 }
 
@@ -26,7 +28,7 @@ void ShownText::addByte(const Look& look, unsigned char byte) {
         addCharacter(look, byte);
     } else if (!isControl(byte)) {
         begin(look);
-        cost_.addCharacters(1);
+        cost_.add(byte);
         writer_.addByte(look.characters, byte);
     }
 }
@@ -36,7 +38,7 @@ void ShownText::addCharacter(const Look& look, char32_t code) {
         endLine(look);
     } else if (code == U'\t') {
         begin(look);
-        cost_.addCharacters(1);
+        cost_.add(U'\t');
         writer_.addTab(look.characters);
     } else if (isControl(code)) {
         return;
@@ -49,11 +51,11 @@ void ShownText::addCharacter(const Look& look, char32_t code) {
     } else if (isSecondSurrogate(code) && surrogate_ != 0) {
         const char32_t whole = 0x1'0000 + ((surrogate_ & 0x3FF) << 10 | (code & 0x3FF));
         surrogate_ = 0;
-        cost_.addCharacters(2);
+        cost_.add(whole, 2);
         writer_.addCharacter(look_.characters, whole);
     } else {
         begin(look);
-        cost_.addCharacters(code < 0x1'0000 ? 1 : 2);
+        cost_.add(code, code < 0x1'0000 ? 1 : 2);
         writer_.addCharacter(look.characters, isSecondSurrogate(code) ? replacement : code);
     }
 }
@@ -76,9 +78,10 @@ std::string ShownText::finish(const RichTextWriter::Header& header, bool keepsLa
 /// Writes what has waited for the character that is to follow in this look.
 void ShownText::begin(const Look& look) {
     settle();
+    refuseTooMuch();
     look_ = look;
     for (; cells_ > 0; --cells_) {
-        cost_.addCharacters(1);
+        cost_.add(U'\t');
         writer_.addTab(look.characters);
     }
 }
@@ -95,13 +98,18 @@ void ShownText::settle() {
 void ShownText::settleSurrogate() {
     if (surrogate_ != 0) {
         surrogate_ = 0;
-        cost_.addCharacters(1);
+        cost_.add(replacement);
         writer_.addCharacter(look_.characters, replacement);
     }
 }
 
 void ShownText::count() {
     cost_.endLine();
+    refuseTooMuch();
+}
+
+/// Soon, where a line is too long, and not at its end.
+void ShownText::refuseTooMuch() const {
     if (cost_.total() > mostCost_) {
         throw FileFault{FileFailure::TooMuchText, {}};
     }

@@ -17,7 +17,7 @@ struct Look {
 };
 
 /// Leaves control characters out, makes pairs of surrogates, lines of whatever breaks a line, and tabs of what stands
-/// between the cells of a table. Every line end throws FileFault, TooMuchText, when the TextCost is above the most.
+/// between the cells of a table. Throws FileFault, TooMuchText, when the TextCost is above the most.
 class ShownText {
 public:
     explicit ShownText(std::uint64_t mostCost) : mostCost_(mostCost) {}
@@ -40,6 +40,7 @@ private:
     void settle();
     void settleSurrogate();
     void count();
+    void refuseTooMuch() const;
 
     std::uint64_t mostCost_;
     RichTextWriter writer_;

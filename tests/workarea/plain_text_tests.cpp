@@ -124,6 +124,9 @@ TEST(PlainText, WhatIsNoneOrTooMuchIsRefused) {
     EXPECT_EQ(failureToDecode(repeated(200'000, "x")), FileFailure::TooMuchText);
     EXPECT_EQ(failureToDecode(repeated(5'000, repeated(2'000, "x") + "\n")), std::nullopt);
     EXPECT_EQ(failureToDecode(repeated(10'000, repeated(2'000, "x") + "\n")), FileFailure::TooMuchText);
+    // So do changes between letters, digits and marks.
+    EXPECT_EQ(failureToDecode(repeated(100'000, repeated(20, "a b") + "\n")), std::nullopt);
+    EXPECT_EQ(failureToDecode(repeated(100'000, repeated(20, "a1,") + "\n")), FileFailure::TooMuchText);
 }
 
 TEST(PlainText, EveryTextIsReadAsItWasWritten) {
