@@ -19,8 +19,8 @@ namespace calquo {
 /// where b and d are the largest such denominators (Hardy and Wright, An Introduction to the Theory of Numbers, chapter
 /// 3); it is closest when neither neighbour is closer.
 inline bool isClosest(const mpq_class& fraction, const mpq_class& x, const mpz_class& limit) {
-    const mpz_class p = fraction.get_num();
-    const mpz_class q = fraction.get_den();
+    const mpz_class& p = fraction.get_num();
+    const mpz_class& q = fraction.get_den();
     mpz_class inverse = 0;
     if (q > 1) {
         mpz_invert(inverse.get_mpz_t(), p.get_mpz_t(), q.get_mpz_t());

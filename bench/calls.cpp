@@ -15,7 +15,7 @@ namespace {
 
 struct Call {
     std::string line;
-    std::chrono::steady_clock::duration time;
+    std::chrono::steady_clock::duration time{};
 };
 
 std::chrono::steady_clock::duration timeOf(const std::string& line) {

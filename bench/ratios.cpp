@@ -73,6 +73,7 @@ private:
         constexpr int rounds = 31;
         const InputFile input(repeated(words, 1));
         std::vector<double> taken;
+        taken.reserve(rounds);
         for (int round = 0; round < rounds; ++round) {
             taken.push_back(secondsOf(command, input));
         }

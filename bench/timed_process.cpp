@@ -21,6 +21,7 @@ class Process {
 public:
     Process(const std::vector<std::string>& command, int input) {
         std::vector<char*> arguments;
+        arguments.reserve(command.size() + 1);
         for (const std::string& word : command) {
             arguments.push_back(const_cast<char*>(word.c_str()));
         }

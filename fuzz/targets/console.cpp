@@ -68,6 +68,7 @@ struct Run {
 
 int statusOf(const std::vector<std::string>& arguments, int input, int output, int messages) {
     std::vector<const char*> all;
+    all.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         all.push_back(argument.c_str());
     }

@@ -208,7 +208,8 @@ void checkButton(InputReader& reader) {
     }
     const auto symbol = static_cast<Symbol>(reader.byte() % (static_cast<int>(Symbol::Close) + 1));
     const Coverage coverage = coverageOf(shapeOf(symbol), 1 + reader.byte());
-    require(coverage.alpha.size() == static_cast<std::size_t>(coverage.size.width * coverage.size.height),
+    require(coverage.alpha.size() ==
+                static_cast<std::size_t>(coverage.size.width) * static_cast<std::size_t>(coverage.size.height),
             "a picture lacks pixels");
     require(repeatDelay(reader.byte() % 4) >= 250 && repeatInterval(reader.byte() % 32) >= 30, "a button races");
     ButtonPress press(reader.byte() % 2 == 0);

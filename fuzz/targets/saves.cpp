@@ -76,7 +76,7 @@ private:
     }
 
     void save(const std::wstring& name) {
-        const std::string bytes = "own " + std::to_string(revision_);
+        std::string bytes = "own " + std::to_string(revision_);
         auto before = contents();
         try {
             const std::wstring kept = known_.save(name, revision_, [&] { return bytes; });
