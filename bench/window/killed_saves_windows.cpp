@@ -1,6 +1,6 @@
-// killed_saves [ROUNDS]: starts itself to save one of two sheets after the other to one file, as rich and as plain text,
-// and kills that process at some moment, so many times; ends with status 1 when the file has vanished, or is neither of
-// the two sheets.
+// killed_saves [ROUNDS]: starts itself to save one of two sheets after the other to one file, as rich and as plain
+// text, and kills that process at some moment, so many times; ends with status 1 when the file has vanished, or is
+// neither of the two sheets.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
