@@ -128,7 +128,7 @@ void KnownFiles::note(Row row) {
 
 std::wstring KnownFiles::nameToKeep(const std::wstring& name) {
     for (int number = 1;; ++number) {
-        const std::wstring kept = keptName(name, number);
+        std::wstring kept = keptName(name, number);
         if (kept.size() > longestPath) {
             throw FileFault{FileFailure::PathTooLong, {}};
         }
