@@ -132,7 +132,8 @@ bool findsShortArgument(const Situation& situation, Findings& findings) {
         const std::string call = std::string(words[i].text) + "(" + draft.text(i + 1, end) + ")";
         draft.replace(i, std::min(end, words.size()) - i, call);
         findings = {std::string(words[i].text), draft.text(), ""};
-        return hasResult(findings[1]);
+        // "tan 90 deg": that there is none is what there is to know.
+        return hasResult(findings[1]) || isOneOf(ofAngles, words[i]);
     }
     return false;
 }
