@@ -27,6 +27,8 @@ void checkReadable(const Palette& palette, const SystemColors& system) {
     }
 }
 
+std::int32_t numberOf(Color color) { return color.red << 16 | color.green << 8 | color.blue; }
+
 bool looksLike(std::int32_t number, Color color) {
     constexpr int lowestBits = 7;
     return ((number >> 16 ^ color.red) & 0xFF) <= lowestBits && ((number >> 8 ^ color.green) & 0xFF) <= lowestBits &&
@@ -40,6 +42,9 @@ void checkWayBack(const Palette& palette, InputReader& reader) {
         return;
     }
     const ColorChange toFile = colors.toFile();
+    require(
+        looksLike(numberOf(colors.normal()), palette.sheet.ink) && looksLike(numberOf(colors.result()), palette.result),
+        "the program's own text is in another colour");
     constexpr std::size_t mostColors = 500;
     std::set<std::int32_t> seen;
     while (!reader.isAtEnd() && seen.size() < mostColors) {
