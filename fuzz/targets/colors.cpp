@@ -38,10 +38,11 @@ bool looksLike(std::int32_t number, Color color) {
 void checkWayBack(const Palette& palette, InputReader& reader) {
     ShownColors colors(palette);
     const ColorChange toScreen = colors.toScreen();
-    if (!toScreen.ofCharacters) {
+    const ColorChange toFile = colors.toFile();
+    if (!colors.areChanged()) {
+        require(!toScreen.ofCharacters && !toFile.behindThem, "colours are changed to what they are");
         return;
     }
-    const ColorChange toFile = colors.toFile();
     require(
         looksLike(numberOf(colors.normal()), palette.sheet.ink) && looksLike(numberOf(colors.result()), palette.result),
         "the program's own text is in another colour");

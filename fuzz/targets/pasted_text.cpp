@@ -44,8 +44,9 @@ void check(FuzzInput input) {
     for (const char16_t unit : text) {
         const std::u16string meant = pastedText(std::u16string_view(&unit, 1));
         const bool goesOn = !meant.empty() && std::u16string_view(u"+-*/^ ;)").find(meant.front()) != meant.npos;
-        require(!goesOn || !beginsOperand(std::wstring(1, static_cast<wchar_t>(unit))),
-                "what is pasted as an operator begins anew");
+        const bool begins = beginsOperand(std::wstring(1, static_cast<wchar_t>(unit)));
+        require(!goesOn || !begins, "what is pasted as an operator begins anew");
+        require(begins || unit < u'\x3B1' || unit > u'\x3C9', "a letter of Greek goes on");
     }
     require(!std::ranges::all_of(text, isPlain) || read == text, "plain characters are changed");
 }
