@@ -94,6 +94,8 @@ private:
     bool canHaveFocus(WindowHandle window) const;
     WindowLayout layout() const;
     WindowParts parts() const;
+    /// The window around a client area of a size, from the corner of that.
+    static Rectangle windowAroundClient(Size client);
     Size smallestWindow() const;
     void moveWhereItCanBeReached();
     void layOut();

@@ -1,4 +1,4 @@
-// The main window's class, its messages and its layout.
+// The main window's class, its beginning and end, and its messages; its layout is in main_window_layout_windows.cpp.
 #include "shell/main_window.h"
 
 #include <algorithm>
@@ -26,12 +26,6 @@ namespace {
 constexpr WindowStyle windowStyle{
     WS_POPUP | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 
-/// What a usable work area measures at least, in buttons.
-constexpr Size smallestWorkAreaInButtons{10, 5};
-
-/// How much of the caption a person needs to drag the window: three buttons, half as high.
-Size draggedPiece() { return {3 * buttonSize(), buttonSize() / 2}; }
-
 /// The pop-up menus of the caption's buttons begin this far to the left of and above the button, in pixels.
 constexpr int menuOffset = 8;
 
@@ -50,11 +44,6 @@ public:
 private:
     Action action_;
 };
-
-/// The maximized window on the screen that a window is on.
-Rectangle maximizedRectangleOf(HWND window) {
-    return maximizedRectangle(screenOf(window).usableArea, windowAround({}, windowStyle, scale()));
-}
 
 }  // namespace
 
@@ -93,6 +82,8 @@ MainWindow::MainWindow(Settings& settings, UserDialogs dialogs, StartFiles files
 }
 
 MainWindow::~MainWindow() { destroy(); }
+
+Rectangle MainWindow::windowAroundClient(Size client) { return windowAround(client, windowStyle, scale()); }
 
 // --- Beginning and end ----------------------------------------------------------------------------------------------
 
@@ -311,124 +302,6 @@ void MainWindow::onSystemColors() {
 }
 
 HitArea MainWindow::onHitTest(HitArea byClass) const { return byClass == HitArea::Client ? HitArea::Caption : byClass; }
-
-// --- Layout ---------------------------------------------------------------------------------------------------------
-
-WindowLayout MainWindow::layout() const { return layOutWindow(clientSize(handle()), parts()); }
-
-WindowParts MainWindow::parts() const {
-    WindowParts parts;
-    parts.leftCaption = caption_->left().preferredSize();
-    parts.rightCaption = caption_->right().preferredSize();
-    parts.panels = panels_.preferredSizes();
-    parts.panelsHidden = settings_.boolean(BooleanSetting::HideButtons);
-    parts.smallestWorkArea = {smallestWorkAreaInButtons.width * buttonSize(),
-                              smallestWorkAreaInButtons.height * buttonSize()};
-    return parts;
-}
-
-Size MainWindow::smallestWindow() const {
-    const Rectangle needed = windowAround(smallestClient(parts()), windowStyle, scale());
-    // More than the screen has would put a part of the window out of reach.
-    const Rectangle most = maximizedRectangleOf(handle());
-    return {std::min(needed.width, most.width), std::min(needed.height, most.height)};
-}
-
-std::optional<SizeLimits> MainWindow::sizeLimits() const {
-    const Rectangle most = maximizedRectangleOf(handle());
-    const Rectangle screen = screenOf(handle()).whole;
-    SizeLimits limits{{most.left - screen.left, most.top - screen.top, most.width, most.height}, std::nullopt};
-    if (caption_ != nullptr) {
-        limits.smallest = smallestWindow();
-    }
-    return limits;
-}
-
-void MainWindow::moveWhereItCanBeReached() {
-    const Rectangle rectangle = windowRectangle(handle());
-    WindowReach reach;
-    reach.frame = windowAround({}, windowStyle, scale());
-    reach.captionHeight = caption_->left().preferredSize().height;
-    reach.captionPiece = draggedPiece();
-    reach.smallest = smallestWindow();
-    // A stored rectangle counts as it is: the layout enlarges it where it must. The system's choice may have no size.
-    reach.mayBeSmall = settings_.windowRect().has_value();
-    const Rectangle reachable = reachableRectangle(rectangle, reach, usableAreasAround(handle()));
-    if (reachable != rectangle) {
-        MoveWindow(handle(), reachable.left, reachable.top, reachable.width, reachable.height, FALSE);
-    }
-}
-
-bool MainWindow::onPlacing(Rectangle& rectangle) {
-    // The system works out the place on other screens from that on the main one.
-    const bool isMaximized = IsZoomed(handle()) != 0 && IsIconic(handle()) == 0;
-    if (isMaximized) {
-        rectangle = maximizedRectangle(screenAt(rectangle).usableArea, windowAround({}, windowStyle, scale()));
-    }
-    return isMaximized;
-}
-
-bool MainWindow::onMoved() {
-    if (!created_) {
-        return true;
-    }
-    if (IsIconic(handle()) == 0) {
-        caption_->showMaximized(IsZoomed(handle()) != 0);
-        layOut();
-        InvalidateRect(handle(), nullptr, FALSE);
-        if (GetFocus() == handle()) {
-            SetFocus(focusTarget());  // what is minimized could not pass it on
-        }
-    }
-    // Also while minimized or maximized: the next start is to find the last rectangle that the system reported.
-    const RECT edges = edgesOf(windowRectangle(handle()));
-    settings_.setWindowRect({edges.left, edges.top, edges.right, edges.bottom});
-    return true;
-}
-
-bool MainWindow::onScaleChanged(int dotsPerInch, const Rectangle& suggested) {
-    setScale(dotsPerInch);
-    if (commands_ == nullptr) {
-        return true;  // there is nothing yet that has a scale
-    }
-    hideHint();
-    caption_->left().fitToScale();
-    caption_->right().fitToScale();
-    panels_.fitToScale();
-    workArea_->fitToScale();
-    MoveWindow(handle(), suggested.left, suggested.top, suggested.width, suggested.height, FALSE);
-    layOutAndRefresh();
-    return true;
-}
-
-void MainWindow::layOut() {
-    const bool isSizable = IsZoomed(handle()) == 0 && IsIconic(handle()) == 0;
-    if (isSizable && !isSizing_) {
-        const Rectangle window = windowRectangle(handle());
-        const Rectangle place = growth_.rectangleFor(window, smallestWindow(), maximizedRectangleOf(handle()));
-        if (place != window) {
-            isSizing_ = true;
-            SetWindowPos(handle(), nullptr, place.left, place.top, place.width, place.height,
-                         SWP_NOZORDER | SWP_NOACTIVATE);
-            isSizing_ = false;
-        }
-    }
-    const WindowLayout positions = layout();
-    caption_->left().moveTo(positions.leftCaption);
-    caption_->left().layOut();
-    caption_->right().moveTo(positions.rightCaption);
-    caption_->right().layOut();
-    panels_.layOut(positions);
-    if (tips_ != nullptr && workArea_->rectangle() != positions.workArea) {
-        tips_->hide();
-    }
-    workArea_->moveTo(positions.workArea);
-}
-
-void MainWindow::layOutAndRefresh() {
-    layOut();
-    RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE | RDW_ALLCHILDREN);
-}
 
 bool MainWindow::onTimer(std::uintptr_t timer) {
     // A hundred windows take longer than all else in a start, and nobody sees them but the mouse.

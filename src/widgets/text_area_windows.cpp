@@ -1,16 +1,16 @@
-// The rich edit control of the text area.
+// The rich edit control of the text area: its looks, its keys and its places. What it streams is in
+// text_area_streams_windows.cpp, and what exchanges it for another control in text_area_controls_windows.cpp.
 #include "widgets/text_area.h"
 
 #include <algorithm>
-#include <cstring>
 #include <cwchar>
 #include <limits>
-#include <new>
 #include <utility>
 
 #include "widgets/fonts.h"
 #include "widgets/painting.h"
 #include "widgets/screens.h"
+#include "widgets/text_control.h"
 #include "widgets/toolkit.h"
 #include "widgets/windows_api.h"
 
@@ -22,7 +22,6 @@ constexpr wchar_t controlClass[] = L"RichEdit20A";
 constexpr wchar_t unicodeClass[] = L"RichEdit20W";
 constexpr DWORD controlStyle =
     WS_VSCROLL | WS_CLIPSIBLINGS | ES_MULTILINE | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
-constexpr UINT unicodeCodePage = 1200;
 constexpr LPARAM largestText = std::numeric_limits<std::int32_t>::max() - 1;
 
 /// The fonts to choose from: the first that is installed is taken. All have digits of equal width, so that results
@@ -31,32 +30,6 @@ constexpr const wchar_t* fontNames[] = {L"Consolas", L"DejaVu Sans Mono", L"Libe
 constexpr int fontPoints = 12;
 constexpr int twipsPerPoint = 20;
 constexpr int margin = 8;  // at 96 dots per inch
-
-constexpr char plainParagraph[] = "\\pard\\ql ";
-
-/// Appends text to a rich text: its special characters escaped, everything that is not printed in ASCII by number.
-void appendEscaped(std::string& richText, std::wstring_view text) {
-    for (const wchar_t unit : text) {
-        if (unit == L'\n' || unit == L'\r') {
-            richText.append("\\par").append(plainParagraph);  // aligned like none of its neighbours
-        } else if (unit == L'\t') {
-            richText += "\\tab ";
-        } else if (unit == L'\\' || unit == L'{' || unit == L'}') {
-            richText += '\\';
-            richText += static_cast<char>(unit);
-        } else if (unit >= L' ' && unit < 0x7F) {
-            richText += static_cast<char>(unit);
-        } else {
-            richText += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + ' ';
-        }
-    }
-}
-
-/// A color table's entry.
-std::string colorEntry(COLORREF color) {
-    return "\\red" + std::to_string(GetRValue(color)) + "\\green" + std::to_string(GetGValue(color)) + "\\blue" +
-           std::to_string(GetBValue(color)) + ";";
-}
 
 /// The style as the control takes it, with its font and without anything that a style does not say.
 CHARFORMAT2W formatOf(CharacterStyle style, const std::wstring& fontName) {
@@ -112,85 +85,6 @@ bool isFormatKey(const KeyEvent& event) {
     const bool edits = !event.shift && editing.find(static_cast<wchar_t>(event.key)) != std::wstring_view::npos;
     return event.control && !event.alt && !event.released && isCharacter && !edits;
 }
-
-/// Hands the control the next piece of the text that `rest`, a string_view's address, still holds.
-DWORD CALLBACK readPiece(DWORD_PTR rest, LPBYTE buffer, LONG room, LONG* count) {
-    std::string_view& text = *reinterpret_cast<std::string_view*>(rest);
-    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(room));
-    std::memcpy(buffer, text.data(), length);
-    text.remove_prefix(length);
-    *count = static_cast<LONG>(length);
-    return 0;
-}
-
-/// Takes a piece of the control's text to the end of `text`, a string's address.
-DWORD CALLBACK takePiece(DWORD_PTR text, LPBYTE piece, LONG length, LONG* count) {
-    try {
-        reinterpret_cast<std::string*>(text)->append(reinterpret_cast<const char*>(piece),
-                                                     static_cast<std::size_t>(length));
-    } catch (const std::bad_alloc&) {
-        return ERROR_NOT_ENOUGH_MEMORY;
-    }
-    *count = length;
-    return 0;
-}
-
-/// The number of UTF-16 units in the text; a line end counts as one.
-std::int32_t lengthOf(HWND window) {
-    GETTEXTLENGTHEX wanted{GTL_NUMCHARS | GTL_PRECISE, unicodeCodePage};
-    return static_cast<std::int32_t>(SendMessageW(window, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&wanted), 0));
-}
-
-/// While it lives, the window does not paint what happens to it.
-class PaintingPause {
-public:
-    explicit PaintingPause(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
-    ~PaintingPause() {
-        SendMessageW(window_, EM_SCROLLCARET, 0, 0);
-        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-        RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_NOERASE);
-    }
-    PaintingPause(const PaintingPause&) = delete;
-    PaintingPause& operator=(const PaintingPause&) = delete;
-
-private:
-    HWND window_;
-};
-
-/// Whether the whole text shows in the window, scrolled or not.
-bool fits(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    POINTL first{}, last{};
-    SendMessageW(window, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&first), 0);
-    SendMessageW(window, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), lengthOf(window));
-    return last.y - first.y < client.bottom;
-}
-
-/// Shows the scroll bar before a text that will need it. When the bar takes its room after the text, the control
-/// breaks all lines a second time, which in Wine's takes the square of their number where some are wrapped.
-class EarlyScrollBar {
-public:
-    EarlyScrollBar(HWND window, std::size_t bytes) : window_(window), isShown_(bytes >= much) {
-        if (isShown_) {
-            ShowScrollBar(window_, SB_VERT, TRUE);
-        }
-    }
-    ~EarlyScrollBar() {
-        // Many bytes may show little.
-        if (isShown_ && fits(window_)) {
-            ShowScrollBar(window_, SB_VERT, FALSE);
-        }
-    }
-    EarlyScrollBar(const EarlyScrollBar&) = delete;
-    EarlyScrollBar& operator=(const EarlyScrollBar&) = delete;
-
-private:
-    static constexpr std::size_t much = 20'000;
-
-    HWND window_;
-    bool isShown_;
-};
 
 }  // namespace
 
@@ -340,7 +234,7 @@ std::wstring TextArea::charactersIn(TextRange range) const {
     return characters;
 }
 
-std::wstring TextArea::characters() const { return charactersIn({0, lengthOf(handle())}); }
+std::wstring TextArea::characters() const { return charactersIn({0, lengthOfText(handle())}); }
 
 Point TextArea::pointOf(std::int32_t position) const {
     POINTL point{};
@@ -395,75 +289,9 @@ void TextArea::replace(TextRange range, const std::vector<StyledRun>& runs, std:
     select({caret, caret});
 }
 
-std::string TextArea::richTextIn(TextRange range) {
-    const PaintingPause pause(handle());
-    const TextRange before = selection();
-    select(range);
-    std::string text = streamOut(SF_RTF | SFF_SELECTION | SF_USECODEPAGE | CP_UTF8 << 16);
-    select(before);
-    return text;
-}
-
-bool TextArea::replaceByRichText(TextRange range, std::string_view text) {
-    const PaintingPause pause(handle());
-    const TextRange before = selection();
-    const std::int32_t length = lengthOf(handle());
-    select(range);
-    const bool taken = streamIntoSelection(text, SF_RTF);
-    if (!taken) {
-        // Where nothing was taken out or in, the last step is the user's own.
-        if (range.begin != range.end || lengthOf(handle()) != length) {
-            SendMessageW(handle(), EM_UNDO, 0, 0);
-        }
-        select(before);
-    }
-    return taken;
-}
-
-bool TextArea::replaceSelectionByRichText(std::string_view text) {
-    const PaintingPause pause(handle());
-    const TextRange selected = selection();
-    const std::int32_t after = lengthOf(handle()) - selected.end;
-    const bool taken = replaceByRichText(selected, text);
-    if (taken) {
-        const std::int32_t caret = lengthOf(handle()) - after;
-        select({caret, caret});
-    }
-    return taken;
-}
-
 void TextArea::insertLineEnd() {
     const std::int32_t begin = selection().begin;
     replace(selection(), {{L"\n", normal_}}, begin + 1);
-}
-
-std::string TextArea::richText(const std::vector<StyledRun>& runs, std::string begin) const {
-    std::string body = std::move(begin);
-    std::string head = "{\\rtf1\\ansi\\deff0\\uc0{\\fonttbl{\\f0\\fnil ";
-    appendEscaped(head, fontName_);
-    head += ";}}{\\colortbl;";
-    // Set back first whatever the neighbours have; "plain" alone leaves raised and hidden characters so in Wine's
-    // control.
-    const std::string font = "{\\plain\\v0\\nosupersub\\f0\\fs" + std::to_string(2 * fontPoints);
-    int color = 0;
-    for (const StyledRun& run : runs) {
-        head += colorEntry(run.style.color);
-        body += font + (run.style.bold ? "\\b" : "\\b0") + "\\cf" + std::to_string(++color) + ' ';
-        appendEscaped(body, run.text);
-        body += '}';
-    }
-    return head + "}" + body + "}";
-}
-
-bool TextArea::streamIn(std::string_view bytes, std::uint32_t format) {
-    const EarlyScrollBar scrollBar(handle(), bytes.size());
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&bytes), 0, readPiece};
-    SendMessageW(handle(), EM_STREAMIN, format, reinterpret_cast<LPARAM>(&stream));
-    return stream.dwError == 0;
-}
-
-bool TextArea::streamIntoSelection(std::string_view bytes, std::uint32_t format) {
-    return streamIn(bytes, format | SFF_SELECTION);
 }
 
 /// Puts a rich text into a control that is empty, without a step for undo.
@@ -474,28 +302,7 @@ bool TextArea::fill(std::string_view richText) {
     return taken;
 }
 
-// --- The whole text -------------------------------------------------------------------------------------------------
-
-std::string TextArea::streamOut(std::uint32_t format) const {
-    std::string text;
-    EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&text), 0, takePiece};
-    SendMessageW(handle(), EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
-    if (stream.dwError != 0) {
-        throw std::bad_alloc();
-    }
-    return text;
-}
-
-std::string TextArea::contentAsRichText() const { return streamOut(SF_RTF | SF_USECODEPAGE | CP_UTF8 << 16); }
-
-std::wstring TextArea::contentAsPlainText() const {
-    const std::string bytes = streamOut(SF_TEXT | SF_UNICODE);
-    std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
-    std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
-    return text;
-}
-
-bool TextArea::isEmpty() const { return lengthOf(handle()) == 0; }
+bool TextArea::isEmpty() const { return lengthOfText(handle()) == 0; }
 
 std::uint32_t TextArea::revision() {
     if (hasGoneBack_ || SendMessageW(handle(), EM_GETMODIFY, 0, 0) != 0) {
@@ -506,38 +313,6 @@ std::uint32_t TextArea::revision() {
     return revision_;
 }
 
-bool TextArea::replaceContentByRichText(std::string_view text) { return replaceContent(text, SF_RTF); }
-
-bool TextArea::replaceContentByPlainText(std::wstring_view text) {
-    const PaintingPause pause(handle());
-    if (!givesNormalStyle()) {
-        // Another style of what is there would be a step of its own.
-        return replaceContent(richText({{std::wstring(text), normal_}}, plainParagraph), SF_RTF);
-    }
-    const auto* const bytes = reinterpret_cast<const char*>(text.data());
-    return replaceContent({bytes, text.size() * sizeof(wchar_t)}, SF_TEXT | SF_UNICODE);
-}
-
-bool TextArea::replaceContent(std::string_view bytes, std::uint32_t format) {
-    const PaintingPause pause(handle());
-    const TextRange before = selection();
-    const bool wasEmpty = lengthOf(handle()) == 0;
-    // In place of a selection, the stream is one step for undo.
-    SendMessageW(handle(), EM_SETSEL, 0, -1);
-    const bool taken = streamIntoSelection(bytes, format);
-    const std::int32_t length = lengthOf(handle());
-    if (taken) {
-        SendMessageW(handle(), EM_SETMODIFY, TRUE, 0);
-        select({length, length});
-        return true;
-    }
-    if (!wasEmpty || length != 0) {
-        SendMessageW(handle(), EM_UNDO, 0, 0);
-    }
-    select(before);
-    return false;
-}
-
 /// Whether plain text in place of the whole text would look normal. It takes its look from the first character, or from
 /// the caret where there is none, and its paragraphs from those that were there.
 bool TextArea::givesNormalStyle() {
@@ -545,7 +320,7 @@ bool TextArea::givesNormalStyle() {
     const TextRange before = selection();
     SendMessageW(handle(), EM_SETSEL, 0, -1);
     const bool isInPlainParagraphs = isPlain(paragraphFormatOf(handle()));
-    if (lengthOf(handle()) == 0) {
+    if (lengthOfText(handle()) == 0) {
         select({0, 0});
         format(handle(), SCF_SELECTION, normal);
         return isInPlainParagraphs;
@@ -578,8 +353,6 @@ bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view 
     SendMessageW(handle(), EM_SETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
     return taken;
 }
-
-// --- Editing --------------------------------------------------------------------------------------------------------
 
 bool TextArea::canPaste() const { return SendMessageW(handle(), EM_CANPASTE, 0, 0) != 0; }
 void TextArea::undo() { SendMessageW(handle(), EM_UNDO, 0, 0); }
