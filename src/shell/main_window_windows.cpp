@@ -1,8 +1,6 @@
 // The main window's class, its beginning and end, and its messages; its layout is in main_window_layout_windows.cpp.
 #include "shell/main_window.h"
 
-#include <algorithm>
-
 #include "hints/hints.h"
 #include "numeric/random.h"
 #include "shell/command_ids.h"
