@@ -426,6 +426,7 @@ Section "Uninstall"
     DeleteRegKey HKCU "${SETTINGS_KEY}"
     DeleteRegKey /ifempty HKCU "Software\${SITE}"
 
+    Delete "${KEPT_SHEETS}\Kept file name.txt" ; what the next start would have told of
     RMDir "${KEPT_SHEETS}" ; where it is empty
     ${If} ${FileExists} "${KEPT_SHEETS}\*.*"
         MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "${NAME} has kept sheets that you have not saved, in ${KEPT_SHEETS}.$\r$\n$\r$\nDelete them as well?" /SD IDNO IDNO leave

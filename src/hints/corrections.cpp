@@ -49,7 +49,7 @@ std::span<const Correction> corrections() {
          replaceArcMinutes},
         {"feet and inches have their signs", "Feet and inches are added as units.", "6'2\"", "the units' table",
          replaceFeetAndInches},
-        {"a span of time has its begin and its end", "The span is the difference of two times.", "12:30 to 17:45",
+        {"a span of time is given by its beginning and its end", "The span is the difference of two times.", "12:30 to 17:45",
          "the units' table", subtractClockTimes},
         {"a time has a colon", "A time is a sum of units.", "1:30 + 0:45", "the units' table", replaceClockTimes},
         {"a ratio has a colon", "A ratio is a division.", "16:9", "the operators of the language", divideRatios},

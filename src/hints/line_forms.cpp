@@ -121,9 +121,14 @@ bool findsDate(const Situation& situation, Findings& findings) {
 
 bool findsComparison(const Situation& situation, Findings& /*findings*/) {
     const std::size_t equals = situation.line.find('=');
-    const std::string_view after = situation.line.substr(std::min(equals + 1, situation.line.size()));
+    if (equals == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view after = situation.line.substr(equals + 1);
+    // "5!=120": the result of a factorial, where no blank was typed.
+    const bool isResult = situation.answer != nullptr && after == situation.answer->text;
     const bool isUnequal = equals > 0 && situation.line[equals - 1] == '!' && !after.empty() && after.front() != ' ';
-    return isUnequal || after.starts_with('=');
+    return (isUnequal && !isResult) || after.starts_with('=');
 }
 
 bool findsBinaryLooks(const Situation& situation, Findings& findings) {

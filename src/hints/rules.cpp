@@ -130,6 +130,7 @@ std::span<const Rule> hintRules() {
         {"a small result shows few of its digits", "The format shows %2 of this small result, which is %1.",
          "54000/235e6", "the digits of the format", findsFewDigits},
     });
+    static_assert(rules.size() <= mostHintRules);
     return rules;
 }
 

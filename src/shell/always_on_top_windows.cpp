@@ -18,7 +18,8 @@ void addAlwaysOnTop(WindowHandle window) {
 }
 
 bool runAlwaysOnTop(WindowHandle window, std::uint16_t command) {
-    if (command != alwaysOnTop) {
+    constexpr std::uint16_t ownBits = 0xFFF0;
+    if ((command & ownBits) != alwaysOnTop) {
         return false;
     }
     const bool isOn = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "shell/command_ids.h"
@@ -38,7 +39,10 @@ public:
     /// Saves to the file that was read or saved last, and lets the user choose one when there is none.
     void saveAgain();
     /// What stands on the work area now is of no file: saveAgain lets the user choose one.
-    void forgetFile() { lastFile_.clear(); }
+    void forgetFile() {
+        lastFile_.clear();
+        replaced_.reset();
+    }
     /// Reads the file that a message of the system's tells of by its word parameter.
     void readDropped(std::uintptr_t drop);
 
@@ -47,7 +51,15 @@ public:
     void actOnChosenFile(Command command);
 
 private:
+    /// A text, and the file that it was read from or saved to last.
+    struct Replaced {
+        std::size_t textHash;
+        std::wstring file;
+    };
+
     std::wstring defaultFile() const;
+    /// None where there is no memory to look at the text.
+    std::optional<Replaced> present() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
     std::wstring write(const std::wstring& file, bool mayAsk);
@@ -58,6 +70,8 @@ private:
     const UserDialogs& dialogs_;
     WorkAreaFile file_;
     std::wstring lastFile_;  ///< Was read or saved last; empty before that.
+    /// What the last reading replaced. When it is undone, the text is again of the file that it was of.
+    std::optional<Replaced> replaced_;
 };
 
 }  // namespace calquo

@@ -1,6 +1,8 @@
 // The file commands: they ask for a name, read or save, and tell what went wrong.
 #include "shell/file_commands.h"
 
+#include <new>
+
 #include "shell/dropped_files.h"
 #include "shell/file_messages.h"
 #include "widgets/windows_api.h"
@@ -99,7 +101,9 @@ void FileCommands::actOnChosenFile(Command command) {
 void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
+        const std::optional<Replaced> replaced = present();
         file_.read(file);
+        replaced_ = replaced;
         lastFile_ = file;
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
@@ -109,6 +113,7 @@ void FileCommands::read(const std::wstring& file) {
 void FileCommands::save(const std::wstring& file) {
     try {
         const std::wstring kept = write(file, true);
+        replaced_.reset();
         lastFile_ = file;
         if (!kept.empty()) {
             dialogs_.showHint(keptFileHint(kept));
@@ -127,7 +132,21 @@ std::wstring FileCommands::write(const std::wstring& file, bool mayAsk) {
     });
 }
 
+std::optional<FileCommands::Replaced> FileCommands::present() const {
+    try {
+        return Replaced{std::hash<std::wstring>{}(workArea_.characters()), lastFile_};
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
 void FileCommands::saveAgain() {
+    if (replaced_) {
+        const std::optional<Replaced> now = present();
+        if (now && now->textHash == replaced_->textHash) {
+            lastFile_ = replaced_->file;
+        }
+    }
     if (lastFile_.empty()) {
         actOnChosenFile(Command::SaveAsFile);
     } else {

@@ -204,7 +204,7 @@ void MainWindow::onActivation(Activation activation) {
 }
 
 bool MainWindow::canHaveFocus(WindowHandle window) const {
-    return commands_->isOpenDialog(window) || IsChild(handle(), window) != 0;
+    return commands_->isOpenDialog(window) || (IsChild(handle(), window) != 0 && IsWindowVisible(window) != 0);
 }
 
 WindowHandle MainWindow::focusTarget() const { return canHaveFocus(lastFocus_) ? lastFocus_ : workArea_->handle(); }

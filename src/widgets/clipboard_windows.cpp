@@ -18,7 +18,7 @@ HGLOBAL memoryWith(const void* bytes, std::size_t count) {
     return memory;
 }
 
-/// Gives the open clipboard memory in a format of its.
+/// Gives the open clipboard memory in one format.
 bool give(UINT format, HGLOBAL& memory) {
     const bool isTaken = SetClipboardData(format, memory) != nullptr;
     if (isTaken) {

@@ -43,7 +43,7 @@ struct PlainButtons {
     friend bool operator==(const PlainButtons&, const PlainButtons&) = default;
 };
 
-/// Without anything else said, the program's own colours.
+/// By default the program's own colours.
 struct Palette {
     InkAndGround sheet{black, white};
     Color result{0, 0, 139};

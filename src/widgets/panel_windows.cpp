@@ -69,8 +69,10 @@ bool Panel::onMouse(const MouseEvent& event) {
         POINT point{event.position.left, event.position.top};
         ClientToScreen(handle(), &point);
         const HWND pressed = WindowFromPoint(point);
-        ScreenToClient(pressed, &point);
-        PostMessageW(pressed, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        if (IsChild(handle(), pressed) != 0) {
+            ScreenToClient(pressed, &point);
+            PostMessageW(pressed, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        }
     }
     return true;
 }

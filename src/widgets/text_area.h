@@ -109,8 +109,8 @@ public:
     bool changeLooks(CharacterStyle normal, Color paper, std::string_view text);
 
     /// Puts a rich text, which may be as long as it likes, in place of the whole text, selects a range of it and shows
-    /// as much of it as was shown before. One step for undo, as quick one way as the other: the control with the old
-    /// text makes room for another. False, with the text as it was, when a control does not take it.
+    /// as much of it as was shown before. One step for undo, which is as quick, because the control with the old
+    /// text is kept and shown again. False, with the text as it was, when a control does not take it.
     bool exchangeContent(std::string_view richText, TextRange selected);
 
     bool canUndo() const;
@@ -138,7 +138,7 @@ protected:
     const std::wstring& fontName() const { return fontName_; }
     static int fontHalfPoints();
 
-    /// Another control shows the text from now on; what was said to the first one is to be said again.
+    /// Another control shows the text from now on; its settings must be made again.
     virtual void onOtherControl() {}
     /// Keeps a margin around the text.
     void onPlaced() override;
@@ -173,7 +173,7 @@ private:
     std::optional<std::intptr_t> stepBetweenControls(std::uint32_t message);
     bool typeInNormalStyle(wchar_t character);
     void makeEmptyParagraphPlain(std::int32_t caret);
-    /// `begin` comes before all runs.
+    /// `begin` is written before the runs.
     std::string richText(const std::vector<StyledRun>& runs, std::string begin = {}) const;
     bool streamIn(std::string_view bytes, std::uint32_t format);
     bool streamIntoSelection(std::string_view bytes, std::uint32_t format);
@@ -186,6 +186,7 @@ private:
     Color paper_;
     std::wstring fontName_;
     HiddenControls earlier_, later_;
+    bool hadOwnRedo_ = false;  ///< The shown control, when it was shown again.
     std::uint32_t revision_ = 0;
     bool hasGoneBack_ = false;  ///< By undo or redo, which the control's modified flag does not show.
 };

@@ -23,12 +23,15 @@ bool TextArea::exchangeContent(std::string_view richText, TextRange selected) {
         destroy();
         attach(std::move(old));
     };
+    std::size_t shownText = 0;
     try {
         makeHiddenControlLike(old.get());
         if (!fill(richText)) {
             goBack();
             return false;
         }
+        shownText = hashOfText();
+        earlier_.reserve(earlier_.size() + 1);
     } catch (...) {
         goBack();
         throw;
@@ -36,8 +39,9 @@ bool TextArea::exchangeContent(std::string_view richText, TextRange selected) {
     select(selected);
     scrollTo(place);
     showInPlaceOf(old.get());
-    earlier_.push_back({std::move(old), hashOfText()});
+    earlier_.push_back({std::move(old), shownText});
     later_.clear();
+    hadOwnRedo_ = false;
     forgetOldest();
     return true;
 }
@@ -89,9 +93,11 @@ bool TextArea::isNext(const HiddenControls& controls) const {
 }
 
 void TextArea::takeNext(HiddenControls& from, HiddenControls& to) {
+    to.reserve(to.size() + 1);
     WindowOwner old = giveUpControl();
     attach(std::move(from.back().window));
     from.pop_back();
+    hadOwnRedo_ = canStep(handle(), EM_CANREDO);
     // The window may have another place or scale by now.
     const auto [left, top, width, height] = rectangle();
     SetWindowPos(handle(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -101,7 +107,10 @@ void TextArea::takeNext(HiddenControls& from, HiddenControls& to) {
 }
 
 std::optional<std::intptr_t> TextArea::stepBetweenControls(std::uint32_t message) {
-    if (message == EM_REDO ? isNext(later_) : !canStep(handle(), EM_CANUNDO) && isNext(earlier_)) {
+    // What was typed since, and undone, comes before the later control.
+    const bool hasOwnStep =
+        message == EM_REDO ? canStep(handle(), EM_CANREDO) && !hadOwnRedo_ : canStep(handle(), EM_CANUNDO);
+    if (!hasOwnStep && isNext(message == EM_REDO ? later_ : earlier_)) {
         message == EM_REDO ? takeNext(later_, earlier_) : takeNext(earlier_, later_);
         return 1;
     }

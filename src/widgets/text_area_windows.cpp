@@ -131,6 +131,10 @@ bool TextArea::onKey(const KeyEvent& event) {
     if (isFormatKey(event)) {
         return true;
     }
+    if (event.shift && event.alt && !event.released && event.key == VK_BACK) {
+        redo();
+        return true;
+    }
     if (!event.shift && event.control != event.alt && !event.released) {
         if (event.key == (event.control ? 'Z' : VK_BACK)) {
             undo();

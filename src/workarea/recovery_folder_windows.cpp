@@ -20,7 +20,7 @@ std::wstring environmentText(const wchar_t* name) {
     return text;
 }
 
-std::wstring fileOfName(const std::wstring& folder) { return folder + L"\\File to tell of.txt"; }
+std::wstring fileOfName(const std::wstring& folder) { return folder + L"\\Kept file name.txt"; }
 
 }  // namespace
 
@@ -90,6 +90,8 @@ std::wstring takeNameToTell(const std::wstring& folder) {
         name.resize(std::min(name.size(), longestPath));
     } catch (const FileFault&) {
         // Then there is nothing to tell.
+    } catch (const std::bad_alloc&) {
+        return {};  // the next start may have room for it
     }
     DeleteFileW(fileOfName(folder).c_str());
     return name;

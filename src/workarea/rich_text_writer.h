@@ -48,7 +48,7 @@ struct ParagraphFormat {
     friend bool operator==(const ParagraphFormat&, const ParagraphFormat&) = default;
 };
 
-/// How characters look of whose looks nothing is said: in black, and in nothing but a font.
+/// The look of characters without a format: black, in this font.
 struct UsualLook {
     std::string font;  ///< Its name, as rich text has it.
     std::int32_t halfPoints = 24;

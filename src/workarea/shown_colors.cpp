@@ -60,7 +60,7 @@ ColorChange ShownColors::toScreen() {
     if (!areChanged_) {
         return {};
     }
-    // Where no colour is said, the control takes the system's.
+    // Text without a colour gets the system's from the control.
     return {[this](std::int32_t color) { return color == unset ? unset : characters_.shadeOf(color, normal_); },
             [this](std::int32_t color) { return color == unset ? unset : backgrounds_.shadeOf(color, paper_); }};
 }

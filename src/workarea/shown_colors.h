@@ -20,6 +20,10 @@ public:
     bool areChanged() const { return areChanged_; }
     Color normal() const { return normal_; }
     Color result() const { return result_; }
+    /// Whether new texts look the same on the screen as those of another one do.
+    bool looksLike(const ShownColors& other) const {
+        return normal_ == other.normal_ && result_ == other.result_ && paper_ == other.paper_;
+    }
 
     /// From the colours of a file to those on the screen, and back; nothing to change unless contrast is high. They
     /// are not to outlive this. Beyond 512 colours, more than a file has, the others look and are saved as normal text

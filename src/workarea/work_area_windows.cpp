@@ -133,6 +133,9 @@ std::string WorkArea::sheetAsRichText() const {
 
 void WorkArea::takeColors() {
     ShownColors colors(palette());
+    if (colors.looksLike(colors_)) {
+        return;  // the colours that have changed are none of the sheet's
+    }
     const std::string text = shownIn(colors, sheetAsRichText(), unlimitedCost);
     if (changeLooks({colorReference(colors.normal())}, palette().sheet.ground, text)) {
         colors_ = std::move(colors);

@@ -165,8 +165,15 @@ TEST(FileCommands, KeysSaveToTheLastFileAndReadAnother) {
     press('S');
     EXPECT_EQ(folder.bytes(L"b.txt"), "7*8 = 56\r\n\r\n56");
     EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
+    // A reading that is undone takes its file away with it.
+    user.choice.name = folder.path(L"a.txt");
+    press('O');
+    press('Z');
+    press('S');
+    EXPECT_EQ(folder.bytes(L"b.txt"), "7*8 = 56\r\n\r\n56");
+    EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
     EXPECT_EQ(folder.names().size(), 2u);
-    EXPECT_EQ(user.requests.size(), 2u);
+    EXPECT_EQ(user.requests.size(), 3u);
 }
 
 /// The message's parameter for files that are dropped.

@@ -297,6 +297,21 @@ TEST(WorkArea, ManyNewResultsAreOneStepAmongTheOthers) {
     fixture.press('Z', VK_CONTROL);
     EXPECT_TRUE(fixture.text() == typed);
     EXPECT_EQ(GetFocus(), first);
+    // What is typed and undone now comes before what the other control shows.
+    fixture.type("3");
+    const std::wstring other = fixture.text();
+    fixture.press('Z', VK_CONTROL);
+    EXPECT_TRUE(fixture.text() == typed);
+    fixture.press('Y', VK_CONTROL);
+    EXPECT_TRUE(fixture.text() == other);
+    fixture.press('Z', VK_CONTROL);
+    fixture.workArea().evaluateAll();
+    EXPECT_TRUE(fixture.text() == right);
+    fixture.select(right.size(), right.size());
+    fixture.type("8");
+    fixture.press('Z', VK_CONTROL);
+    fixture.press('Z', VK_CONTROL);
+    EXPECT_TRUE(fixture.text() == typed);
     fixture.undo();
     EXPECT_FALSE(fixture.text() == typed);
     for (const std::wstring& text : {typed, right, after}) {
