@@ -307,8 +307,9 @@ TEST(WorkArea, ManyNewResultsAreOneStepAmongTheOthers) {
     fixture.press('Z', VK_CONTROL);
     fixture.workArea().evaluateAll();
     EXPECT_TRUE(fixture.text() == right);
-    fixture.select(right.size(), right.size());
+    fixture.select(2 + 8 + 6, 2 + 8 + 7);
     fixture.type("8");
+    EXPECT_TRUE(fixture.text() == after);
     fixture.press('Z', VK_CONTROL);
     fixture.press('Z', VK_CONTROL);
     EXPECT_TRUE(fixture.text() == typed);
