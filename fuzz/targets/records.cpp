@@ -6,6 +6,7 @@
 #include "target.h"
 #include "values/errors.h"
 #include "workarea/visible_text.h"
+#include "workarea/written_answer.h"
 
 namespace calquo {
 namespace {
@@ -37,9 +38,14 @@ void checkRecord(const std::string& line, Options options) {
         return;  // a check allows groups of any length
     }
 
+    const std::string_view tail = std::string_view(record).substr(std::min(record.find('=') + 1, record.size()));
+    const bool isNote = !isWrittenAnswer(tail);
     options.record = false;
     options.check = true;
     applyToEngine(options);
+    if (isNote && isWrittenAnswer(tail)) {
+        return;  // what is a note with the groups of this format may be a result with others
+    }
     seedRandom(seed);
     std::string output;
     require(LineAnswerer(options).check(record, "", output) && output.empty(), "a record is found wrong");

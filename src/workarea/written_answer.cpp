@@ -39,10 +39,14 @@ public:
         return take({&character, 1});
     }
     bool takeLiteral() {
-        Real number = 0;
-        const std::size_t length = readNumber(text_, place_, number);
-        place_ += length;
-        return length != 0;
+        try {
+            Real number = 0;
+            const std::size_t length = readNumber(text_, place_, number);
+            place_ += length;
+            return length != 0;
+        } catch (const Except&) {
+            return false;  // a literal with a mistake in it
+        }
     }
 
     bool takeValue() {
@@ -101,13 +105,9 @@ private:
 
 bool isWrittenAnswer(std::string_view text) {
     const std::string_view answer = withoutBlanksAround(text);
-    try {
-        AnswerReader value(answer);
-        if (value.takeValue() && value.isAtEnd()) {
-            return true;
-        }
-    } catch (const Except&) {
-        return false;  // a literal with a mistake in it
+    AnswerReader value(answer);
+    if (value.takeValue() && value.isAtEnd()) {
+        return true;
     }
     AnswerReader error(answer);
     return error.takeError() && error.isAtEnd();
