@@ -41,7 +41,7 @@ public:
     /// What stands on the work area now is of no file: saveAgain lets the user choose one.
     void forgetFile() {
         lastFile_.clear();
-        replaced_.reset();
+        reading_.reset();
     }
     /// Reads the file that a message of the system's tells of by its word parameter.
     void readDropped(std::uintptr_t drop);
@@ -52,14 +52,18 @@ public:
 
 private:
     /// A text, and the file that it was read from or saved to last.
-    struct Replaced {
+    struct TextOfFile {
         std::size_t textHash;
         std::wstring file;
+    };
+    /// What the last reading replaced, and by what.
+    struct Reading {
+        TextOfFile before, after;
     };
 
     std::wstring defaultFile() const;
     /// None where there is no memory to look at the text.
-    std::optional<Replaced> present() const;
+    std::optional<TextOfFile> present() const;
     void read(const std::wstring& file);
     void save(const std::wstring& file);
     std::wstring write(const std::wstring& file, bool mayAsk);
@@ -70,8 +74,8 @@ private:
     const UserDialogs& dialogs_;
     WorkAreaFile file_;
     std::wstring lastFile_;  ///< Was read or saved last; empty before that.
-    /// What the last reading replaced. When it is undone, the text is again of the file that it was of.
-    std::optional<Replaced> replaced_;
+    /// When it is undone, the text is again of the file that it was of, and when it is done again, of the other.
+    std::optional<Reading> reading_;
 };
 
 }  // namespace calquo

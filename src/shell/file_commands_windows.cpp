@@ -101,10 +101,11 @@ void FileCommands::actOnChosenFile(Command command) {
 void FileCommands::read(const std::wstring& file) {
     try {
         const WaitCursor busy;
-        const std::optional<Replaced> replaced = present();
+        const std::optional<TextOfFile> before = present();
         file_.read(file);
-        replaced_ = replaced;
         lastFile_ = file;
+        const std::optional<TextOfFile> after = present();
+        reading_ = before && after ? std::optional<Reading>({*before, *after}) : std::nullopt;
     } catch (const FileFault& fault) {
         dialogs_.showBox(owner_, readFailedBox(file, fault));
     }
@@ -113,7 +114,7 @@ void FileCommands::read(const std::wstring& file) {
 void FileCommands::save(const std::wstring& file) {
     try {
         const std::wstring kept = write(file, true);
-        replaced_.reset();
+        reading_.reset();
         lastFile_ = file;
         if (!kept.empty()) {
             dialogs_.showHint(keptFileHint(kept));
@@ -132,25 +133,26 @@ std::wstring FileCommands::write(const std::wstring& file, bool mayAsk) {
     });
 }
 
-std::optional<FileCommands::Replaced> FileCommands::present() const {
+std::optional<FileCommands::TextOfFile> FileCommands::present() const {
     try {
-        return Replaced{std::hash<std::wstring>{}(workArea_.characters()), lastFile_};
+        return TextOfFile{std::hash<std::wstring>{}(workArea_.characters()), lastFile_};
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     }
 }
 
 void FileCommands::saveAgain() {
-    if (replaced_) {
-        const std::optional<Replaced> now = present();
-        if (now && now->textHash == replaced_->textHash) {
-            lastFile_ = replaced_->file;
+    const std::optional<Reading> reading = reading_;
+    if (const auto now = reading ? present() : std::nullopt) {
+        for (const TextOfFile& side : {reading->after, reading->before}) {
+            lastFile_ = now->textHash == side.textHash ? side.file : lastFile_;
         }
     }
     if (lastFile_.empty()) {
         actOnChosenFile(Command::SaveAsFile);
     } else {
         save(lastFile_);
+        reading_ = reading;
     }
 }
 

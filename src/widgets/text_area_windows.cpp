@@ -337,8 +337,7 @@ bool TextArea::givesNormalStyle() {
 
 bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view text) {
     const TextRange selected = selection();
-    POINT place{};
-    SendMessageW(handle(), EM_GETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
+    const Point place = scrolled();
     revision();
     const auto look = [&] {
         std::swap(normal_, normal);
@@ -354,7 +353,7 @@ bool TextArea::changeLooks(CharacterStyle normal, Color paper, std::string_view 
     }
     SendMessageW(handle(), EM_SETMODIFY, FALSE, 0);
     select(selected);
-    SendMessageW(handle(), EM_SETSCROLLPOS, 0, reinterpret_cast<LPARAM>(&place));
+    scrollTo(place);
     return taken;
 }
 

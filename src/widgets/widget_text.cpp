@@ -1,4 +1,4 @@
-// The vertical bar.
+// The vertical bar between label and description, and which of the two is said.
 #include "widgets/widget_text.h"
 
 #include <algorithm>

@@ -165,10 +165,12 @@ TEST(FileCommands, KeysSaveToTheLastFileAndReadAnother) {
     press('S');
     EXPECT_EQ(folder.bytes(L"b.txt"), "7*8 = 56\r\n\r\n56");
     EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
-    // A reading that is undone takes its file away with it.
+    // A reading that is undone takes its file away with it, and one that is done again brings it back.
     user.choice.name = folder.path(L"a.txt");
     press('O');
     press('Z');
+    press('S');
+    press('Y');
     press('S');
     EXPECT_EQ(folder.bytes(L"b.txt"), "7*8 = 56\r\n\r\n56");
     EXPECT_EQ(folder.bytes(L"a.txt"), "2+3+4");
